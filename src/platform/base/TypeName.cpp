@@ -1,0 +1,43 @@
+#include "platform/base/TypeName.h"
+
+#include <cxxabi.h>
+
+#include <cstdlib>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <typeindex>
+#include <unordered_map>
+
+namespace
+{
+
+std::string Demangle(const char* pMangled)
+{
+    struct TFree {
+        void operator()(char* pText) const noexcept
+        {
+            std::free(pText); // the demangler allocates with malloc
+        }
+    };
+    int nStatus = 0;
+    const std::unique_ptr<char, TFree> pName(
+        abi::__cxa_demangle(pMangled, nullptr, nullptr, &nStatus));
+    return nStatus == 0 && pName ? std::string(pName.get()) : std::string(pMangled);
+}
+
+} // namespace
+
+std::string_view gTypeName(const std::type_info& rType)
+{
+    // Never destroyed: a window that is destroyed at the very end may still ask for its name.
+    static auto& rMutex = *new std::mutex;
+    static auto& rNames = *new std::unordered_map<std::type_index, std::string>;
+
+    const std::lock_guard lock(rMutex);
+    const auto [it, bNew] = rNames.try_emplace(std::type_index(rType));
+    if (bNew) {
+        it->second = Demangle(rType.name());
+    }
+    return it->second; // the map never moves its nodes
+}

@@ -1,0 +1,68 @@
+#include "platform/ui/Desktop.h"
+
+#include "platform/ui/FileDialog.h"
+
+#include <stdexcept>
+
+namespace
+{
+IDesktop* spDesktop = nullptr;
+
+/// While it lives, the windows take no user action.
+class COpenBox
+{
+public:
+    explicit COpenBox(TUiThread& rThread) : mrThread(rThread) { ++mrThread.mnOpenBoxes; }
+    ~COpenBox() { --mrThread.mnOpenBoxes; }
+    COpenBox(const COpenBox&) = delete;
+    COpenBox& operator=(const COpenBox&) = delete;
+
+private:
+    TUiThread& mrThread;
+};
+} // namespace
+
+std::unique_ptr<IWindowPeer> IDesktop::MakePeer(CWnd&)
+{
+    return nullptr;
+}
+
+void IDesktop::OnMessagePosted() {}
+
+IDesktop* gFindDesktop()
+{
+    return spDesktop;
+}
+
+IDesktop& gDesktop()
+{
+    if (!spDesktop)
+        throw std::logic_error("no desktop is set: windows need one to be created");
+    return *spDesktop;
+}
+
+IDesktop* gSetDesktop(IDesktop* pDesktop)
+{
+    IDesktop* const pBefore = spDesktop;
+    spDesktop = pDesktop;
+    return pBefore;
+}
+
+int gShowMessageBox(const TMessageBox& rBox)
+{
+    IDesktop& rDesktop = gDesktop();
+    const COpenBox openBox(rDesktop.Thread());
+    return rDesktop.ShowMessageBox(rBox);
+}
+
+int AfxMessageBox(const CString& rsText, UINT nFlags)
+{
+    return gShowMessageBox({nullptr, rsText, std::nullopt, nFlags});
+}
+
+TFileChoice gChooseFile(const TFileDialog& rDialog)
+{
+    IDesktop& rDesktop = gDesktop();
+    const COpenBox openBox(rDesktop.Thread());
+    return rDesktop.ChooseFile(rDialog);
+}

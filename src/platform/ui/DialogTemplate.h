@@ -1,0 +1,83 @@
+#pragma once
+
+#include "platform/ui/Geometry.h"
+
+#include <span>
+#include <string_view>
+
+/// The kinds of control that a template can hold. Each desktop draws each of them.
+enum class EControl {
+    Label,         ///< text beside a field: its caption (`LabelOf`) or its unit (`UnitOf`)
+    Static,        ///< a text of its own: a heading, a note, a summary
+    Group,         ///< a titled frame; a sibling of what it surrounds, not a parent
+    Frame,         ///< an empty rectangle that marks a place
+    Edit,          ///< one line of text
+    MultilineEdit, ///< several lines, joined by CR LF
+    PushButton,
+    DefaultButton, ///< the push button that Enter presses
+    CheckBox,
+    RadioButton,  ///< one of a group: rows of one key that stand together
+    DropDownList, ///< a choice among entries
+    DropDown,     ///< a choice among entries, or a text typed by the user
+    ListBox,
+    Tree,
+    Table,
+    Tabs,
+};
+
+/// The name of a kind, lower case, as `describe` prints it: "edit", "drop-down-list", "radio"...
+std::string_view gControlName(EControl kind);
+
+/// Properties of a control at its creation, to be combined with |.
+enum EControlFlag : unsigned {
+    kNoFlags = 0,
+    kHidden = 1U << 0,       ///< not shown at first
+    kDisabled = 1U << 1,     ///< disabled at first
+    kFirstOfGroup = 1U << 2, ///< the first button of a radio group
+    kWantReturn = 1U << 3,   ///< multi-line edit: Enter starts a new line
+    kSorted = 1U << 4,       ///< the entries are kept in alphabetical order
+    kReadOnly = 1U << 5,     ///< the user can read and copy the text, not change it
+    kUnlabelled = 1U << 6,   ///< a field that is meant to have no label
+    kHeading = 1U << 7,      ///< static: the pane's heading, centred
+};
+
+/// One control of a template.
+struct TControlRow {
+    int nId; ///< unique in the template
+    const char*
+        pKey; ///< permanent name for scripts, tests and accessibility; a label has its field's
+    EControl kind;
+    const char* pLabel; ///< label, caption or text, with '&' before the mnemonic
+    TRect rect;         ///< place in the dialog, in dialog units
+    unsigned nFlags = kNoFlags;
+    unsigned nLayers = 0; ///< bit mask of the layers that show the control; 0: all of them
+    std::span<const char* const> entries = {}; ///< the entries of a list at its creation
+};
+
+/// One control of a template, in the order of the members above.
+constexpr TControlRow Row(int nId, const char* pKey, EControl kind, const char* pLabel,
+                          const TRect& rRect, unsigned nFlags = kNoFlags, unsigned nLayers = 0,
+                          std::span<const char* const> entries = {})
+{
+    return {nId, pKey, kind, pLabel, rRect, nFlags, nLayers, entries};
+}
+
+/// A dialog or a pane as data.
+struct DialogTemplate {
+    int nId; ///< the template's number, unique among all templates
+    const char* pCaption;
+    TSize size;
+    std::span<const TControlRow> rows; ///< in tab order
+};
+
+/// The id of the label that belongs to field `nId`.
+constexpr int LabelOf(int nId)
+{
+    return nId + 10000;
+}
+
+/// The id of the unit that stands behind field `nId`.
+constexpr int UnitOf(int nId)
+{
+    return nId + 20000;
+}

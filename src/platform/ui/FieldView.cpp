@@ -1,0 +1,53 @@
+#include "platform/ui/FieldView.h"
+
+#include "platform/ui/Button.h"
+
+#include <algorithm>
+
+namespace
+{
+bool IsField(const CWnd& rWnd)
+{
+    return *rWnd.GetKey() && rWnd.GetKind() != EControl::Label && rWnd.GetKind() != EControl::Frame;
+}
+} // namespace
+
+std::vector<TFieldView> gCollectFields(const CWnd& rPane)
+{
+    std::vector<TFieldView> fields;
+    for (CWnd* pChild : rPane.GetChildren()) {
+        if (!IsField(*pChild))
+            continue;
+        auto* const pButton = dynamic_cast<CButton*>(pChild);
+        const bool bRadio = pButton && pButton->IsRadio();
+        if (bRadio && !fields.empty() && fields.back().sKey == pChild->GetKey()) {
+            fields.back().radios.push_back(pButton);
+            continue;
+        }
+        const int nId = pChild->GetDlgCtrlID();
+        TFieldView field{pChild->GetKey(), pChild->GetKind(), pChild, {}, nullptr, nullptr};
+        if (bRadio)
+            field.radios.push_back(pButton);
+        field.pLabel = rPane.GetDlgItem(LabelOf(nId));
+        field.pUnit = rPane.GetDlgItem(UnitOf(nId));
+        fields.push_back(std::move(field));
+    }
+    return fields;
+}
+
+CDialog& gCurrentPane(CDialog& rDialog)
+{
+    for (CWnd* pChild : rDialog.GetChildren())
+        if (auto* const pPane = dynamic_cast<CDialog*>(pChild); pPane && pPane->IsShown())
+            return *pPane;
+    return rDialog;
+}
+
+TFieldView gFindField(CDialog& rDialog, std::string_view sKey)
+{
+    for (CDialog* pPane : {&gCurrentPane(rDialog), &rDialog})
+        for (const TFieldView& rField : gCollectFields(*pPane))
+            if (rField.sKey == sKey)
+                return rField;
+    return {};
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/ui/Dialog.h"
+
+#include <string_view>
+#include <vector>
+
+class CButton;
+
+/// A field as the user sees it: one key with all the windows that belong to it.
+struct TFieldView {
+    std::string_view sKey;          ///< lives as long as the control
+    EControl kind = EControl::Edit; ///< RadioButton for a group
+    CWnd* pControl = nullptr;       ///< the control; for a radio group its first button
+    std::vector<CButton*> radios;   ///< the buttons of a radio group, in order
+    CWnd* pLabel = nullptr;         ///< the label beside the field, or null
+    CWnd* pUnit = nullptr;          ///< the unit behind it, or null
+};
+
+/// The fields of one pane or dialog in template order, hidden ones too: all controls but labels,
+/// units and place markers. The children of panes inside it are not among them.
+std::vector<TFieldView> gCollectFields(const CWnd& rPane);
+
+/// What a dialog shows for its user to fill in: its visible pane, or itself if it has none.
+CDialog& gCurrentPane(CDialog& rDialog);
+
+/// The field with this key in the dialog's current pane or else in the dialog itself; one without a
+/// control when there is none.
+TFieldView gFindField(CDialog& rDialog, std::string_view sKey);

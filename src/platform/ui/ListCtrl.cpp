@@ -1,0 +1,134 @@
+#include "platform/ui/ListCtrl.h"
+
+#include <algorithm>
+
+int CListCtrl::InsertColumn(int nColumn, const CString& rsHeading, int, int nWidth, int)
+{
+    if (!IsCreated())
+        return -1;
+    const int nAt = std::clamp(nColumn, 0, GetColumnCount());
+    mColumns.insert(mColumns.begin() + nAt, {rsHeading, nWidth});
+    for (TRow& rRow : mRows)
+        if (static_cast<std::size_t>(nAt) < rRow.cells.size())
+            rRow.cells.insert(rRow.cells.begin() + nAt, CString());
+    Announce(EAspect::Items);
+    return nAt;
+}
+
+void CListCtrl::SetColumnWidth(int nColumn, int nWidth)
+{
+    if (!IsColumn(nColumn))
+        return;
+    mColumns[static_cast<std::size_t>(nColumn)].nWidth = nWidth;
+    Announce(EAspect::Place);
+}
+
+int CListCtrl::InsertItem(int nRow, const CString& rsText)
+{
+    if (!IsCreated())
+        return -1;
+    const int nAt = std::clamp(nRow, 0, GetItemCount());
+    mRows.insert(mRows.begin() + nAt, TRow{{rsText}, 0});
+    if (mnSelected >= nAt)
+        ++mnSelected;
+    Announce(EAspect::Items);
+    return nAt;
+}
+
+void CListCtrl::DeleteAllItems()
+{
+    mRows.clear();
+    mnSelected = -1;
+    Announce(EAspect::Items);
+}
+
+CString CListCtrl::GetItemText(int nRow, int nColumn) const
+{
+    if (!IsRow(nRow) || nColumn < 0)
+        return {};
+    const auto& rCells = mRows[static_cast<std::size_t>(nRow)].cells;
+    const auto nCell = static_cast<std::size_t>(nColumn);
+    return nCell < rCells.size() ? rCells[nCell] : CString();
+}
+
+bool CListCtrl::SetItemText(int nRow, int nColumn, const CString& rsText)
+{
+    if (!IsRow(nRow) || !IsColumn(nColumn))
+        return false;
+    auto& rCells = mRows[static_cast<std::size_t>(nRow)].cells;
+    const auto nCell = static_cast<std::size_t>(nColumn);
+    if (nCell >= rCells.size())
+        rCells.resize(nCell + 1);
+    rCells[nCell] = rsText;
+    Announce(EAspect::Items);
+    return true;
+}
+
+std::intptr_t CListCtrl::GetItemData(int nRow) const
+{
+    return IsRow(nRow) ? mRows[static_cast<std::size_t>(nRow)].nData : 0;
+}
+
+bool CListCtrl::SetItemData(int nRow, std::intptr_t nData)
+{
+    if (!IsRow(nRow))
+        return false;
+    mRows[static_cast<std::size_t>(nRow)].nData = nData;
+    return true;
+}
+
+void CListCtrl::SetExtendedStyle(unsigned nStyle)
+{
+    mnExtendedStyle = nStyle;
+    Announce(EAspect::Items);
+}
+
+bool CListCtrl::SelectRow(int nRow)
+{
+    if (nRow != -1 && !IsRow(nRow))
+        return false;
+    if (mnSelected == nRow)
+        return true;
+    mnSelected = nRow;
+    Announce(EAspect::Selection);
+    NotifyParent(ENotify::SelChange);
+    return true;
+}
+
+EUserResult CListCtrl::UserSelect(int nRow)
+{
+    if (const EUserResult result = WouldAcceptUser(); result != EUserResult::Done)
+        return result;
+    if (nRow != -1 && !IsRow(nRow))
+        return EUserResult::Invalid;
+    if (const EUserResult result = AcceptUser(); result != EUserResult::Done)
+        return result;
+    SelectRow(nRow);
+    return EUserResult::Done;
+}
+
+EUserResult CListCtrl::UserDoubleClick()
+{
+    if (const EUserResult result = AcceptUser(); result != EUserResult::Done)
+        return result;
+    NotifyParent(ENotify::DoubleClicked);
+    return EUserResult::Done;
+}
+
+bool CListCtrl::IsTabStop() const
+{
+    return true;
+}
+
+bool CListCtrl::AcceptsKind(EControl kind) const
+{
+    return kind == EControl::Table;
+}
+
+void CListCtrl::OnDestroyed()
+{
+    mColumns.clear();
+    mRows.clear();
+    mnExtendedStyle = 0;
+    mnSelected = -1;
+}

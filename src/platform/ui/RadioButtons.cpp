@@ -1,0 +1,25 @@
+#include "platform/ui/Button.h"
+#include "platform/ui/Wnd.h"
+
+// The platform walks the ids from first to last, whatever stands between them.
+
+void CWnd::CheckRadioButton(int nFirst, int nLast, int nChecked)
+{
+    for (CWnd* pChild : mChildren) {
+        const int nId = pChild->GetDlgCtrlID();
+        auto* const pButton = dynamic_cast<CButton*>(pChild);
+        if (pButton && nId >= nFirst && nId <= nLast)
+            pButton->SetCheck(nId == nChecked);
+    }
+}
+
+int CWnd::GetCheckedRadioButton(int nFirst, int nLast) const
+{
+    for (const CWnd* pChild : mChildren) {
+        const int nId = pChild->GetDlgCtrlID();
+        const auto* const pButton = dynamic_cast<const CButton*>(pChild);
+        if (pButton && nId >= nFirst && nId <= nLast && pButton->GetCheck() != 0)
+            return nId;
+    }
+    return 0;
+}

@@ -1,0 +1,34 @@
+#include "platform/ui/RuntimeClass.h"
+
+#include "platform/base/TypeName.h"
+
+#include <typeinfo>
+
+namespace
+{
+const CRuntimeClass* spLastRegistered = nullptr;
+}
+
+CRuntimeClass::CRuntimeClass(std::string_view sName, TIsInstance pIsInstance, TCreate pCreate)
+    : msName(sName), mpIsInstance(pIsInstance), mpCreate(pCreate), mpNext(spLastRegistered)
+{
+    spLastRegistered = this;
+}
+
+const CRuntimeClass* CRuntimeClass::FromName(std::string_view sName)
+{
+    const CRuntimeClass* pClass = spLastRegistered;
+    while (pClass && pClass->msName != sName)
+        pClass = pClass->mpNext;
+    return pClass;
+}
+
+bool CObject::IsKindOf(const CRuntimeClass& rClass) const
+{
+    return rClass.IsInstance(*this);
+}
+
+std::string_view gClassName(const CObject& rObject)
+{
+    return gTypeName(typeid(rObject));
+}

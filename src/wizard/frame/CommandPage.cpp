@@ -1,0 +1,9 @@
+#include "wizard/frame/CommandPage.h"
+
+#include "platform/ui/RuntimeClassDefinition.h"
+
+CCommandPage::CCommandPage(const DialogTemplate& rTemplate) : CPropertyPage(rTemplate, 0) {}
+
+void CCommandPage::DoDataExchange(CDataExchange*) {}
+
+template const CRuntimeClass& gRuntimeClass<CCommandPage>();

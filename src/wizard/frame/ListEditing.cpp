@@ -1,0 +1,66 @@
+#include "wizard/frame/ListEditing.h"
+
+#include "platform/ui/Desktop.h"
+#include "platform/ui/ListBox.h"
+#include "platform/ui/Translate.h"
+#include "wizard/frame/PageText.h"
+
+namespace
+{
+bool Confirms(const char* pQuestion)
+{
+    return AfxMessageBox(xlang::gTranslate(pQuestion), MB_YESNO) == IDYES;
+}
+} // namespace
+
+ListEditing::ListEditing(CWnd& rPage, CListBox& rList, const TListEditingTexts& rTexts)
+    : mrPage(rPage), mrList(rList), mrTexts(rTexts)
+{
+}
+
+bool ListEditing::Add(const CString& rsEntry, CString& rsMessage)
+{
+    if (mrList.FindStringExact(-1, rsEntry) >= 0) {
+        rsMessage = xlang::gTranslate("__$$Translatable$$_This entry is already in the list.");
+        return gReportMessage(mrPage, rsMessage);
+    }
+    mrList.InsertString(0, rsEntry);
+    mrList.SetCurSel(0);
+    EnableButtons(true);
+    return true;
+}
+
+void ListEditing::Delete()
+{
+    const int nSelected = mrList.GetCurSel();
+    if (nSelected < 0 || !Confirms(mrTexts.pDeleteQuestion))
+        return;
+    mrList.DeleteString(nSelected);
+    if (mrList.GetCount() > 0)
+        mrList.SetCurSel(0);
+    else
+        EnableButtons(false);
+}
+
+void ListEditing::Clear()
+{
+    if (mrList.GetCurSel() < 0 || !Confirms(mrTexts.pClearQuestion))
+        return;
+    mrList.ResetContent();
+    EnableButtons(false);
+}
+
+CString ListEditing::OldestFirst(const CString& rsSeparator) const
+{
+    CString sAll;
+    for (int n = mrList.GetCount() - 1; n >= 0; --n)
+        sAll += rsSeparator + mrList.GetText(n);
+    return sAll;
+}
+
+void ListEditing::EnableButtons(bool bEnable)
+{
+    for (const int nButton : {mrTexts.nDeleteButton, mrTexts.nClearButton})
+        if (CWnd* const pButton = mrPage.GetDlgItem(nButton))
+            pButton->EnableWindow(bEnable);
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/base/StringA.h"
+
+class CListBox;
+class CWnd;
+
+/// What differs between the lists of two pages. The questions are translated by `gTranslate` unless
+/// they stand without the marker.
+struct TListEditingTexts {
+    int nDeleteButton;
+    int nClearButton;
+    const char* pDeleteQuestion;
+    const char* pClearQuestion;
+};
+
+/// A page's list of entries with its buttons Add, Delete and Clear. The newest entry stands on top.
+class ListEditing
+{
+public:
+    /// `rPage`, `rList` and `rTexts` live longer than this.
+    ListEditing(CWnd& rPage, CListBox& rList, const TListEditingTexts& rTexts);
+
+    /// Puts an entry on top, selects it, and enables Delete and Clear. An entry that is there
+    /// already, letter case put aside, is refused with a message; then nothing changes.
+    /// Result: whether it was added. `rsMessage`: the page's message string, takes the message
+    /// first.
+    bool Add(const CString& rsEntry, CString& rsMessage);
+    /// Asks, and on yes removes the selected entry and selects the one on top; without entries left
+    /// Delete and Clear are disabled. Nothing happens without a selection.
+    void Delete();
+    /// Asks, and on yes empties the list and disables Delete and Clear. Nothing happens without a
+    /// selection, even if there are entries.
+    void Clear();
+
+    /// The entries in the order in which they were added, each behind `rsSeparator`.
+    CString OldestFirst(const CString& rsSeparator) const;
+
+private:
+    void EnableButtons(bool bEnable);
+
+    CWnd& mrPage;
+    CListBox& mrList;
+    const TListEditingTexts& mrTexts;
+};

@@ -1,0 +1,34 @@
+#include "wizard/frame/PageText.h"
+
+#include "platform/ui/Wnd.h"
+
+void gTrim(CString& rsField)
+{
+    rsField.TrimLeft();
+    rsField.TrimRight();
+}
+
+CString gJoinLines(const CString& rsText)
+{
+    // Meant to stay as they are: a lone LF is dropped; a lone CR is kept; what follows a run of CR
+    // LF pairs is copied unseen, so that a lone LF survives there while a lone CR is dropped.
+    const int nLength = rsText.GetLength();
+    CString sJoined;
+    for (int i = 0; i < nLength; ++i) {
+        if (rsText[i] == '\r' && rsText[i + 1] == '\n') {
+            for (; rsText[i] == '\r' && rsText[i + 1] == '\n' && i + 2 < nLength; i += 2)
+                sJoined += ' ';
+            if (rsText[i] != '\r')
+                sJoined += rsText[i];
+        } else if (rsText[i] != '\n') {
+            sJoined += rsText[i];
+        }
+    }
+    return sJoined;
+}
+
+bool gReportMessage(CWnd& rOwner, CString sMessage)
+{
+    rOwner.MessageBox(sMessage, "SPICE", MB_OK | MB_ICONINFORMATION);
+    return false;
+}

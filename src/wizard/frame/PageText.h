@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/base/StringA.h"
+
+class CWnd;
+
+/// Takes the white space away at both ends of a field.
+void gTrim(CString& rsField);
+
+/// The text of a multi-line field as it stands in a one-line command: each CR LF inside becomes a
+/// blank, and one at the end vanishes. `sText` is trimmed by then.
+CString gJoinLines(const CString& rsText);
+
+/// Reports a failed check: a box owned by the page with the caption "SPICE".
+/// Result: false, so that a check can return it.
+bool gReportMessage(CWnd& rOwner, CString sMessage);

@@ -1,0 +1,103 @@
+#include "wizard/frame/WizardPages.h"
+
+// A page joins the wizard by its row: NotBuilt(...) becomes Page<class C...Page>(...).
+// Nothing else has to know the class; its own source instantiates gRuntimeClass for it.
+
+namespace
+{
+template <class TPage> TTreeRow Category(const char* pLabel)
+{
+    const CRuntimeClass& rClass = gRuntimeClass<TPage>();
+    return {0, pLabel, rClass.GetName(), &rClass, true};
+}
+
+template <class TPage> TTreeRow Page(int nOrder, const char* pLabel)
+{
+    const CRuntimeClass& rClass = gRuntimeClass<TPage>();
+    return {nOrder, pLabel, rClass.GetName(), &rClass, false};
+}
+
+TTreeRow NotBuilt(int nOrder, const char* pLabel, std::string_view sClass)
+{
+    return {nOrder, pLabel, sClass, nullptr, false};
+}
+
+} // namespace
+
+// At global scope, since each row declares the class that it names.
+// clang-format off
+const TTreeRow kTree[] = {
+    Category<class CAnalysisPage>("__$$Translatable$$_Analysis"),
+    NotBuilt(0, "__$$Translatable$$_AC", "CAnalysisAC1Page"),
+    NotBuilt(1, "__$$Translatable$$_DC operating point", "CAnalysisDCOpPage"),
+    NotBuilt(2, "__$$Translatable$$_DC transfer sweep", "CAnalysisDCTransferSweepPage"),
+    NotBuilt(3, "__$$Translatable$$_Fourier", "CAnalysisFourierPage"),
+    NotBuilt(4, "__$$Translatable$$_Noise", "CAnalysisNoisePage"),
+    NotBuilt(5, "__$$Translatable$$_Stability", "CAnalysisStabilityPage"),
+    NotBuilt(7, "__$$Translatable$$_Transient", "CAnalysisTransientPage"),
+    NotBuilt(6, "__$$Translatable$$_Transfer function", "CAnalysisTransferFunctionPage"),
+    NotBuilt(8, "__$$Translatable$$_Parametric sweep", "CAnalysisParametricSweepPage"),
+
+    Category<class CCurrentSourcePage>("__$$Translatable$$_Current source"),
+    NotBuilt(0, "__$$Translatable$$_Bit", "CCurrentSourceBitPage"),
+    NotBuilt(1, "__$$Translatable$$_Bus", "CCurrentSourceBusPage"),
+    NotBuilt(3, "__$$Translatable$$_Constant", "CCurrentSourceConstantPage"),
+    NotBuilt(2, "__$$Translatable$$_Current-controlled", "CCurrentSourceCurrentControlledPage"),
+    NotBuilt(4, "__$$Translatable$$_Exponential", "CCurrentSourceExponentialPage"),
+    NotBuilt(5, "__$$Translatable$$_FM", "CCurrentSourceFMPage"),
+    NotBuilt(6, "__$$Translatable$$_Piecewise linear", "CCurrentSourcePiecewiseLinearPage"),
+    NotBuilt(7, "__$$Translatable$$_Pulse", "CCurrentSourcePulsePage"),
+    NotBuilt(8, "__$$Translatable$$_Sinusoidal", "CCurrentSourceSinusoidalPage"),
+    NotBuilt(9, "__$$Translatable$$_Voltage-controlled", "CCurrentSourceVoltageControlledPage"),
+
+    Category<class CFilesPage>("__$$Translatable$$_Files"),
+    NotBuilt(0, "__$$Translatable$$_Include file", "CFilesIncludePage"),
+    NotBuilt(1, "__$$Translatable$$_Library file", "CFilesLibraryPage"),
+    NotBuilt(2, "__$$Translatable$$_Delete library file", "CFilesDeleteLibraryPage"),
+
+    Category<class CInitializationPage>("__$$Translatable$$_Initialization"),
+    NotBuilt(0, "__$$Translatable$$_DC guess", "CInitializationDCGuessPage"),
+    NotBuilt(1, "__$$Translatable$$_Initial condition", "CInitializationInitialConditionPage"),
+
+    Category<class COutputPage>("__$$Translatable$$_Output"),
+    NotBuilt(0, "__$$Translatable$$_AC results", "COutputACResultsPage"),
+    NotBuilt(1, "__$$Translatable$$_AC small-signal model", "COutputACSmallSignalModelPage"),
+    NotBuilt(2, "__$$Translatable$$_DC results", "COutputDCResultsPage"),
+    NotBuilt(3, "__$$Translatable$$_Power", "COutputPowerPage"),
+    NotBuilt(4, "__$$Translatable$$_Transient results", "COutputTransientResultsPage"),
+    NotBuilt(5, "__$$Translatable$$_Noise results", "COutputNoiseResultsPage"),
+    NotBuilt(6, "__$$Translatable$$_Measure", "COutputMeasurePage"),
+
+    Category<class CSettingsPage>("__$$Translatable$$_Settings"),
+    NotBuilt(0, "__$$Translatable$$_Bus definition", "CSettingsBusDefinitionPage"),
+    NotBuilt(1, "__$$Translatable$$_Global nodes", "CSettingsGlobalNodesPage"),
+    NotBuilt(2, "__$$Translatable$$_Parameters", "CSettingsParametersPage"),
+    NotBuilt(3, "__$$Translatable$$_Simulation options", "CSettingsSimulationOptionsPage"),
+    Page<class CSettingsTemperaturePage>(4, "__$$Translatable$$_Temperature"),
+
+    Category<class CVoltageSourcePage>("__$$Translatable$$_Voltage source"),
+    NotBuilt(0, "__$$Translatable$$_Bit", "CVoltageSourceBitPage"),
+    NotBuilt(1, "__$$Translatable$$_Bus", "CVoltageSourceBusPage"),
+    NotBuilt(3, "__$$Translatable$$_Constant", "CVoltageSourceConstantPage"),
+    NotBuilt(2, "__$$Translatable$$_Current-controlled", "CVoltageSourceCurrentControlledPage"),
+    NotBuilt(4, "__$$Translatable$$_Exponential", "CVoltageSourceExponentialPage"),
+    NotBuilt(5, "__$$Translatable$$_FM", "CVoltageSourceFMPage"),
+    NotBuilt(6, "__$$Translatable$$_Piecewise linear", "CVoltageSourcePiecewiseLinearPage"),
+    NotBuilt(7, "__$$Translatable$$_Pulse", "CVoltageSourcePulsePage"),
+    NotBuilt(8, "__$$Translatable$$_Sinusoidal", "CVoltageSourceSinusoidalPage"),
+    NotBuilt(9, "__$$Translatable$$_Voltage-controlled", "CVoltageSourceVoltageControlledPage"),
+
+    Category<class COptimizationPage>("__$$Translatable$$_Optimization"),
+    NotBuilt(0, "__$$Translatable$$_Wizard", "COptimizationWizardPage"),
+};
+// clang-format on
+
+std::span<const TTreeRow> gWizardTree()
+{
+    return kTree;
+}
+
+std::span<const CRuntimeClass* const> gWizardPagesWithoutNode()
+{
+    return {};
+}
