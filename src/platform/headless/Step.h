@@ -27,10 +27,10 @@ enum class EStep {
 /// One action of a user, as data: for tests, scripts and the command line.
 struct TStep {
     EStep op = EStep::Click;
-    std::string sKey; ///< the field's key
-    CString sText;    ///< Set, SelectEntry: the text; SelectPath...: the path, labels joined by '/'
-    int nIndex = 0;   ///< Select, Choose: the index; Check: 1 or 0
-    TUserKey key{};   ///< Key
+    std::string sKey{}; ///< the field's key
+    CString sText{}; ///< Set, SelectEntry: the text; SelectPath...: the path, labels joined by '/'
+    int nIndex = 0;  ///< Select, Choose: the index; Check: 1 or 0
+    TUserKey key{};  ///< Key
 };
 
 /// What became of a step. Everything but `Done` means that nothing has changed.

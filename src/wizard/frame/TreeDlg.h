@@ -29,6 +29,8 @@ public:
     const CString& GetCommand() const { return msCommand; }
     const CLayerWnd& GetLayers() const { return mLayers; }
     const CTreeCtrl& GetTree() const { return mTree; }
+    /// All labels in the order of insertion, kept as long as the dialog lives.
+    const std::list<CString>& GetLabels() const { return mLabels; }
 
 protected:
     TMessageMap GetMessageMap() const override;

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "platform/headless/Step.h"
+
+#include <string>
+
+// A user's actions by name, so that a test's list of them reads like a story.
+
+namespace steps
+{
+inline TStep Set(std::string sKey, const CString& rsText)
+{
+    return {EStep::Set, std::move(sKey), rsText};
+}
+
+inline TStep Select(std::string sKey, int nIndex)
+{
+    return {EStep::Select, std::move(sKey), {}, nIndex};
+}
+
+inline TStep Select(std::string sKey, const CString& rsEntry)
+{
+    return {EStep::SelectEntry, std::move(sKey), rsEntry};
+}
+
+inline TStep Check(std::string sKey, bool bOn)
+{
+    return {EStep::Check, std::move(sKey), {}, bOn ? 1 : 0};
+}
+
+inline TStep Choose(std::string sKey, int nIndex)
+{
+    return {EStep::Choose, std::move(sKey), {}, nIndex};
+}
+
+inline TStep Click(std::string sKey)
+{
+    return {EStep::Click, std::move(sKey)};
+}
+
+inline TStep Focus(std::string sKey)
+{
+    return {EStep::Focus, std::move(sKey)};
+}
+
+inline TStep Key(std::string_view sName)
+{
+    TStep step{EStep::Key};
+    if (!gParseKeyName(sName, step.key))
+        throw std::invalid_argument("no such key: " + std::string(sName));
+    return step;
+}
+
+/// Goes to a page of the wizard by its path in the tree.
+inline TStep Open(const CString& rsPath)
+{
+    return {EStep::SelectPath, "tree", rsPath};
+}
+
+inline TStep Insert()
+{
+    return Click("insert");
+}
+
+inline TStep Close()
+{
+    return Click("close");
+}
+} // namespace steps

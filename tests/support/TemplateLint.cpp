@@ -1,0 +1,252 @@
+#include "support/TemplateLint.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <string_view>
+
+namespace
+{
+using TRows = std::vector<const TControlRow*>;
+using TFindings = std::vector<std::string>;
+
+std::string Name(const TControlRow& rRow)
+{
+    return "'" + std::string(rRow.pKey) + "' (" + std::to_string(rRow.nId) + ")";
+}
+
+bool IsInput(EControl kind)
+{
+    switch (kind) {
+    case EControl::Edit:
+    case EControl::MultilineEdit:
+    case EControl::DropDownList:
+    case EControl::DropDown:
+    case EControl::ListBox:
+    case EControl::Tree:
+    case EControl::Table:
+        return true;
+    case EControl::Label:
+    case EControl::Static:
+    case EControl::Group:
+    case EControl::Frame:
+    case EControl::PushButton:
+    case EControl::DefaultButton:
+    case EControl::CheckBox:
+    case EControl::RadioButton:
+    case EControl::Tabs:
+        return false;
+    }
+    return false;
+}
+
+bool HasOwnText(EControl kind)
+{
+    return kind == EControl::PushButton || kind == EControl::DefaultButton ||
+           kind == EControl::CheckBox || kind == EControl::RadioButton || kind == EControl::Group;
+}
+
+bool IsTabStop(EControl kind)
+{
+    return IsInput(kind) || kind == EControl::Tabs || (HasOwnText(kind) && kind != EControl::Group);
+}
+
+/// The least height in dialog units at which the kind's text isn't clipped; 0: no text of one line.
+int LeastHeight(EControl kind)
+{
+    switch (kind) {
+    case EControl::Label:
+    case EControl::Static:
+        return 9;
+    case EControl::RadioButton:
+    case EControl::CheckBox:
+        return 12;
+    case EControl::Edit:
+    case EControl::DropDownList:
+    case EControl::DropDown:
+        return 13;
+    case EControl::PushButton:
+    case EControl::DefaultButton:
+        return 14;
+    case EControl::Group:
+    case EControl::Frame:
+    case EControl::MultilineEdit:
+    case EControl::ListBox:
+    case EControl::Tree:
+    case EControl::Table:
+    case EControl::Tabs:
+        return 0;
+    }
+    return 0;
+}
+
+bool CanBeVisibleTogether(const TControlRow& rA, const TControlRow& rB)
+{
+    return rA.nLayers == 0 || rB.nLayers == 0 || (rA.nLayers & rB.nLayers) != 0;
+}
+
+void LintNames(const DialogTemplate& rTemplate, TFindings& rFindings)
+{
+    std::set<int> ids;
+    std::set<std::string_view> keys;
+    const TControlRow* pBefore = nullptr;
+    for (const TControlRow& rRow : rTemplate.rows) {
+        const std::string_view sKey = rRow.pKey;
+        if (!ids.insert(rRow.nId).second)
+            rFindings.push_back("the id of " + Name(rRow) + " is taken twice");
+        if (sKey.empty() || sKey.find_first_not_of("abcdefghijklmnopqrstuvwxyz0123456789-") !=
+                                std::string_view::npos)
+            rFindings.push_back("the key of " + Name(rRow) + " isn't lower case with hyphens");
+
+        const bool bRadio = rRow.kind == EControl::RadioButton;
+        const bool bContinues =
+            bRadio && pBefore && pBefore->kind == EControl::RadioButton && sKey == pBefore->pKey;
+        if (bRadio && bContinues == ((rRow.nFlags & kFirstOfGroup) != 0))
+            rFindings.push_back("the radio group of " + Name(rRow) +
+                                " doesn't begin where its flag says");
+        if (rRow.kind != EControl::Label && !bContinues && !keys.insert(sKey).second)
+            rFindings.push_back("the key of " + Name(rRow) + " is taken twice");
+        if (rRow.kind != EControl::Label)
+            pBefore = &rRow;
+    }
+}
+
+void LintLabels(const DialogTemplate& rTemplate, TFindings& rFindings)
+{
+    std::map<int, const TControlRow*> labels; // those in front of the row at hand
+    for (const TControlRow& rRow : rTemplate.rows) {
+        if (rRow.kind == EControl::Label)
+            labels[rRow.nId] = &rRow;
+        const bool bUnlabelled = (rRow.nFlags & kUnlabelled) != 0;
+        bool bLabelled = *rRow.pLabel != 0;
+        if (IsInput(rRow.kind)) {
+            const auto label = labels.find(LabelOf(rRow.nId));
+            bLabelled = label != labels.end() && *label->second->pLabel != 0;
+        } else if (!HasOwnText(rRow.kind)) {
+            continue;
+        }
+        if (bLabelled == bUnlabelled)
+            rFindings.push_back(Name(rRow) + (bUnlabelled ? " is declared without the label it has"
+                                                          : " has no label in front of it"));
+    }
+    for (const TControlRow& rRow : rTemplate.rows) {
+        if (rRow.kind != EControl::Label)
+            continue;
+        const bool bOwned = std::ranges::any_of(rTemplate.rows, [&rRow](const TControlRow& rField) {
+            return (LabelOf(rField.nId) == rRow.nId || UnitOf(rField.nId) == rRow.nId) &&
+                   std::string_view(rField.pKey) == rRow.pKey;
+        });
+        if (!bOwned)
+            rFindings.push_back("label " + Name(rRow) + " belongs to no field");
+    }
+}
+
+void LintPlaces(const DialogTemplate& rTemplate, TFindings& rFindings)
+{
+    const TRect whole{0, 0, rTemplate.size.cx, rTemplate.size.cy};
+    const auto rows = rTemplate.rows;
+    for (std::size_t a = 0; a < rows.size(); ++a) {
+        if (!whole.Contains(rows[a].rect) || rows[a].rect.w <= 0 || rows[a].rect.h <= 0)
+            rFindings.push_back(Name(rows[a]) + " lies outside the dialog or is empty");
+        if (rows[a].rect.h < LeastHeight(rows[a].kind))
+            rFindings.push_back(Name(rows[a]) + " is too low for its text");
+        for (std::size_t b = a + 1; b < rows.size(); ++b) {
+            if (!rows[a].rect.Overlaps(rows[b].rect) || !CanBeVisibleTogether(rows[a], rows[b]))
+                continue;
+            const bool bSurrounds =
+                (rows[a].kind == EControl::Group && rows[a].rect.Contains(rows[b].rect)) ||
+                (rows[b].kind == EControl::Group && rows[b].rect.Contains(rows[a].rect));
+            if (!bSurrounds)
+                rFindings.push_back(Name(rows[a]) + " and " + Name(rows[b]) + " overlap");
+        }
+    }
+}
+
+/// Lines (or columns) of what begins at nearly the same height (or edge), each in order.
+template <class TAcross, class TAlong> void SortInLines(TRows& rRows, TAcross across, TAlong along)
+{
+    constexpr int kSameLine = 6;
+    std::ranges::stable_sort(rRows, {}, across);
+    for (auto line = rRows.begin(); line != rRows.end();) {
+        const int nStart = across(*line);
+        const auto end = std::find_if(line, rRows.end(), [&](const TControlRow* pRow) {
+            return across(pRow) - nStart >= kSameLine;
+        });
+        std::stable_sort(line, end, [&](const TControlRow* pA, const TControlRow* pB) {
+            return along(pA) < along(pB);
+        });
+        line = end;
+    }
+}
+
+/// The tab stops in reading order. A group is read where it stands, and all of it before what
+/// follows.
+TRows ReadingOrder(const DialogTemplate& rTemplate, bool bColumns)
+{
+    const auto left = [](const TControlRow* p) { return p->rect.x; };
+    const auto top = [](const TControlRow* p) { return p->rect.y; };
+    const auto sort = [&](TRows& rRows) {
+        if (bColumns)
+            SortInLines(rRows, left, top);
+        else
+            SortInLines(rRows, top, left);
+    };
+
+    TRows groups;
+    for (const TControlRow& rRow : rTemplate.rows)
+        if (rRow.kind == EControl::Group)
+            groups.push_back(&rRow);
+    TRows outside = groups;
+    std::map<const TControlRow*, TRows> inside;
+    for (const TControlRow& rRow : rTemplate.rows) {
+        if (!IsTabStop(rRow.kind))
+            continue;
+        const auto group = std::ranges::find_if(groups, [&rRow](const TControlRow* pGroup) {
+            return pGroup->rect.Contains(rRow.rect) && CanBeVisibleTogether(*pGroup, rRow);
+        });
+        (group == groups.end() ? outside : inside[*group]).push_back(&rRow);
+    }
+    sort(outside);
+    TRows order;
+    for (const TControlRow* pRow : outside) {
+        if (pRow->kind != EControl::Group) {
+            order.push_back(pRow);
+            continue;
+        }
+        sort(inside[pRow]);
+        order.insert(order.end(), inside[pRow].begin(), inside[pRow].end());
+    }
+    return order;
+}
+
+bool IsRotation(TRows order, const TRows& rWanted)
+{
+    for (std::size_t n = 0; n < order.size(); ++n) {
+        if (order == rWanted)
+            return true;
+        std::ranges::rotate(order, order.begin() + 1);
+    }
+    return order == rWanted;
+}
+
+void LintTabOrder(const DialogTemplate& rTemplate, TFindings& rFindings)
+{
+    TRows order;
+    for (const TControlRow& rRow : rTemplate.rows)
+        if (IsTabStop(rRow.kind))
+            order.push_back(&rRow);
+    if (!IsRotation(order, ReadingOrder(rTemplate, false)) &&
+        !IsRotation(order, ReadingOrder(rTemplate, true)))
+        rFindings.push_back("the tab order isn't the reading order");
+}
+} // namespace
+
+std::vector<std::string> gLintTemplate(const DialogTemplate& rTemplate)
+{
+    TFindings findings;
+    LintNames(rTemplate, findings);
+    LintLabels(rTemplate, findings);
+    LintPlaces(rTemplate, findings);
+    LintTabOrder(rTemplate, findings);
+    return findings;
+}

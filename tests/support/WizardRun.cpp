@@ -1,0 +1,71 @@
+#include "support/WizardRun.h"
+
+#include "exports/Quorvawiz.h"
+
+#include <gtest/gtest.h>
+
+CScript& CScript::Do(std::vector<TStep> steps)
+{
+    for (TStep& rStep : steps) {
+        mActions.emplace_back([step = std::move(rStep)](CDialog& rDialog) {
+            const TStepResult result = gRunStep(rDialog, step);
+            EXPECT_TRUE(result.IsDone())
+                << "step on '" << step.sKey << "' with text '" << step.sText.GetString()
+                << "' ended as " << static_cast<int>(result.end) << ", it "
+                << gUserResultText(result.refusal);
+        });
+    }
+    return *this;
+}
+
+CScript& CScript::Refused(TStep step, EStepEnd end, EUserResult refusal)
+{
+    mActions.emplace_back([step = std::move(step), end, refusal](CDialog& rDialog) {
+        const TStepResult result = gRunStep(rDialog, step);
+        EXPECT_EQ(result.end, end) << step.sKey;
+        EXPECT_EQ(result.refusal, refusal) << step.sKey;
+    });
+    return *this;
+}
+
+CScript& CScript::Then(TAction action)
+{
+    mActions.push_back(std::move(action));
+    return *this;
+}
+
+void CScript::Run(HeadlessDesktop& rDesktop, const std::function<void()>& rRun)
+{
+    std::size_t nNext = 0;
+    rDesktop.SetNextAction([this, &nNext](CDialog& rInnermost) {
+        if (nNext == mActions.size())
+            return false;
+        mActions[nNext++](rInnermost);
+        return true;
+    });
+    rRun();
+    rDesktop.SetNextAction({});
+    EXPECT_EQ(nNext, mActions.size()) << "the run ended before the script did";
+}
+
+TWizardOutcome gRunWizard(CScript script)
+{
+    HeadlessDesktop desktop;
+    CRecordingTarget target;
+    script.Run(desktop, [&target] { quorvawiz::gInvokeSpiceCommandWizard(nullptr, &target); });
+
+    TWizardOutcome outcome{std::move(target.mCommands), {}};
+    for (const TShownBox& rBox : desktop.TakeBoxes())
+        outcome.messages.emplace_back(rBox.box.sText.GetString());
+    return outcome;
+}
+
+TWizardOutcome gRunWizard(std::vector<TStep> steps)
+{
+    return gRunWizard(CScript().Do(std::move(steps)));
+}
+
+CTreeDlg& gOpenWizard()
+{
+    return dynamic_cast<CTreeDlg&>(*gDesktop().Thread().mModalRuns.front()->pDialog);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/headless/HeadlessDesktop.h"
+#include "platform/headless/Step.h"
+#include "wizard/frame/CommandWizardTarget.h"
+#include "wizard/frame/TreeDlg.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// A host's target that keeps what it gets.
+class CRecordingTarget : public quorvawiz::QuorvaCommandWizardTarget
+{
+public:
+    void InsertCommand(CString sCommand) override { mCommands.emplace_back(sCommand.GetString()); }
+
+    std::vector<std::string> mCommands;
+};
+
+/// Lets the user act on a modal dialog: each call of the desktop takes the next action.
+/// Actions run with the innermost dialog; a step that isn't done fails the test.
+class CScript
+{
+public:
+    using TAction = std::function<void(CDialog& rInnermost)>;
+
+    CScript& Do(std::vector<TStep> steps);
+    /// A step that must end in this way and change nothing.
+    CScript& Refused(TStep step, EStepEnd end, EUserResult refusal = EUserResult::Done);
+    /// Anything else: a look at the dialog, or a call of it.
+    CScript& Then(TAction action);
+
+    /// Runs the actions while `run` runs modal dialogs on a headless desktop. Fails the test when
+    /// actions are left over.
+    void Run(HeadlessDesktop& rDesktop, const std::function<void()>& rRun);
+
+private:
+    std::vector<TAction> mActions;
+};
+
+/// What came of a run of the wizard.
+struct TWizardOutcome {
+    std::vector<std::string> inserted; ///< what the target got
+    std::vector<std::string> messages; ///< texts of all boxes
+};
+
+/// Runs the wizard from the tree's start to its end with these actions.
+TWizardOutcome gRunWizard(CScript script);
+TWizardOutcome gRunWizard(std::vector<TStep> steps);
+
+/// The wizard among the open dialogs: the outermost one.
+CTreeDlg& gOpenWizard();

@@ -1,0 +1,172 @@
+#include "support/TemplateLint.h"
+
+#include "platform/headless/HeadlessDesktop.h"
+#include "platform/ui/TemplateRows.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/TreeDlg.h"
+#include "wizard/frame/WizardPages.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace
+{
+/// Every template of the wizard: the frame's, and those of all page classes that are built.
+std::vector<const DialogTemplate*> AllTemplates()
+{
+    class CFrame : public CTreeDlg
+    {
+    public:
+        CFrame() : CTreeDlg(nullptr, nullptr) {}
+
+    protected:
+        void BuildTree() override {}
+    };
+    std::vector<const DialogTemplate*> templates{&CFrame().GetTemplate()};
+
+    std::vector<const CRuntimeClass*> classes(gWizardPagesWithoutNode().begin(),
+                                              gWizardPagesWithoutNode().end());
+    for (const TTreeRow& rRow : gWizardTree())
+        if (rRow.pClass)
+            classes.push_back(rRow.pClass);
+    for (const CRuntimeClass* pClass : classes) {
+        const auto pPage = pClass->CreateObject();
+        templates.push_back(&dynamic_cast<CDialog&>(*pPage).GetTemplate());
+    }
+    return templates;
+}
+
+TEST(TemplateLint, FindsNothingInTheTemplatesOfTheWizard)
+{
+    for (const DialogTemplate* pTemplate : AllTemplates())
+        EXPECT_EQ(gLintTemplate(*pTemplate), std::vector<std::string>{})
+            << "template " << pTemplate->nId << ", " << pTemplate->pCaption;
+}
+
+TEST(TemplateLint, TheNumbersOfTheTemplatesAreUnique)
+{
+    std::map<int, const DialogTemplate*> seen;
+    for (const DialogTemplate* pTemplate : AllTemplates())
+        EXPECT_TRUE(seen.emplace(pTemplate->nId, pTemplate).second) << pTemplate->nId;
+}
+
+TEST(TemplateLint, EveryPageFillsThePane)
+{
+    for (const DialogTemplate* pTemplate : AllTemplates()) {
+        if (pTemplate->nId != 100) {
+            EXPECT_EQ(pTemplate->size, kPageSize) << pTemplate->pCaption;
+        }
+    }
+}
+
+// --- the lint itself: what it must find, and what it must let pass
+
+constexpr unsigned kOneLayer = 1;
+constexpr unsigned kOtherLayer = 2;
+
+struct TCase {
+    const char* pName;
+    std::vector<TControlRow> rows;
+    std::vector<std::string> findings;
+};
+
+constexpr TControlRow Button(int nId, const char* pKey, TRect rect, unsigned nFlags = kNoFlags,
+                             unsigned nLayers = 0)
+{
+    return Row(nId, pKey, EControl::PushButton, "Press", rect, nFlags, nLayers);
+}
+
+constexpr TControlRow Radio(int nId, const char* pKey, int nTop, unsigned nFlags = kNoFlags)
+{
+    return Row(nId, pKey, EControl::RadioButton, "Choose", {0, nTop, 60, 12}, nFlags);
+}
+
+const TControlRow kEdit = Row(1, "name", EControl::Edit, "", {0, 20, 60, 13});
+const TControlRow kEditLabel = LabelFor(kEdit, "&Name:", {0, 0, 60, 9});
+
+const TCase kCases[] = {
+    {"a label and its edit", {kEditLabel, kEdit}, {}},
+    {"an id twice",
+     {Button(1, "a", {0, 0, 20, 14}), Button(1, "b", {0, 20, 20, 14})},
+     {"the id of 'b' (1) is taken twice"}},
+    {"a key twice",
+     {Button(1, "a", {0, 0, 20, 14}), Button(2, "a", {0, 20, 20, 14})},
+     {"the key of 'a' (2) is taken twice"}},
+    {"a key with a blank",
+     {Button(1, "a b", {0, 0, 20, 14})},
+     {"the key of 'a b' (1) isn't lower case with hyphens"}},
+    {"no key",
+     {Button(1, "", {0, 0, 20, 14})},
+     {"the key of '' (1) isn't lower case with hyphens"}},
+    {"a radio group", {Radio(1, "mode", 0, kFirstOfGroup), Radio(2, "mode", 20)}, {}},
+    {"a radio group without its first flag",
+     {Radio(1, "mode", 0), Radio(2, "mode", 20)},
+     {"the radio group of 'mode' (1) doesn't begin where its flag says"}},
+    {"a radio group torn apart",
+     {Radio(1, "mode", 0, kFirstOfGroup), Button(2, "b", {0, 20, 20, 14}), Radio(3, "mode", 40)},
+     {"the radio group of 'mode' (3) doesn't begin where its flag says",
+      "the key of 'mode' (3) is taken twice"}},
+    {"an edit without a label", {kEdit}, {"'name' (1) has no label in front of it"}},
+    {"a label behind its edit",
+     {kEdit, LabelFor(kEdit, "&Name:", {0, 0, 60, 9})},
+     {"'name' (1) has no label in front of it"}},
+    {"an edit declared without a label",
+     {Row(1, "name", EControl::Edit, "", {0, 20, 60, 13}, kUnlabelled)},
+     {}},
+    {"a button without a text",
+     {Row(1, "b", EControl::PushButton, "", {0, 0, 20, 14})},
+     {"'b' (1) has no label in front of it"}},
+    {"a label declared away",
+     {Button(1, "b", {0, 0, 20, 14}, kUnlabelled)},
+     {"'b' (1) is declared without the label it has"}},
+    {"a label of nothing", {kEditLabel}, {"label 'name' (10001) belongs to no field"}},
+    {"outside", {Button(1, "b", {90, 0, 20, 14})}, {"'b' (1) lies outside the dialog or is empty"}},
+    {"too low", {Button(1, "b", {0, 0, 20, 13})}, {"'b' (1) is too low for its text"}},
+    {"overlapping",
+     {Button(1, "a", {0, 0, 20, 14}), Button(2, "b", {10, 10, 20, 14})},
+     {"'a' (1) and 'b' (2) overlap"}},
+    {"overlapping on different layers",
+     {Button(1, "a", {0, 0, 20, 14}, kNoFlags, kOneLayer),
+      Button(2, "b", {10, 0, 20, 14}, kNoFlags, kOtherLayer)},
+     {}},
+    {"overlapping on a shared layer",
+     {Button(1, "a", {0, 0, 20, 14}, kNoFlags, kOneLayer),
+      Button(2, "b", {10, 0, 20, 14}, kNoFlags, kOneLayer | kOtherLayer)},
+     {"'a' (1) and 'b' (2) overlap"}},
+    {"a group around a button",
+     {Row(1, "g", EControl::Group, "Group", {0, 0, 60, 40}), Button(2, "b", {10, 12, 20, 14})},
+     {}},
+    {"a group over the half of a button",
+     {Row(1, "g", EControl::Group, "Group", {0, 0, 60, 40}), Button(2, "b", {50, 12, 20, 14})},
+     {"'g' (1) and 'b' (2) overlap"}},
+    {"line by line",
+     {Button(1, "a", {0, 0, 20, 14}), Button(2, "b", {30, 0, 20, 14}),
+      Button(3, "c", {0, 20, 20, 14}), Button(4, "d", {30, 20, 20, 14})},
+     {}},
+    {"column by column",
+     {Button(1, "a", {0, 0, 20, 14}), Button(2, "b", {0, 20, 20, 14}),
+      Button(3, "c", {30, 0, 20, 14}), Button(4, "d", {30, 20, 20, 14})},
+     {}},
+    {"rotated",
+     {Button(1, "a", {0, 20, 20, 14}), Button(2, "b", {0, 40, 20, 14}),
+      Button(3, "c", {0, 0, 20, 14})},
+     {}},
+    {"out of order",
+     {Button(1, "a", {0, 20, 20, 14}), Button(2, "b", {0, 0, 20, 14}),
+      Button(3, "c", {0, 40, 20, 14})},
+     {"the tab order isn't the reading order"}},
+    {"one group beside another",
+     {Row(1, "g", EControl::Group, "Left", {0, 0, 40, 60}), Button(2, "a", {5, 10, 20, 14}),
+      Button(3, "b", {5, 30, 20, 14}), Row(4, "h", EControl::Group, "Right", {50, 0, 40, 60}),
+      Button(5, "c", {55, 10, 20, 14}), Button(6, "d", {55, 30, 20, 14})},
+     {}},
+};
+
+TEST(TemplateLint, FindsWhatIsWrongAndNothingElse)
+{
+    for (const TCase& rCase : kCases)
+        EXPECT_EQ(gLintTemplate({1, "Sample", {100, 100}, rCase.rows}), rCase.findings)
+            << rCase.pName;
+}
+} // namespace
