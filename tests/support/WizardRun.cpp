@@ -67,5 +67,5 @@ TWizardOutcome gRunWizard(std::vector<TStep> steps)
 
 CTreeDlg& gOpenWizard()
 {
-    return dynamic_cast<CTreeDlg&>(*gDesktop().Thread().mModalRuns.front()->pDialog);
+    return dynamic_cast<CTreeDlg&>(*gOutermostDialog());
 }

@@ -94,7 +94,7 @@ private:
 
     void LookAt() const
     {
-        CDialog* const pInnermost = gDesktop().Thread().InnermostDialog();
+        CDialog* const pInnermost = gInnermostDialog();
         const CWnd* const pFocus = CWnd::GetFocus();
         ASSERT_TRUE(pFocus && pFocus->IsInside(*pInnermost) && pFocus->CanTakeFocus());
 

@@ -1,6 +1,7 @@
 #include "platform/headless/HeadlessDesktop.h"
 
 #include "platform/ui/Dialog.h"
+#include "platform/ui/MessagePump.h"
 
 HeadlessDesktop::HeadlessDesktop(TNextAction nextAction)
     : mpBefore(gSetDesktop(this)), mNextAction(std::move(nextAction))

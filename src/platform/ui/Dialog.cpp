@@ -5,6 +5,7 @@
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/MakeControl.h"
+#include "platform/ui/MessagePump.h"
 #include "platform/ui/TabOrder.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ class CDialog::CModalScope
 public:
     CModalScope(CDialog& rDialog, TUiThread& rThread) : mrDialog(rDialog), mrThread(rThread)
     {
-        mRun.pDialog = &rDialog;
+        mRun.pWindow = &rDialog;
         mRun.pFocusBefore = rThread.mpFocus;
         rDialog.mpRun = &mRun;
         rThread.mModalRuns.push_back(&mRun);
@@ -205,4 +206,16 @@ bool CDialog::OnCommand(ENotify code, int nId)
     else
         return false;
     return true;
+}
+
+CDialog* gInnermostDialog()
+{
+    const auto& rRuns = gDesktop().Thread().mModalRuns;
+    return rRuns.empty() ? nullptr : dynamic_cast<CDialog*>(rRuns.back()->pWindow);
+}
+
+CDialog* gOutermostDialog()
+{
+    const auto& rRuns = gDesktop().Thread().mModalRuns;
+    return rRuns.empty() ? nullptr : dynamic_cast<CDialog*>(rRuns.front()->pWindow);
 }

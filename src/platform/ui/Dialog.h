@@ -72,3 +72,9 @@ private:
     TModalRun* mpRun = nullptr;
     std::vector<std::unique_ptr<CWnd>> mOwnedControls;
 };
+
+/// The dialog that takes the user's actions, or null when no modal run is on.
+CDialog* gInnermostDialog();
+
+/// The dialog of the first modal run that is on, or null.
+CDialog* gOutermostDialog();

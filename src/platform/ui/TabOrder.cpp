@@ -1,6 +1,6 @@
 #include "platform/ui/TabOrder.h"
 
-#include "platform/ui/Dialog.h"
+#include "platform/ui/Wnd.h"
 
 #include <algorithm>
 
@@ -8,7 +8,7 @@ namespace
 {
 bool IsPane(const CWnd& rWnd)
 {
-    return dynamic_cast<const CDialog*>(&rWnd) != nullptr;
+    return !rWnd.GetChildren().empty();
 }
 
 bool IsStop(const CWnd& rWnd)
@@ -23,10 +23,6 @@ bool IsPushButton(const CWnd& rWnd)
 {
     return rWnd.GetKind() == EControl::PushButton || rWnd.GetKind() == EControl::DefaultButton;
 }
-} // namespace
-
-namespace
-{
 /// The child of `rPane` that has the focus or holds it; null when it is elsewhere.
 const CWnd* FocusedChildOf(const CWnd& rPane)
 {

@@ -5,12 +5,11 @@
 #include <deque>
 #include <vector>
 
-class CDialog;
 class CWnd;
 
 /// One modal run of a dialog.
 struct TModalRun {
-    CDialog* pDialog = nullptr;
+    CWnd* pWindow = nullptr;      ///< the dialog
     CWnd* pFocusBefore = nullptr; ///< who gets the focus back
     bool bEnded = false;
     int nResult = IDCANCEL;
@@ -26,10 +25,6 @@ struct TUiThread {
     /// Drops every trace of a window that ends.
     void Forget(const CWnd& rWnd);
 
-    /// The dialog that takes the user's actions, or null when no modal run is on.
-    CDialog* InnermostDialog() const;
+    /// The dialog of the innermost modal run, which takes the user's actions; null when none is on.
+    CWnd* FrontWindow() const;
 };
-
-/// Delivers all posted messages: each goes to `PreTranslateMessage` of its window and of that
-/// window's parents in turn and, if none of them takes it, to the window.
-void gPumpPostedMessages();

@@ -46,7 +46,7 @@ EUserResult PressSpace(CWnd* pFocus)
 EUserResult gUserKey(const TUserKey& rKey)
 {
     const TUiThread& rThread = gDesktop().Thread();
-    CDialog* const pDialog = rThread.InnermostDialog();
+    CDialog* const pDialog = gInnermostDialog();
     if (!pDialog || rThread.mnOpenBoxes > 0)
         return EUserResult::Blocked;
     CWnd* pFocus = CWnd::GetFocus();

@@ -1,12 +1,8 @@
 #include "platform/ui/Wnd.h"
 
-#include "platform/ui/DataExchange.h"
 #include "platform/ui/Desktop.h"
-#include "platform/ui/Dialog.h"
-#include "platform/ui/TabOrder.h"
 
 #include <algorithm>
-#include <utility>
 
 CWnd::CWnd() = default;
 
@@ -36,9 +32,8 @@ bool CWnd::Create(const char*, const CString& rsTitle, UINT nStyle, const TRect&
         return false;
     OpenWindow(pParent, nId, rRect);
     SetTextSilently(rsTitle);
+    mbVisible = (nStyle & WS_VISIBLE) != 0;
     AttachPeer();
-    if (nStyle & WS_VISIBLE)
-        ShowWindow(SW_SHOW);
     return true;
 }
 
@@ -128,30 +123,6 @@ void CWnd::SetTextSilently(const CString& rsText)
     Announce(EAspect::Text);
 }
 
-void CWnd::EnableWindow(bool bEnable)
-{
-    if (!mbCreated || mbEnabled == bEnable)
-        return;
-    mbEnabled = bEnable;
-    Announce(EAspect::Enabled);
-    if (!bEnable)
-        LeaveFocusIfInside();
-}
-
-bool CWnd::ShowWindow(int nCmdShow)
-{
-    const bool bShow = nCmdShow != SW_HIDE;
-    const bool bBefore = mbVisible;
-    if (!mbCreated || bBefore == bShow)
-        return bBefore;
-    mbVisible = bShow;
-    Announce(EAspect::Visible);
-    if (!bShow)
-        LeaveFocusIfInside();
-    SendMessage(WM_SHOWWINDOW, bShow ? 1 : 0);
-    return bBefore;
-}
-
 bool CWnd::IsWindowVisible() const
 {
     const CWnd* pWnd = this;
@@ -175,6 +146,12 @@ bool CWnd::CanTakeFocus() const
     while (pWnd->mpParent && pWnd->mbVisible)
         pWnd = pWnd->mpParent;
     return !pWnd->mpParent && IsUsable();
+}
+
+CWnd* CWnd::GetFocus()
+{
+    IDesktop* const pDesktop = gFindDesktop();
+    return pDesktop ? pDesktop->Thread().mpFocus : nullptr;
 }
 
 bool CWnd::IsTabStop() const
@@ -249,56 +226,6 @@ bool CWnd::IsInside(const CWnd& rAncestor) const
     return pWnd != nullptr;
 }
 
-// --- focus
-
-CWnd* CWnd::GetFocus()
-{
-    IDesktop* const pDesktop = gFindDesktop();
-    return pDesktop ? pDesktop->Thread().mpFocus : nullptr;
-}
-
-CWnd* CWnd::SetFocus()
-{
-    return CanTakeFocus() ? TakeFocus() : nullptr;
-}
-
-CWnd* CWnd::TakeFocus()
-{
-    TUiThread& rThread = gDesktop().Thread();
-    CWnd* const pBefore = rThread.mpFocus;
-    if (pBefore == this)
-        return pBefore;
-
-    rThread.mpFocus = this;
-    for (CWnd* pAncestor = mpParent; pAncestor; pAncestor = pAncestor->mpParent)
-        pAncestor->mpLastFocus = this;
-    if (pBefore)
-        pBefore->NotifyParent(ENotify::KillFocus);
-    // The handler may have moved the focus on, or ended this window.
-    if (rThread.mpFocus == this) {
-        Announce(EAspect::Focus);
-        NotifyParent(ENotify::SetFocus);
-    }
-    return pBefore;
-}
-
-void CWnd::LeaveFocusIfInside()
-{
-    TUiThread& rThread = gDesktop().Thread();
-    if (!rThread.mpFocus || !rThread.mpFocus->IsInside(*this))
-        return;
-    const CWnd* pFrom = this;
-    for (CWnd* pPane = mpParent; pPane; pFrom = pPane, pPane = pPane->mpParent) {
-        CWnd* const pNext = gNextTabStop(*pPane, pFrom, ETabDirection::Forward);
-        if (pNext && !pNext->IsInside(*this)) {
-            pNext->SetFocus();
-            return;
-        }
-    }
-    CWnd* const pLoser = std::exchange(rThread.mpFocus, nullptr);
-    pLoser->NotifyParent(ENotify::KillFocus);
-}
-
 // --- messages
 
 LRESULT CWnd::SendMessage(UINT nMessage, WPARAM wParam, LPARAM lParam)
@@ -348,58 +275,9 @@ bool CWnd::OnCommand(ENotify code, int nId)
     return false;
 }
 
-// --- help for windows with controls
-
-bool CWnd::UpdateData(bool bSaveAndValidate)
-{
-    if (!mbCreated)
-        return false;
-
-    class CUpdateLock
-    {
-    public:
-        explicit CUpdateLock(bool& rFlag) : mrFlag(rFlag), mbBefore(std::exchange(rFlag, true)) {}
-        ~CUpdateLock() { mrFlag = mbBefore; }
-        CUpdateLock(const CUpdateLock&) = delete;
-        CUpdateLock& operator=(const CUpdateLock&) = delete;
-
-    private:
-        bool& mrFlag;
-        bool mbBefore;
-    };
-    const CUpdateLock lock(mbUpdatingData);
-    CDataExchange exchange(*this, bSaveAndValidate ? EDataExchange::Save : EDataExchange::Load);
-    DoDataExchange(&exchange);
-    return true;
-}
-
 int CWnd::MessageBox(const CString& rsText, const CString& rsCaption, UINT nFlags)
 {
     return gShowMessageBox({this, rsText, rsCaption, nFlags});
-}
-
-// --- the user's side
-
-EUserResult CWnd::WouldAcceptUser()
-{
-    const TUiThread& rThread = gDesktop().Thread();
-    const CWnd* const pFront = rThread.InnermostDialog();
-    if (!mbCreated || rThread.mnOpenBoxes > 0 || (pFront && pFront != &GetTopLevel()))
-        return EUserResult::Blocked;
-    if (!IsWindowVisible())
-        return EUserResult::Hidden;
-    if (!IsUsable())
-        return EUserResult::Disabled;
-    return EUserResult::Done;
-}
-
-EUserResult CWnd::AcceptUser()
-{
-    if (const EUserResult result = WouldAcceptUser(); result != EUserResult::Done)
-        return result;
-    SetFocus();
-    // A handler of the focus change may have closed the way.
-    return WouldAcceptUser();
 }
 
 void CWnd::Announce(EAspect aspect)
