@@ -2,7 +2,9 @@
 
 #include "platform/headless/Step.h"
 
+#include <stdexcept>
 #include <string>
+#include <utility>
 
 // A user's actions by name, so that a test's list of them reads like a story.
 

@@ -1,6 +1,6 @@
 #include "exports/Quorvawiz.h"
 #include "platform/ui/FieldView.h"
-#include "platform/ui/Mnemonics.h"
+#include "support/SharedMnemonics.h"
 #include "support/Steps.h"
 #include "support/WizardRun.h"
 #include "wizard/frame/Remembered.h"
@@ -8,16 +8,11 @@
 #include <gtest/gtest.h>
 
 #include <random>
-#include <set>
 #include <string>
 
 namespace
 {
 constexpr int kActions = QUORVAWIZ_LONG_RUNS ? 2'000'000 : 20'000;
-
-/// Mnemonics that two controls visible together share because their given texts say so, as
-/// "class letter".
-const std::set<std::string> kGivenCollisions = {};
 
 /// A user who does anything, wildly, and a look at the whole window after each action.
 class CMonkey
@@ -104,13 +99,7 @@ private:
         const CTreeCtrl& rTree = rWizard.GetTree();
         ASSERT_NE(rTree.GetSelectedItem(), nullptr);
 
-        for (char c = 'a'; c <= 'z'; ++c) {
-            if (gMnemonicTargets(*pInnermost, c).size() > 1) {
-                ASSERT_TRUE(kGivenCollisions.contains(
-                    std::string(gClassName(gCurrentPane(*pInnermost))) + ' ' + c))
-                    << gClassName(gCurrentPane(*pInnermost)) << ' ' << c;
-            }
-        }
+        ASSERT_EQ(gSharedMnemonics(*pInnermost), "") << gClassName(gCurrentPane(*pInnermost));
     }
 
     std::mt19937 mRandom;

@@ -1,7 +1,12 @@
 #include "support/TemplateLint.h"
 
 #include "platform/headless/HeadlessDesktop.h"
+#include "platform/ui/FieldView.h"
 #include "platform/ui/TemplateRows.h"
+#include "platform/ui/Translate.h"
+#include "support/SharedMnemonics.h"
+#include "support/Steps.h"
+#include "support/WizardRun.h"
 #include "wizard/frame/CommandPage.h"
 #include "wizard/frame/TreeDlg.h"
 #include "wizard/frame/WizardPages.h"
@@ -57,6 +62,41 @@ TEST(TemplateLint, EveryPageFillsThePane)
         if (pTemplate->nId != 100) {
             EXPECT_EQ(pTemplate->size, kPageSize) << pTemplate->pCaption;
         }
+    }
+}
+
+// --- mnemonics, on live windows: the page and the frame together
+
+TEST(WizardMnemonics, NoTwoControlsVisibleTogetherShareOneButThoseThatTheTemplateNames)
+{
+    std::vector<TStep> pages;
+    std::string sCategory;
+    for (const TTreeRow& rRow : gWizardTree()) {
+        const std::string sLabel = xlang::gTranslate(rRow.pLabel).GetString();
+        if (rRow.bCategory)
+            sCategory = sLabel;
+        if (rRow.pClass)
+            pages.push_back(steps::Open(rRow.bCategory ? sLabel : sCategory + '/' + sLabel));
+    }
+    CScript script;
+    for (const TStep& rStep : pages)
+        script.Do({rStep}).Then([](CDialog& rDialog) {
+            EXPECT_EQ(gSharedMnemonics(rDialog), "") << gClassName(gCurrentPane(rDialog));
+        });
+    gRunWizard(std::move(script));
+}
+
+TEST(WizardMnemonics, ASharedOneIsFoundUnlessItIsNamed)
+{
+    const auto rows = JoinRows(Row(1, "a", EControl::PushButton, "&Xa", {0, 0, 20, 14}),
+                               Row(2, "b", EControl::PushButton, "&Xb", {0, 20, 20, 14}));
+    for (const auto& [pNamed, pFound] : {std::pair{"", "x"}, {"x", ""}, {"y", "x"}}) {
+        const DialogTemplate sample{1, "Sample", {60, 60}, rows, pNamed};
+        HeadlessDesktop desktop;
+        CDialog dialog(sample);
+        CScript()
+            .Then([&](CDialog& rDialog) { EXPECT_EQ(gSharedMnemonics(rDialog), pFound); })
+            .Run(desktop, [&dialog] { dialog.DoModal(); });
     }
 }
 

@@ -12,7 +12,7 @@ enum class EControl {
     Group,         ///< a titled frame; a sibling of what it surrounds, not a parent
     Frame,         ///< an empty rectangle that marks a place
     Edit,          ///< one line of text
-    MultilineEdit, ///< several lines, joined by CR LF
+    MultilineEdit, ///< several lines, joined by CR LF; scrolls vertically
     PushButton,
     DefaultButton, ///< the push button that Enter presses
     CheckBox,
@@ -20,7 +20,8 @@ enum class EControl {
     DropDownList, ///< a choice among entries
     DropDown,     ///< a choice among entries, or a text typed by the user
     ListBox,
-    Tree,
+    Tree, ///< with buttons, lines, lines at the root and a border; shows its selection without
+          ///< focus
     Table,
     Tabs,
 };
@@ -62,12 +63,16 @@ constexpr TControlRow Row(int nId, const char* pKey, EControl kind, const char* 
     return {nId, pKey, kind, pLabel, rRect, nFlags, nLayers, entries};
 }
 
-/// A dialog or a pane as data.
+/// A dialog or a pane as data. Every desktop gives a dialog a fixed frame with a caption and a
+/// system menu, without minimise and maximise boxes.
 struct DialogTemplate {
     int nId; ///< the template's number, unique among all templates
     const char* pCaption;
     TSize size;
     std::span<const TControlRow> rows; ///< in tab order
+    /// Letters, lower case, that several labels visible together share because their texts are
+    /// given.
+    const char* pSharedMnemonics = "";
 };
 
 /// The id of the label that belongs to field `nId`.

@@ -12,6 +12,8 @@
 
 template <class TClass> const CRuntimeClass& gRuntimeClass()
 {
+    static_assert(std::is_default_constructible_v<TClass> || std::is_abstract_v<TClass>,
+                  "a concrete class is created by its name, without arguments");
     constexpr auto isInstance = [](const CObject& rObject) {
         return dynamic_cast<const TClass*>(&rObject) != nullptr;
     };

@@ -65,7 +65,7 @@ CAnalysisPage::CAnalysisPage() : CCommandPage(kAnalysisTemplate) {}
 
 TMessageMap CAnalysisPage::GetMessageMap() const
 {
-    return kCategoryHandlers<&CAnalysisPage::OnButton, 9>;
+    return kCategoryHandlers<&CAnalysisPage::OnButton, kAnalysisRows.size() - 1>;
 }
 
 void CAnalysisPage::DoDataExchange(CDataExchange*) {}
@@ -86,7 +86,7 @@ CCurrentSourcePage::CCurrentSourcePage() : CCommandPage(kCurrentSourceTemplate) 
 
 TMessageMap CCurrentSourcePage::GetMessageMap() const
 {
-    return kCategoryHandlers<&CCurrentSourcePage::OnButton, 10>;
+    return kCategoryHandlers<&CCurrentSourcePage::OnButton, kCurrentSourceRows.size() - 1>;
 }
 
 void CCurrentSourcePage::DoDataExchange(CDataExchange*) {}
@@ -107,7 +107,7 @@ CFilesPage::CFilesPage() : CCommandPage(kFilesTemplate) {}
 
 TMessageMap CFilesPage::GetMessageMap() const
 {
-    return kCategoryHandlers<&CFilesPage::OnButton, 4>;
+    return kCategoryHandlers<&CFilesPage::OnButton, kFilesRows.size() - 1>;
 }
 
 void CFilesPage::DoDataExchange(CDataExchange*) {}
@@ -128,7 +128,7 @@ CInitializationPage::CInitializationPage() : CCommandPage(kInitializationTemplat
 
 TMessageMap CInitializationPage::GetMessageMap() const
 {
-    return kCategoryHandlers<&CInitializationPage::OnButton, 2>;
+    return kCategoryHandlers<&CInitializationPage::OnButton, kInitializationRows.size() - 1>;
 }
 
 void CInitializationPage::DoDataExchange(CDataExchange*) {}
@@ -149,7 +149,7 @@ COutputPage::COutputPage() : CCommandPage(kOutputTemplate) {}
 
 TMessageMap COutputPage::GetMessageMap() const
 {
-    return kCategoryHandlers<&COutputPage::OnButton, 7>;
+    return kCategoryHandlers<&COutputPage::OnButton, kOutputRows.size() - 1>;
 }
 
 void COutputPage::DoDataExchange(CDataExchange*) {}
@@ -170,7 +170,7 @@ CSettingsPage::CSettingsPage() : CCommandPage(kSettingsTemplate) {}
 
 TMessageMap CSettingsPage::GetMessageMap() const
 {
-    return kCategoryHandlers<&CSettingsPage::OnButton, 6>;
+    return kCategoryHandlers<&CSettingsPage::OnButton, kSettingsRows.size() - 1>;
 }
 
 void CSettingsPage::DoDataExchange(CDataExchange*) {}
@@ -191,7 +191,7 @@ CVoltageSourcePage::CVoltageSourcePage() : CCommandPage(kVoltageSourceTemplate) 
 
 TMessageMap CVoltageSourcePage::GetMessageMap() const
 {
-    return kCategoryHandlers<&CVoltageSourcePage::OnButton, 10>;
+    return kCategoryHandlers<&CVoltageSourcePage::OnButton, kVoltageSourceRows.size() - 1>;
 }
 
 void CVoltageSourcePage::DoDataExchange(CDataExchange*) {}
@@ -212,7 +212,7 @@ COptimizationPage::COptimizationPage() : CCommandPage(kOptimizationTemplate) {}
 
 TMessageMap COptimizationPage::GetMessageMap() const
 {
-    return kCategoryHandlers<&COptimizationPage::OnButton, 1>;
+    return kCategoryHandlers<&COptimizationPage::OnButton, kOptimizationRows.size() - 1>;
 }
 
 void COptimizationPage::DoDataExchange(CDataExchange*) {}

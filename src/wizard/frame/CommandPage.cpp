@@ -7,3 +7,9 @@ CCommandPage::CCommandPage(const DialogTemplate& rTemplate) : CPropertyPage(rTem
 void CCommandPage::DoDataExchange(CDataExchange*) {}
 
 template const CRuntimeClass& gRuntimeClass<CCommandPage>();
+
+namespace
+{
+// No table names this class, so it registers itself at load.
+[[maybe_unused]] const CRuntimeClass& srRegistered = gRuntimeClass<CCommandPage>();
+} // namespace

@@ -40,6 +40,8 @@ void CLayerWnd::ShowLayer(int nIndex)
 {
     if (mLayers.empty())
         return;
+    if (!mpParent)
+        gThrowInvalidArg("layers: there is no parent to show them in");
     if (CWnd* const pBefore = GetCurrentWindow())
         pBefore->ShowWindow(SW_HIDE);
     mnCurrent = nIndex;
@@ -47,20 +49,19 @@ void CLayerWnd::ShowLayer(int nIndex)
         return;
 
     CWnd& rLayer = *GetCurrentWindow();
-    if (dynamic_cast<CPropertyPage*>(&rLayer))
-        ShowPage(rLayer);
+    if (auto* const pPage = dynamic_cast<CPropertyPage*>(&rLayer))
+        ShowPage(*pPage);
     else
         ShowPlainWindow(rLayer);
     rLayer.ShowWindow(SW_SHOW);
 }
 
-void CLayerWnd::ShowPage(CWnd& rPage)
+void CLayerWnd::ShowPage(CPropertyPage& rPage)
 {
-    auto& rPane = dynamic_cast<CPropertyPage&>(rPage);
-    rPane.CreatePane(*mpParent);
-    const TRect own = rPane.GetRect();
-    rPane.MoveWindow({mnX, mnY, own.w, own.h});
-    rPane.BringWindowToTop();
+    rPage.CreatePane(*mpParent);
+    const TRect own = rPage.GetRect();
+    rPage.MoveWindow({mnX, mnY, own.w, own.h});
+    rPage.BringWindowToTop();
 }
 
 void CLayerWnd::ShowPlainWindow(CWnd& rWnd)

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+class CPropertyPage;
+
 /// A stack of windows of one parent, of which one is on display. It is no window itself and owns
 /// none of them.
 class CLayerWnd
@@ -23,7 +25,8 @@ public:
 
     /// Hides the current layer and shows the one with this index, creating it on its first display.
     /// An index that isn't one becomes the current index all the same, with nothing shown; the next
-    /// call with layers to hide then throws CInvalidArgException. Without layers nothing happens.
+    /// call with layers to hide then throws CInvalidArgException. So does a call before there is a
+    /// parent. Without layers nothing happens.
     void ShowLayer(int nIndex);
 
     int GetCurrentIndex() const { return mnCurrent; }
@@ -35,7 +38,7 @@ public:
     CWnd* FocusCurrentWindow();
 
 private:
-    void ShowPage(CWnd& rPage);
+    void ShowPage(CPropertyPage& rPage);
     void ShowPlainWindow(CWnd& rWnd);
 
     CWnd* mpParent = nullptr;

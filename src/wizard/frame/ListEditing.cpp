@@ -1,15 +1,15 @@
 #include "wizard/frame/ListEditing.h"
 
+#include "platform/base/Exceptions.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/ListBox.h"
-#include "platform/ui/Translate.h"
 #include "wizard/frame/PageText.h"
 
 namespace
 {
 bool Confirms(const char* pQuestion)
 {
-    return AfxMessageBox(xlang::gTranslate(pQuestion), MB_YESNO) == IDYES;
+    return AfxMessageBox(gShownText(pQuestion), MB_YESNO) == IDYES;
 }
 } // namespace
 
@@ -21,7 +21,7 @@ ListEditing::ListEditing(CWnd& rPage, CListBox& rList, const TListEditingTexts& 
 bool ListEditing::Add(const CString& rsEntry, CString& rsMessage)
 {
     if (mrList.FindStringExact(-1, rsEntry) >= 0) {
-        rsMessage = xlang::gTranslate("__$$Translatable$$_This entry is already in the list.");
+        rsMessage = gShownText(mrTexts.pAlreadyThere);
         return gReportMessage(mrPage, rsMessage);
     }
     mrList.InsertString(0, rsEntry);
@@ -60,7 +60,10 @@ CString ListEditing::OldestFirst(const CString& rsSeparator) const
 
 void ListEditing::EnableButtons(bool bEnable)
 {
-    for (const int nButton : {mrTexts.nDeleteButton, mrTexts.nClearButton})
-        if (CWnd* const pButton = mrPage.GetDlgItem(nButton))
-            pButton->EnableWindow(bEnable);
+    for (const int nButton : {mrTexts.nDeleteButton, mrTexts.nClearButton}) {
+        CWnd* const pButton = mrPage.GetDlgItem(nButton);
+        if (!pButton)
+            gThrowInvalidArg("list editing: the page has no button of this id");
+        pButton->EnableWindow(bEnable);
+    }
 }

@@ -5,11 +5,12 @@
 class CListBox;
 class CWnd;
 
-/// What differs between the lists of two pages. The questions are translated by `gTranslate` unless
-/// they stand without the marker.
+/// What differs between the lists of two pages. A text without the translation marker is shown in
+/// English in every language.
 struct TListEditingTexts {
     int nDeleteButton;
     int nClearButton;
+    const char* pAlreadyThere; ///< the message of an entry that is refused
     const char* pDeleteQuestion;
     const char* pClearQuestion;
 };

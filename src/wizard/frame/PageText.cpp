@@ -1,6 +1,9 @@
 #include "wizard/frame/PageText.h"
 
+#include "platform/ui/Translate.h"
 #include "platform/ui/Wnd.h"
+
+#include <string_view>
 
 void gTrim(CString& rsField)
 {
@@ -25,6 +28,12 @@ CString gJoinLines(const CString& rsText)
         }
     }
     return sJoined;
+}
+
+CString gShownText(const char* pLiteral)
+{
+    const bool bMarked = std::string_view(pLiteral).starts_with(xlang::kTranslationMarker);
+    return bMarked ? xlang::gTranslate(pLiteral) : CString(pLiteral);
 }
 
 bool gReportMessage(CWnd& rOwner, CString sMessage)

@@ -8,8 +8,12 @@ class CWnd;
 void gTrim(CString& rsField);
 
 /// The text of a multi-line field as it stands in a one-line command: each CR LF inside becomes a
-/// blank, and one at the end vanishes. `sText` is trimmed by then.
+/// blank, and one at the end vanishes. `rsText` is trimmed by then.
 CString gJoinLines(const CString& rsText);
+
+/// A text from a page's table as the user sees it: translated if it carries the translation marker,
+/// else in English in every language.
+CString gShownText(const char* pLiteral);
 
 /// Reports a failed check: a box owned by the page with the caption "SPICE".
 /// Result: false, so that a check can return it.

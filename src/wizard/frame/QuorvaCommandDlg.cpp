@@ -1,11 +1,11 @@
 #include "wizard/frame/QuorvaCommandDlg.h"
 
+#include "platform/base/Exceptions.h"
 #include "platform/ui/Translate.h"
 #include "wizard/frame/CommandPage.h"
 #include "wizard/frame/WizardPages.h"
 
 #include <algorithm>
-#include <numeric>
 #include <tuple>
 
 CQuorvaCommandDlg::CQuorvaCommandDlg(CWnd* pParent, quorvawiz::QuorvaCommandWizardTarget* pTarget)
@@ -17,7 +17,7 @@ CQuorvaCommandDlg::CQuorvaCommandDlg(CWnd* pParent, quorvawiz::QuorvaCommandWiza
                                      std::span<const TTreeRow> tree)
     : CTreeDlg(pParent, pTarget), mRows(tree), mPageOfRow(tree.size())
 {
-    // Commands before categories, category by category, by the number in the row.
+    // The order of construction: see `TTreeRow::nOrder`.
     std::vector<std::tuple<bool, int, int, std::size_t>> order;
     int nCategory = -1;
     for (std::size_t nRow = 0; nRow < mRows.size(); ++nRow) {
@@ -32,8 +32,9 @@ CQuorvaCommandDlg::CQuorvaCommandDlg(CWnd* pParent, quorvawiz::QuorvaCommandWiza
 
 CQuorvaCommandDlg::~CQuorvaCommandDlg()
 {
-    while (!mPages.empty())
-        mPages.pop_back();
+    // A vector would end them first to last.
+    while (!mObjects.empty())
+        mObjects.pop_back();
 }
 
 void CQuorvaCommandDlg::ConstructPage(std::size_t nRow)
@@ -41,10 +42,12 @@ void CQuorvaCommandDlg::ConstructPage(std::size_t nRow)
     const CRuntimeClass* const pClass = mRows[nRow].pClass;
     if (!pClass)
         return;
-    std::unique_ptr<CObject> pObject = pClass->CreateObject();
-    mPages.emplace_back(&dynamic_cast<CCommandPage&>(*pObject));
-    [[maybe_unused]] CObject* const pReleased = pObject.release();
-    mPageOfRow[nRow] = mPages.back().get();
+    mObjects.push_back(pClass->CreateObject());
+    auto* const pPage = dynamic_cast<CCommandPage*>(mObjects.back().get());
+    if (!pPage)
+        gThrowInvalidArg("wizard: the class of a row isn't that of a concrete page");
+    mPages.push_back(pPage);
+    mPageOfRow[nRow] = pPage;
 }
 
 void CQuorvaCommandDlg::BuildTree()

@@ -11,8 +11,9 @@ struct TTreeRow;
 
 /// The SPICE Command Wizard: the tree dialog with the pages of all commands.
 ///
-/// A new set of pages lives exactly as long as the dialog. Each page is held through its run-time
-/// class, so that this file needn't know 63 headers and a new page is one row of the tree's table.
+/// A new set of pages lives exactly as long as the dialog. Each page is created through its
+/// run-time class, so that this file needn't know 57 headers and a new page is one row of the
+/// tree's table.
 class CQuorvaCommandDlg : public CTreeDlg
 {
 public:
@@ -25,7 +26,7 @@ public:
     ~CQuorvaCommandDlg() override;
 
     /// The pages in the order of their construction; they end in the reverse order.
-    const std::vector<std::unique_ptr<CCommandPage>>& GetPages() const { return mPages; }
+    const std::vector<CCommandPage*>& GetPages() const { return mPages; }
 
 protected:
     void BuildTree() override;
@@ -35,5 +36,6 @@ private:
 
     std::span<const TTreeRow> mRows;
     std::vector<CCommandPage*> mPageOfRow; ///< null where the page isn't built
-    std::vector<std::unique_ptr<CCommandPage>> mPages;
+    std::vector<std::unique_ptr<CObject>> mObjects;
+    std::vector<CCommandPage*> mPages; ///< the same objects
 };

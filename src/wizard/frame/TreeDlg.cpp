@@ -1,14 +1,14 @@
 #include "wizard/frame/TreeDlg.h"
 
+#include "platform/base/Ascii.h"
 #include "platform/base/Exceptions.h"
+#include "platform/ui/Button.h"
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/TemplateRows.h"
 #include "platform/ui/Translate.h"
 #include "wizard/frame/CommandPage.h"
 #include "wizard/frame/CommandWizardTarget.h"
 #include "wizard/frame/PageText.h"
-
-#include <algorithm>
 
 namespace
 {
@@ -29,11 +29,6 @@ constexpr std::int32_t kNoPane = -1;
 constexpr bool IsCategory(std::int32_t nData)
 {
     return (nData & ~kIndexMask) == kCategoryMark;
-}
-
-bool IsAscii(std::string_view sText)
-{
-    return std::ranges::all_of(sText, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 } // namespace
 
@@ -126,9 +121,12 @@ HTREEITEM CTreeDlg::NodeAt(HTREEITEM hParent, LPARAM nPlace) const
 
 void CTreeDlg::OnTreeSelectionChanged()
 {
-    const std::int32_t nData = mTree.GetItemData(mTree.GetSelectedItem());
+    const HTREEITEM hSelected = mTree.GetSelectedItem();
+    if (!hSelected)
+        return;
+    const std::int32_t nData = mTree.GetItemData(hSelected);
     if (nData == kNoPane) {
-        EnableInsert(false);
+        EnableInsert(false); // meant: the pane on display stays
     } else if (IsCategory(nData)) {
         mLayers.ShowLayer(nData & kIndexMask);
         EnableInsert(false);
@@ -159,7 +157,9 @@ bool CTreeDlg::SelectLeaf(int nCategory, int nPage)
 
 void CTreeDlg::EnableInsert(bool bEnable)
 {
-    GetDlgItem(IDOK)->EnableWindow(bEnable);
+    // By its kind: a layer that is no page has a small id of its own.
+    if (CButton* const pInsert = GetDefaultButton())
+        pInsert->EnableWindow(bEnable);
 }
 
 bool CTreeDlg::PreTranslateMessage(const TMsg& rMsg)
@@ -202,7 +202,7 @@ void CTreeDlg::OnOK()
     if (pPane && pPane->IsKindOf(gRuntimeClass<CCommandPage>()) &&
         !dynamic_cast<CCommandPage&>(*pPane).BuildCommand(msCommand))
         return;
-    if (!IsAscii(msCommand)) {
+    if (!gIsAscii(msCommand)) {
         gReportMessage(*this,
                        xlang::gTranslate("__$$Translatable$$_Only ASCII characters are allowed"));
         return;

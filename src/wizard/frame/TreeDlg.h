@@ -71,6 +71,8 @@ private:
     quorvawiz::QuorvaCommandWizardTarget* mpTarget;
 
 protected:
+    // The one operation that this class adds; it stands behind all inherited ones.
+
     /// Fills the tree with `AddCategory` and `AddPage`.
     virtual void BuildTree() = 0;
 };

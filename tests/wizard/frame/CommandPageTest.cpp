@@ -56,9 +56,10 @@ TEST(CommandPage, HandsItsTemplateOnWithCaptionZeroAndTheStandardSize)
 
 TEST(CommandPage, IsKnownAtRunTimeAndCannotBeCreated)
 {
+    EXPECT_NE(CRuntimeClass::FromName("CCommandPage"), nullptr) << "registered at load";
+    EXPECT_EQ(CRuntimeClass::FromName("CCommandPage"), &gRuntimeClass<CCommandPage>());
     const CPage page;
     EXPECT_TRUE(page.IsKindOf(gRuntimeClass<CCommandPage>()));
-    EXPECT_EQ(CRuntimeClass::FromName("CCommandPage"), &gRuntimeClass<CCommandPage>());
     EXPECT_EQ(gRuntimeClass<CCommandPage>().CreateObject(), nullptr);
 
     class COther : public CPropertyPage

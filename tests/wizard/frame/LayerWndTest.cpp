@@ -5,6 +5,7 @@
 #include "platform/ui/Edit.h"
 #include "platform/ui/PropertyPage.h"
 #include "platform/ui/TemplateRows.h"
+#include "support/VirtualSlot.h"
 
 #include <gtest/gtest.h>
 
@@ -155,7 +156,21 @@ TEST_F(CLayerTest, FocusingTheCurrentWindowReturnsTheWindowThatLostTheFocus)
 
 TEST_F(CLayerTest, ItIsNoWindowAndHasOneVirtualOperationItsDestructor)
 {
+    class CProbe : public CLayerWnd
+    {
+    public:
+        virtual void First() {}
+    };
     static_assert(!std::is_base_of_v<CObject, CLayerWnd>);
     static_assert(std::has_virtual_destructor_v<CLayerWnd>);
+    EXPECT_EQ(gVirtualSlot(&CProbe::First), 2U) << "a destructor takes two slots";
+}
+
+TEST_F(CLayerTest, ShowingBeforeThereIsAParentIsAnInvalidArgument)
+{
+    CLayerWnd orphan;
+    orphan.Add(&mFirst);
+    EXPECT_THROW(orphan.ShowLayer(0), CInvalidArgException);
+    EXPECT_EQ(orphan.GetCurrentIndex(), -1);
 }
 } // namespace

@@ -1,5 +1,6 @@
 #include "wizard/frame/ListEditing.h"
 
+#include "platform/base/Exceptions.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/ListBox.h"
@@ -23,7 +24,9 @@ constexpr auto kRows = JoinRows(
     Row(kClear, "clear", EControl::PushButton, "&Clear", {100, 90, 50, 14}, kDisabled));
 constexpr DialogTemplate kTemplate{9005, "List", {160, 120}, kRows};
 
-constexpr TListEditingTexts kTexts{kDelete, kClear, "__$$Translatable$$_Delete it?", "Clear all?"};
+constexpr TListEditingTexts kTexts{kDelete, kClear,
+                                   "__$$Translatable$$_This entry is already in the list.",
+                                   "__$$Translatable$$_Delete it?", "Clear all?"};
 
 class CListDlg : public CDialog
 {
@@ -101,14 +104,14 @@ const TCase kCases[] = {
      {kAddA, kPress, Select("list", -1), Click("delete")},
      {true},
      {"a", -1, true, {}}},
-    {"clearing asks a question that has no marker here",
+    {"clearing asks; a question without the marker isn't translated",
      {kAddA, kPress, kAddB, kPress, Click("clear")},
      {true},
-     {"", -1, false, {"[Clear all?]"}}},
+     {"", -1, false, {"Clear all?"}}},
     {"clearing with no keeps all",
      {kAddA, kPress, Click("clear")},
      {false},
-     {"a", 0, true, {"[Clear all?]"}}},
+     {"a", 0, true, {"Clear all?"}}},
     {"clearing without a selection does nothing though there are entries",
      {kAddA, kPress, Select("list", -1), Click("clear")},
      {true},
@@ -161,6 +164,20 @@ TEST(ListEditing, QuestionsAreTheApplicationsBoxesAndTheRefusalIsThePages)
     EXPECT_EQ(boxes[1].box.pOwner, nullptr);
     EXPECT_EQ(boxes[1].box.sCaption, std::nullopt) << "the default caption";
     EXPECT_EQ(boxes[1].box.nFlags, MB_YESNO);
+}
+
+TEST(ListEditing, AButtonThatThePageDoesNotHaveIsAnError)
+{
+    static constexpr TListEditingTexts kWrong{9998, 9999, "", "", ""};
+    HeadlessDesktop desktop;
+    CListDlg dialog;
+    CScript()
+        .Then([&dialog](CDialog&) {
+            ListEditing editing(dialog, dialog.mList, kWrong);
+            CString sMessage;
+            EXPECT_THROW(editing.Add("a", sMessage), CInvalidArgException);
+        })
+        .Run(desktop, [&dialog] { dialog.DoModal(); });
 }
 
 TEST(ListEditing, TellsTheEntriesOldestFirst)

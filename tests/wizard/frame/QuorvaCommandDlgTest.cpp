@@ -1,10 +1,12 @@
 #include "wizard/frame/QuorvaCommandDlg.h"
 
+#include "platform/base/Exceptions.h"
 #include "platform/headless/TreePath.h"
 #include "platform/ui/FieldView.h"
 #include "platform/ui/RuntimeClassDefinition.h"
 #include "support/Steps.h"
 #include "support/TranslationScope.h"
+#include "support/VirtualSlot.h"
 #include "support/WizardRun.h"
 #include "wizard/frame/CommandPage.h"
 #include "wizard/frame/WizardPages.h"
@@ -28,7 +30,7 @@ public:
     bool BuildCommand(CString&) override { return false; }
 };
 
-constexpr std::size_t kNodes = 63;
+constexpr std::size_t kNodes = 55;
 
 template <std::size_t... N>
 std::array<const CRuntimeClass*, kNodes> TestPaneClasses(std::index_sequence<N...>)
@@ -189,6 +191,11 @@ const char* const kConstructed[] = {
     "COptimizationPage",
 };
 
+std::string Bracketed(const char* pLabel)
+{
+    return '[' + std::string(pLabel) + ']';
+}
+
 constexpr std::string_view kMarker = "__$$Translatable$$_";
 
 TEST(WizardTree, HoldsEveryNodeWithItsClassInOrder)
@@ -269,20 +276,42 @@ TEST(WizardDialog, PagesEndWithTheDialogInTheReverseOrder)
 
 TEST(WizardDialog, APageThatIsNotBuiltAddsNoNode)
 {
+    const TTreeRow tree[] = {
+        {0, "C", "", &gRuntimeClass<CTestPane<0>>(), true},
+        {0, "built", "", &gRuntimeClass<CTestPane<1>>(), false},
+        {1, "not built", "", nullptr, false},
+    };
+    HeadlessDesktop desktop;
+    CQuorvaCommandDlg dialog(nullptr, nullptr, tree);
+    EXPECT_EQ(dialog.GetPages().size(), 2U);
+    CScript()
+        .Then([&dialog](CDialog&) {
+            EXPECT_NE(gFindTreePath(dialog.GetTree(), "C/built"), nullptr);
+            EXPECT_EQ(gFindTreePath(dialog.GetTree(), "C/not built"), nullptr);
+        })
+        .Run(desktop, [&dialog] { dialog.DoModal(); });
+}
+
+TEST(WizardDialog, TheRealTreeShowsTheBuiltPagesAndNoOthers)
+{
     gRunWizard(CScript().Then([](CDialog&) {
-        const CTreeCtrl& rTree = gOpenWizard().GetTree();
+        std::string sCategory;
         for (const TTreeRow& rRow : gWizardTree()) {
+            const std::string sLabel(std::string_view(rRow.pLabel).substr(kMarker.size()));
             if (rRow.bCategory)
-                continue;
-            bool bFound = false;
-            for (HTREEITEM h = rTree.GetRootItem(); h; h = rTree.GetNextSiblingItem(h))
-                for (HTREEITEM c = rTree.GetChildItem(h); c; c = rTree.GetNextSiblingItem(c))
-                    bFound =
-                        bFound || kMarker.data() + std::string(rTree.GetItemText(c).GetString()) ==
-                                      rRow.pLabel;
-            EXPECT_TRUE(bFound || !rRow.pClass) << rRow.sClass;
+                sCategory = sLabel;
+            const std::string sPath = rRow.bCategory ? sLabel : sCategory + '/' + sLabel;
+            EXPECT_EQ(gFindTreePath(gOpenWizard().GetTree(), sPath) != nullptr,
+                      rRow.pClass != nullptr)
+                << sPath;
         }
     }));
+}
+
+TEST(WizardDialog, ARowWhoseClassIsNoConcretePageIsAnError)
+{
+    const TTreeRow tree[] = {{0, "C", "", &gRuntimeClass<CCommandPage>(), true}};
+    EXPECT_THROW(CQuorvaCommandDlg(nullptr, nullptr, tree), CInvalidArgException);
 }
 
 /// Runs a wizard with the whole tree.
@@ -325,37 +354,75 @@ TEST_F(CWholeTreeTest, TheTitleAndEveryLabelAreTranslated)
     }));
 }
 
-TEST_F(CWholeTreeTest, EveryCategoryButtonSelectsThePageAtItsOwnPlace)
+TEST_F(CWholeTreeTest, EveryCategoryButtonSelectsThePageAtItsOwnPlaceAndItsLabelIsUntranslated)
 {
+    const CBracketTranslation translation;
     for (const TCategory& rCategory : kWizard) {
         for (std::size_t n = 0; n < rCategory.buttons.size(); ++n) {
             const std::string sKey = "button-" + std::to_string(n + 1);
-            const std::string sCategory = rCategory.node.pLabel;
+            const std::string sCategory = Bracketed(rCategory.node.pLabel);
             const bool bLeads = n < rCategory.pages.size();
             Run(CScript()
                     .Do({Open(sCategory)})
                     .Then([&](CDialog& rDialog) {
                         EXPECT_EQ(gFindField(rDialog, sKey).pControl->GetWindowText(),
-                                  rCategory.buttons[n])
-                            << "as the template has it, untranslated";
+                                  rCategory.buttons[n]);
                     })
                     .Do({Click(sKey)})
                     .Then([&](CDialog&) {
                         EXPECT_EQ(SelectedPath(),
-                                  bLeads ? sCategory + '/' + rCategory.pages[n].pLabel : sCategory);
+                                  bLeads ? sCategory + '/' + Bracketed(rCategory.pages[n].pLabel)
+                                         : sCategory);
                         EXPECT_EQ(mDialog.GetDlgItem(IDOK)->IsWindowEnabled(), bLeads);
                     }));
         }
     }
 }
 
-TEST_F(CWholeTreeTest, ACategoryHasNoMoreButtonsThanItsTableSays)
+TEST_F(CWholeTreeTest, ACategoryButtonPostsOneMessageWithTwoConstantsToItsOwnPage)
+{
+    WPARAM nCategory = 0;
+    for (const TCategory& rCategory : kWizard) {
+        for (std::size_t n = 0; n < rCategory.buttons.size(); ++n) {
+            Run(CScript().Do({Open(rCategory.node.pLabel)}).Then([&](CDialog& rDialog) {
+                CWnd& rPage = gCurrentPane(rDialog);
+                gRunStep(rDialog, Click("button-" + std::to_string(n + 1)));
+                const auto& rPosted = gDesktop().Thread().mPosted;
+                ASSERT_EQ(rPosted.size(), 1U);
+                EXPECT_EQ(rPosted[0].pWnd, &rPage);
+                EXPECT_EQ(rPosted[0].nMessage, 0x8000U + 5);
+                EXPECT_EQ(rPosted[0].wParam, nCategory);
+                EXPECT_EQ(rPosted[0].lParam, static_cast<LPARAM>(n));
+            }));
+        }
+        ++nCategory;
+    }
+}
+
+TEST_F(CWholeTreeTest, ACategoryHasAHeadingOnTopAndItsButtonsInTwoColumnsOfFive)
 {
     for (const TCategory& rCategory : kWizard) {
         Run(CScript().Do({Open(rCategory.node.pLabel)}).Then([&](CDialog& rDialog) {
             const auto fields = gCollectFields(gCurrentPane(rDialog));
-            EXPECT_EQ(fields.size(), rCategory.buttons.size() + 1) << "the heading and the buttons";
-            EXPECT_EQ(fields.front().pControl->GetWindowText(), rCategory.node.pLabel);
+            ASSERT_EQ(fields.size(), rCategory.buttons.size() + 1) << "the heading and the buttons";
+            const CWnd& rHeading = *fields[0].pControl;
+            EXPECT_EQ(rHeading.GetWindowText(), rCategory.node.pLabel);
+            EXPECT_TRUE(rHeading.GetControlFlags() & kHeading);
+            EXPECT_EQ(rHeading.GetRect().x + rHeading.GetRect().Right(), kPageSize.cx) << "centred";
+
+            const TRect first = fields[1].pControl->GetRect();
+            EXPECT_GE(first.y, rHeading.GetRect().Bottom());
+            for (std::size_t n = 1; n < fields.size(); ++n) {
+                const TRect rect = fields[n].pControl->GetRect();
+                const bool bRight = n > 5;
+                EXPECT_EQ(rect.w, first.w);
+                EXPECT_EQ(rect.h, first.h);
+                EXPECT_EQ(rect.x > first.x, bRight);
+                EXPECT_EQ(rect.y, fields[bRight ? n - 5 : n].pControl->GetRect().y);
+                if (n > 1 && n != 6) {
+                    EXPECT_GT(rect.y, fields[n - 1].pControl->GetRect().y);
+                }
+            }
         }));
     }
 }
@@ -371,10 +438,16 @@ TEST_F(CWholeTreeTest, TheTableButtonOfTheFilesCategoryLeadsToDeleteLibraryFile)
 
 TEST_F(CWholeTreeTest, TheDeleteLibraryFileButtonSelectsNothingAndFocusesTheCategoryPage)
 {
-    Run(CScript().Do({Open("Files"), Click("button-4")}).Then([this](CDialog& rDialog) {
-        EXPECT_EQ(SelectedPath(), "Files");
-        EXPECT_TRUE(CWnd::GetFocus()->IsInside(gCurrentPane(rDialog)));
-    }));
+    Run(CScript()
+            .Do({Open("Files")})
+            .Then([](CDialog& rDialog) {
+                gRunStep(rDialog, Click("button-4"));
+                gRunStep(rDialog, Focus("tree")); // before the message is delivered
+            })
+            .Then([this](CDialog& rDialog) {
+                EXPECT_EQ(SelectedPath(), "Files");
+                EXPECT_TRUE(CWnd::GetFocus()->IsInside(gCurrentPane(rDialog)));
+            }));
 }
 
 TEST_F(CWholeTreeTest, ThePartitionButtonOfTheSettingsCategorySelectsNothing)
@@ -399,25 +472,57 @@ TEST_F(CWholeTreeTest, OnlyTheVoltageButtonSpellsPiecewiseLinearWithAHyphen)
             .Then(expectLabel("Piecewise linear")));
 }
 
-TEST(WizardDialog, ReplacesOneOperationAndOpensOnTheAnalysisCategory)
+TEST(WizardDialog, OpensOnTheAnalysisCategoryWithAllCollapsedInEveryRun)
 {
+    gRunWizard({Open("Settings/Temperature")});
     const auto outcome = gRunWizard(CScript().Then([](CDialog& rDialog) {
         EXPECT_EQ(gClassName(rDialog), "CQuorvaCommandDlg");
         EXPECT_EQ(gClassName(gCurrentPane(rDialog)), "CAnalysisPage");
         EXPECT_FALSE(rDialog.GetDlgItem(IDOK)->IsWindowEnabled());
+        const CTreeCtrl& rTree = gOpenWizard().GetTree();
+        for (HTREEITEM h = rTree.GetRootItem(); h; h = rTree.GetNextSiblingItem(h))
+            EXPECT_FALSE(rTree.IsExpanded(h));
     }));
     EXPECT_TRUE(outcome.inserted.empty());
 }
 
-TEST(WizardDialog, ACategoryPageBuildsNothingAndSaysNothing)
+TEST(WizardDialog, AddsNoVirtualOperationToTheTreeDialogs)
+{
+    class CTreeProbe : public CTreeDlg
+    {
+    public:
+        virtual void First() {}
+    };
+    class CWizardProbe : public CQuorvaCommandDlg
+    {
+    public:
+        virtual void First() {}
+    };
+    EXPECT_EQ(gVirtualSlot(&CWizardProbe::First), gVirtualSlot(&CTreeProbe::First));
+}
+
+TEST(WizardDialog, ACategoryPageBuildsNothingAndSaysNothingWhateverTheStateOfTheDialog)
 {
     HeadlessDesktop desktop;
+    const auto buildsNothing = [](CCommandPage& rPage) {
+        CString sCommand = "before";
+        EXPECT_FALSE(rPage.BuildCommand(sCommand));
+        EXPECT_EQ(sCommand, "before");
+    };
     for (const TCategory& rCategory : kWizard) {
         const auto pObject = CRuntimeClass::FromName(rCategory.node.pClass)->CreateObject();
-        CString sCommand = "before";
-        EXPECT_FALSE(dynamic_cast<CCommandPage&>(*pObject).BuildCommand(sCommand));
-        EXPECT_EQ(sCommand, "before");
+        buildsNothing(dynamic_cast<CCommandPage&>(*pObject));
     }
     EXPECT_TRUE(desktop.TakeBoxes().empty());
+
+    const auto outcome =
+        gRunWizard(CScript()
+                       .Do({Open("Settings/Temperature"), Set("temperature-list", "27"), Insert()})
+                       .Do({Open("Settings")})
+                       .Then([&](CDialog& rDialog) {
+                           buildsNothing(dynamic_cast<CCommandPage&>(gCurrentPane(rDialog)));
+                       }));
+    EXPECT_EQ(outcome.inserted.size(), 1U);
+    EXPECT_TRUE(outcome.messages.empty());
 }
 } // namespace

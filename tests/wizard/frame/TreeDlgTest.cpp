@@ -6,11 +6,13 @@
 #include "platform/ui/TemplateRows.h"
 #include "support/Steps.h"
 #include "support/TranslationScope.h"
+#include "support/VirtualSlot.h"
 #include "support/WizardRun.h"
 #include "wizard/frame/CommandPage.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <functional>
 
 namespace
@@ -34,7 +36,34 @@ public:
     }
 
     std::function<bool(CString&)> mBuild;
+    std::function<void()> mOnShown;
     int mnBuilt = 0;
+    std::vector<WPARAM> mShown; ///< 1 or 0 per change of its visibility
+    std::vector<std::pair<WPARAM, LPARAM>> mNextControl;
+
+protected:
+    TMessageMap GetMessageMap() const override
+    {
+        static constexpr TMessageMapEntry kHandlers[] = {
+            OnMessage<&CTestPage::OnShowWindow>(WM_SHOWWINDOW),
+            OnMessage<&CTestPage::OnNextControl>(WM_NEXTDLGCTL),
+        };
+        return kHandlers;
+    }
+
+private:
+    LRESULT OnShowWindow(WPARAM wParam, LPARAM)
+    {
+        mShown.push_back(wParam);
+        if (wParam != 0 && mOnShown)
+            mOnShown();
+        return 0;
+    }
+    LRESULT OnNextControl(WPARAM wParam, LPARAM lParam)
+    {
+        mNextControl.emplace_back(wParam, lParam);
+        return DefWindowProc(WM_NEXTDLGCTL, wParam, lParam);
+    }
 };
 
 class CTestTreeDlg : public CTreeDlg
@@ -160,6 +189,23 @@ TEST_F(CTreeDlgTest, ItemDataHoldThePaneInTheOrderOfTheCallsAndTheMarkOfACategor
     }));
 }
 
+TEST_F(CTreeDlgTest, LabelsAreKeptInTheOrderOfInsertion)
+{
+    Run(CScript().Then([this](CDialog&) {
+        EXPECT_EQ(mDialog.GetLabels(),
+                  (std::list<CString>{"One", "Leaf 1", "Two", "Leaf 2", "Leaf 3"}));
+    }));
+}
+
+TEST_F(CTreeDlgTest, ANodeThatCannotBeFoundAgainHasThePlaceMinusOne)
+{
+    CTestPage page;
+    EXPECT_EQ(mDialog.AddCategory("No window yet", &page), -1);
+    EXPECT_EQ(mDialog.AddPage(0, "No window yet", &page), -1);
+    EXPECT_EQ(mDialog.AddCategoryWithoutPane("No window yet"), -1);
+    mDialog.EnableInsert(true);
+}
+
 TEST_F(CTreeDlgTest, APageForACategoryThatDoesNotExistIsRefusedAndItsLabelStays)
 {
     Run(CScript().Then([this](CDialog&) {
@@ -193,9 +239,30 @@ TEST_F(CTreeDlgTest, SelectionByProgramShowsThePaneOfANodeThatIsSelectedAlready)
 {
     Run(CScript().Do({Open("Two/Leaf 3")}).Then([this](CDialog&) {
         Pane()->ShowWindow(SW_HIDE);
-        EXPECT_TRUE(mDialog.SelectLeaf(1, 1)) << "notifies nothing, shows all the same";
+        mDialog.EnableInsert(false);
+        EXPECT_TRUE(mDialog.SelectLeaf(1, 1));
         EXPECT_TRUE(mDialog.mLeaves[2].IsShown());
+        EXPECT_FALSE(IsInsertEnabled()) << "no notification";
     }));
+}
+
+TEST_F(CTreeDlgTest, SelectionByProgramShowsThePaneTwiceOnceThroughTheNotification)
+{
+    Run(CScript().Then([this](CDialog&) {
+        EXPECT_TRUE(mDialog.SelectLeaf(1, 0));
+        EXPECT_EQ(mDialog.mLeaves[1].mShown, (std::vector<WPARAM>{1, 0, 1}));
+    }));
+}
+
+TEST_F(CTreeDlgTest, ALeafEnablesInsertBeforeItsPaneIsShownAndACategoryDisablesItAfter)
+{
+    bool bAtLeaf = false;
+    bool bAtCategory = false;
+    mDialog.mLeaves[0].mOnShown = [&] { bAtLeaf = IsInsertEnabled(); };
+    mDialog.mCategories[1].mOnShown = [&] { bAtCategory = IsInsertEnabled(); };
+    Run(CScript().Do({Open("One/Leaf 1"), Open("Two")}));
+    EXPECT_TRUE(bAtLeaf);
+    EXPECT_TRUE(bAtCategory);
 }
 
 TEST_F(CTreeDlgTest, SelectingALeafThatDoesNotExistChangesNothing)
@@ -317,6 +384,8 @@ TEST_F(CTreeDlgTest, OnlyTheTabKeyMovesTheFocusIntoThePagesNextControl)
         EXPECT_EQ(CWnd::GetFocus(), Pane()->GetDlgItem(1001));
         mDialog.SendMessage(WM_KEYDOWN, VK_TAB);
         EXPECT_EQ(CWnd::GetFocus(), Pane()->GetDlgItem(1002));
+        EXPECT_EQ(mDialog.mLeaves[0].mNextControl,
+                  (std::vector<std::pair<WPARAM, LPARAM>>{{0, 0}}));
     }));
 }
 
@@ -460,6 +529,28 @@ TEST_F(CTreeDlgTest, CloseAndEscapeEndTheRunAtOnceWithCancel)
         CScript().Do({rStep}).Run(mDesktop, [&] { nResult = mDialog.DoModal(); });
         EXPECT_EQ(nResult, IDCANCEL);
     }
+}
+
+TEST_F(CTreeDlgTest, MembersStandInTheirOrderAndBuildTreeIsTheOneOperationItAdds)
+{
+    const auto place = [](const auto& rMember) {
+        return reinterpret_cast<std::uintptr_t>(&rMember);
+    };
+    EXPECT_LT(place(mDialog.GetCommand()), place(mDialog.GetTree()));
+    EXPECT_LT(place(mDialog.GetTree()), place(mDialog.GetLayers()));
+    EXPECT_LT(place(mDialog.GetLayers()), place(mDialog.GetLabels()));
+
+    class COpenDlg : public CTreeDlg
+    {
+    public:
+        using CTreeDlg::BuildTree;
+    };
+    class CDialogProbe : public CDialog
+    {
+    public:
+        virtual void First() {}
+    };
+    EXPECT_EQ(gVirtualSlot(&COpenDlg::BuildTree), gVirtualSlot(&CDialogProbe::First));
 }
 
 TEST_F(CTreeDlgTest, APaneThatIsNoCommandPageLeavesTheTextAsItIs)

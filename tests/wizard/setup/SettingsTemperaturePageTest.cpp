@@ -135,9 +135,10 @@ TEST_F(TemperaturePage, ANewRunOpensOnTheAnalysisCategoryAgain)
 
 TEST_F(TemperaturePage, TheFocusStaysWhereItWasAfterAMessage)
 {
-    gRunWizard(
-        CScript().Do({Open(kPath), Focus(kList)}).Do({Key("alt+i")}).Then([](CDialog& rDialog) {
-            EXPECT_EQ(CWnd::GetFocus(), rDialog.GetDlgItem(IDOK));
+    const auto outcome =
+        gRunWizard(CScript().Do({Open(kPath), Focus("tree"), Key("enter")}).Then([](CDialog&) {
+            EXPECT_EQ(CWnd::GetFocus(), &gOpenWizard().GetTree());
         }));
+    EXPECT_EQ(outcome.messages.size(), 1U);
 }
 } // namespace
