@@ -224,7 +224,7 @@ bool IsRotation(TRows order, const TRows& rWanted)
     for (std::size_t n = 0; n < order.size(); ++n) {
         if (order == rWanted)
             return true;
-        std::ranges::rotate(order, order.begin() + 1);
+        std::rotate(order.begin(), order.begin() + 1, order.end());
     }
     return order == rWanted;
 }

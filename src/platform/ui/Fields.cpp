@@ -32,7 +32,7 @@ void gSetFieldLabel(CWnd& rPane, int nId, const CString& rsLabel)
 void gShowLayers(CWnd& rPane, unsigned nMask)
 {
     // A copy: a handler that runs on the way may change the order of the children.
-    const std::vector<CWnd*> children = rPane.GetChildren();
+    std::vector<CWnd*> children(rPane.GetChildren());
     for (CWnd* pChild : children)
         if (pChild->GetLayers() != 0)
             pChild->ShowWindow(pChild->GetLayers() & nMask ? SW_SHOW : SW_HIDE);

@@ -36,6 +36,7 @@ CString gShownText(const char* pLiteral)
     return bMarked ? xlang::gTranslate(pLiteral) : CString(pLiteral);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool gReportMessage(CWnd& rOwner, CString sMessage)
 {
     rOwner.MessageBox(sMessage, "SPICE", MB_OK | MB_ICONINFORMATION);

@@ -17,4 +17,5 @@ CString gShownText(const char* pLiteral);
 
 /// Reports a failed check: a box owned by the page with the caption "SPICE".
 /// Result: false, so that a check can return it.
-bool gReportMessage(CWnd& rOwner, CString sMessage);
+// By value: the page's message string may change while the box is open.
+bool gReportMessage(CWnd& rOwner, CString sMessage); // NOLINT(performance-unnecessary-value-param)

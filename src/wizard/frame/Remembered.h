@@ -12,7 +12,7 @@ public:
 
 protected:
     CRememberedBase();
-    ~CRememberedBase();
+    virtual ~CRememberedBase();
 
 private:
     virtual void Reset() = 0;
