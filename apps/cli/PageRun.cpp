@@ -1,7 +1,7 @@
 #include "cli/PageRun.h"
 
+#include "cli/SinglePageDlg.h"
 #include "platform/headless/Step.h"
-#include "wizard/frame/SinglePageDlg.h"
 
 #include <stdexcept>
 #include <utility>
@@ -32,12 +32,6 @@ void gSelectPage(CDialog& rWizardDialog, const TPage& rPage)
     const TStep step{.op = EStep::SelectPath, .sKey = "tree", .sText = rPage.sPath};
     if (!gRunStep(rWizardDialog, step).IsDone())
         throw std::logic_error("the wizard's tree has no node for the page " + rPage.Name());
-}
-
-CDialog* gOutermostDialog()
-{
-    const auto& rRuns = gDesktop().Thread().mModalRuns;
-    return rRuns.empty() ? nullptr : rRuns.front()->pDialog;
 }
 
 } // namespace quorvawiz::cli

@@ -21,7 +21,4 @@ void gRunOnPage(HeadlessDesktop& rDesktop, const TWizard& rWizard, const TPage& 
 /// dialog. Nothing happens for a page without a node.
 void gSelectPage(CDialog& rWizardDialog, const TPage& rPage);
 
-/// The outermost dialog that runs, or null: the wizard's own when a wizard runs.
-CDialog* gOutermostDialog();
-
 } // namespace quorvawiz::cli

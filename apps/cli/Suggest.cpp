@@ -52,6 +52,8 @@ std::string Lower(std::string_view sText)
 std::size_t Distance(const std::string& rsWanted, const std::string& rsCandidate)
 {
     constexpr std::size_t nTellingPart = 3;
+    if (rsWanted == rsCandidate)
+        return 0;
     if (rsWanted.size() >= nTellingPart && rsCandidate.find(rsWanted) != std::string::npos)
         return 1;
     return CountChanges(rsWanted, rsCandidate);

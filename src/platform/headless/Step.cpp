@@ -129,10 +129,8 @@ TStepResult DoubleClick(CWnd& rControl)
 
 TStepResult Focus(const TFieldView& rField)
 {
-    CWnd* pTarget = rField.pControl;
-    for (CButton* pRadio : rField.radios)
-        if (pRadio->GetCheck() != 0)
-            pTarget = pRadio;
+    CWnd* const pTarget =
+        rField.radios.empty() ? rField.pControl : &rField.radios.front()->GetGroupEntry();
     if (const EUserResult result = pTarget->WouldAcceptUser(); result != EUserResult::Done)
         return Ended(result);
     if (!pTarget->IsTabStop() && rField.radios.empty())

@@ -24,6 +24,24 @@ int NeighbourOf(int nIndex, int nCount, EArrow arrow)
     return nIndex < 0 ? 0 : std::clamp(nIndex + StepOf(arrow), 0, nCount - 1);
 }
 
+/// Selects the neighbour of the entry, row or tab `nSelected`.
+template <class TControl>
+EUserResult WalkEntries(TControl& rControl, int nSelected, int nCount, EArrow arrow)
+{
+    if (nCount == 0)
+        return EUserResult::Ignored;
+    const int nNext = NeighbourOf(nSelected, nCount, arrow);
+    return nNext == nSelected ? EUserResult::Done : rControl.UserSelect(nNext);
+}
+
+EUserResult WalkCombo(CComboBox& rCombo, EArrow arrow)
+{
+    // In a typed text the caret moves.
+    if (rCombo.CanType() && (arrow == EArrow::Left || arrow == EArrow::Right))
+        return EUserResult::Ignored;
+    return WalkEntries(rCombo, rCombo.GetCurSel(), rCombo.GetCount(), arrow);
+}
+
 /// Checks the next button of the group that can be checked, round the ends.
 EUserResult WalkRadioGroup(const CButton& rFocus, EArrow arrow)
 {
@@ -39,20 +57,28 @@ EUserResult WalkRadioGroup(const CButton& rFocus, EArrow arrow)
     return EUserResult::Ignored;
 }
 
+EUserResult SelectNode(CTreeCtrl& rTree, HTREEITEM hItem)
+{
+    return hItem ? rTree.UserSelect(hItem) : EUserResult::Ignored;
+}
+
 EUserResult WalkTree(CTreeCtrl& rTree, EArrow arrow)
 {
     const HTREEITEM hSelected = rTree.GetSelectedItem();
+    const bool bExpanded = rTree.IsExpanded(hSelected);
     switch (arrow) {
     case EArrow::Up:
-        return rTree.UserSelect(rTree.GetVisibleNeighbour(-1));
+        return SelectNode(rTree, rTree.GetVisibleNeighbour(-1));
     case EArrow::Down:
-        return rTree.UserSelect(rTree.GetVisibleNeighbour(1));
+        return SelectNode(rTree, rTree.GetVisibleNeighbour(1));
     case EArrow::Left:
-        return rTree.IsExpanded(hSelected) ? rTree.UserExpand(hSelected, false)
-                                           : rTree.UserSelect(rTree.GetParentItem(hSelected));
+        return bExpanded ? rTree.UserExpand(hSelected, false)
+                         : SelectNode(rTree, rTree.GetParentItem(hSelected));
     case EArrow::Right:
-        return rTree.IsExpanded(hSelected) ? rTree.UserSelect(rTree.GetChildItem(hSelected))
-                                           : rTree.UserExpand(hSelected, true);
+        if (!hSelected)
+            return EUserResult::Ignored;
+        return bExpanded ? SelectNode(rTree, rTree.GetChildItem(hSelected))
+                         : rTree.UserExpand(hSelected, true);
     }
     return EUserResult::Ignored;
 }
@@ -63,14 +89,13 @@ EUserResult gPressArrow(CWnd* pFocus, EArrow arrow)
     if (auto* const pButton = dynamic_cast<CButton*>(pFocus); pButton && pButton->IsRadio())
         return WalkRadioGroup(*pButton, arrow);
     if (auto* const pCombo = dynamic_cast<CComboBox*>(pFocus))
-        return pCombo->UserSelect(NeighbourOf(pCombo->GetCurSel(), pCombo->GetCount(), arrow));
-    if (auto* const pList = dynamic_cast<CListBox*>(pFocus); pList && pList->GetCount() > 0)
-        return pList->UserSelect(NeighbourOf(pList->GetCurSel(), pList->GetCount(), arrow));
-    if (auto* const pTable = dynamic_cast<CListCtrl*>(pFocus); pTable && pTable->GetItemCount() > 0)
-        return pTable->UserSelect(
-            NeighbourOf(pTable->GetSelectedRow(), pTable->GetItemCount(), arrow));
+        return WalkCombo(*pCombo, arrow);
+    if (auto* const pList = dynamic_cast<CListBox*>(pFocus))
+        return WalkEntries(*pList, pList->GetCurSel(), pList->GetCount(), arrow);
+    if (auto* const pTable = dynamic_cast<CListCtrl*>(pFocus))
+        return WalkEntries(*pTable, pTable->GetSelectedRow(), pTable->GetItemCount(), arrow);
     if (auto* const pTabs = dynamic_cast<CTabCtrl*>(pFocus))
-        return pTabs->UserSelect(NeighbourOf(pTabs->GetCurSel(), pTabs->GetItemCount(), arrow));
+        return WalkEntries(*pTabs, pTabs->GetCurSel(), pTabs->GetItemCount(), arrow);
     if (auto* const pTree = dynamic_cast<CTreeCtrl*>(pFocus))
         return WalkTree(*pTree, arrow);
     return EUserResult::Ignored;

@@ -46,6 +46,13 @@ std::vector<CButton*> CButton::GetRadioGroup() const
     return group;
 }
 
+CButton& CButton::GetGroupEntry()
+{
+    const auto group = GetRadioGroup();
+    const auto entry = std::ranges::find_if(group, &CWnd::IsTabStop);
+    return entry == group.end() ? *this : **entry;
+}
+
 bool CButton::IsTabStop() const
 {
     if (GetKind() == EControl::Group)

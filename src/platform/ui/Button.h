@@ -26,6 +26,10 @@ public:
     /// key.
     std::vector<CButton*> GetRadioGroup() const;
 
+    /// Where the focus enters this button's group: at the checked button, else at the first one
+    /// that can take the focus. This button itself when there is neither, or it is in no group.
+    CButton& GetGroupEntry();
+
     bool IsTabStop() const override;
 
 protected:

@@ -70,11 +70,8 @@ EUserResult CComboBox::UserSelect(int nIndex)
 
 EUserResult CComboBox::UserMoveSelection(int nIndex)
 {
-    if (const EUserResult result = WouldAcceptUser(); result != EUserResult::Done)
-        return result;
-    if (!mItems.IsIndex(nIndex))
-        return EUserResult::Invalid;
-    if (const EUserResult result = AcceptUser(); result != EUserResult::Done)
+    const auto isValid = [this, nIndex] { return mItems.IsIndex(nIndex); };
+    if (const EUserResult result = AcceptUserIf(isValid); result != EUserResult::Done)
         return result;
     SetCurSel(nIndex);
     NotifyParent(ENotify::SelChange);

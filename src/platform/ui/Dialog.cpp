@@ -25,23 +25,35 @@ public:
 
     ~CModalScope()
     {
-        mrDialog.DestroyWindow();
-        mrDialog.mOwnedControls.clear();
-        mrDialog.mpRun = nullptr;
-        std::erase(mrThread.mModalRuns, &mRun);
-        if (mRun.pFocusBefore)
-            mRun.pFocusBefore->SetFocus();
+        if (mbClosed)
+            return;
+        try {
+            Close();
+        } catch (...) { // the exception that is under way counts
+        }
     }
 
     CModalScope(const CModalScope&) = delete;
     CModalScope& operator=(const CModalScope&) = delete;
 
-    const TModalRun& Run() const { return mRun; }
+    /// Ends the window and gives the focus back, which may throw. Result: that of the run.
+    int Close()
+    {
+        mbClosed = true;
+        mrDialog.DestroyWindow();
+        mrDialog.mOwnedControls.clear();
+        mrDialog.mpRun = nullptr;
+        std::erase(mrThread.mModalRuns, &mRun);
+        if (CWnd* const pBack = mRun.pFocusBefore)
+            (pBack->CanTakeFocus() ? pBack : &pBack->GetTopLevel())->SetFocus();
+        return mRun.bEnded ? mRun.nResult : IDCANCEL;
+    }
 
 private:
     CDialog& mrDialog;
     TUiThread& mrThread;
     TModalRun mRun;
+    bool mbClosed = false;
 };
 
 CDialog::CDialog(const DialogTemplate& rTemplate, CWnd* pOwner)
@@ -60,16 +72,19 @@ int CDialog::DoModal()
         throw std::logic_error("the dialog is open already");
 
     IDesktop& rDesktop = gDesktop();
-    const CModalScope scope(*this, rDesktop.Thread());
+    CModalScope scope(*this, rDesktop.Thread());
     CreateControls(nullptr);
-    if (OnInitDialog())
-        if (CWnd* const pFirst = gFirstFieldOf(*this))
-            pFirst->SetFocus();
-    ShowWindow(SW_SHOW);
+    if (OnInitDialog()) {
+        // Without a tab stop the keyboard still has to leave the window behind.
+        CWnd* const pFirst = gFirstFieldOf(*this);
+        (pFirst ? pFirst : this)->SetFocus();
+    }
+    if (!HasEnded())
+        ShowWindow(SW_SHOW);
     gPumpPostedMessages();
     if (!HasEnded())
         rDesktop.RunModal(*this);
-    return scope.Run().bEnded ? scope.Run().nResult : IDCANCEL;
+    return scope.Close();
 }
 
 bool CDialog::OnInitDialog()
@@ -94,7 +109,12 @@ bool CDialog::CreatePane(CWnd& rParent)
     if (IsCreated() || !rParent.IsCreated())
         return false;
     CreateControls(&rParent);
-    OnInitDialog();
+    try {
+        OnInitDialog();
+    } catch (...) {
+        DestroyWindow();
+        throw;
+    }
     return true;
 }
 
@@ -103,6 +123,7 @@ void CDialog::CreateControls(CWnd* pParent)
     CDataExchange binding(*this, EDataExchange::Bind);
     DoDataExchange(&binding);
     auto unused = binding.GetBindings();
+    mOwnedControls.clear(); // of an earlier life as a pane
 
     OpenWindow(pParent, 0, {0, 0, mrTemplate.size.cx, mrTemplate.size.cy});
     try {
@@ -146,7 +167,7 @@ void CDialog::EndDialog(int nResult)
 
 bool CDialog::HasEnded() const
 {
-    return !mpRun || mpRun->bEnded;
+    return !mpRun || mpRun->bEnded || !IsCreated();
 }
 
 CButton* CDialog::GetDefaultButton() const

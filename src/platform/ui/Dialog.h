@@ -43,7 +43,7 @@ public:
     /// Ends the modal run with this result, and with IDCANCEL all runs inside it. The first result
     /// counts. Nothing happens outside a run.
     void EndDialog(int nResult);
-    /// True when a modal run is on and has been ended, or none is on.
+    /// True when a modal run is on and has been ended, or its window is gone, or none is on.
     bool HasEnded() const;
 
     const DialogTemplate& GetTemplate() const { return mrTemplate; }

@@ -47,11 +47,8 @@ int CListBox::FindStringExact(int nAfter, const CString& rsText) const
 
 EUserResult CListBox::UserSelect(int nIndex)
 {
-    if (const EUserResult result = WouldAcceptUser(); result != EUserResult::Done)
-        return result;
-    if (nIndex != -1 && !mItems.IsIndex(nIndex))
-        return EUserResult::Invalid;
-    if (const EUserResult result = AcceptUser(); result != EUserResult::Done)
+    const auto isValid = [this, nIndex] { return nIndex == -1 || mItems.IsIndex(nIndex); };
+    if (const EUserResult result = AcceptUserIf(isValid); result != EUserResult::Done)
         return result;
     SetCurSel(nIndex);
     NotifyParent(ENotify::SelChange);
@@ -60,7 +57,8 @@ EUserResult CListBox::UserSelect(int nIndex)
 
 EUserResult CListBox::UserDoubleClick()
 {
-    if (const EUserResult result = AcceptUser(); result != EUserResult::Done)
+    const auto isValid = [this] { return GetCurSel() >= 0; };
+    if (const EUserResult result = AcceptUserIf(isValid); result != EUserResult::Done)
         return result;
     NotifyParent(ENotify::DoubleClicked);
     return EUserResult::Done;

@@ -30,7 +30,8 @@ public:
 
     /// The user selects an entry, or with -1 takes the selection away; notifies `SelChange`.
     EUserResult UserSelect(int nIndex);
-    /// The user double-clicks the selected entry; notifies `DoubleClicked`.
+    /// The user double-clicks the selected entry; notifies `DoubleClicked`. Without a selection
+    /// there is none to click: `Invalid`.
     EUserResult UserDoubleClick();
 
     bool IsTabStop() const override;

@@ -79,6 +79,8 @@ bool CListCtrl::SetItemData(int nRow, std::intptr_t nData)
 
 void CListCtrl::SetExtendedStyle(unsigned nStyle)
 {
+    if (!IsCreated())
+        return;
     mnExtendedStyle = nStyle;
     Announce(EAspect::Items);
 }
@@ -97,11 +99,8 @@ bool CListCtrl::SelectRow(int nRow)
 
 EUserResult CListCtrl::UserSelect(int nRow)
 {
-    if (const EUserResult result = WouldAcceptUser(); result != EUserResult::Done)
-        return result;
-    if (nRow != -1 && !IsRow(nRow))
-        return EUserResult::Invalid;
-    if (const EUserResult result = AcceptUser(); result != EUserResult::Done)
+    const auto isValid = [this, nRow] { return nRow == -1 || IsRow(nRow); };
+    if (const EUserResult result = AcceptUserIf(isValid); result != EUserResult::Done)
         return result;
     SelectRow(nRow);
     return EUserResult::Done;
@@ -109,7 +108,8 @@ EUserResult CListCtrl::UserSelect(int nRow)
 
 EUserResult CListCtrl::UserDoubleClick()
 {
-    if (const EUserResult result = AcceptUser(); result != EUserResult::Done)
+    const auto isValid = [this] { return mnSelected >= 0; };
+    if (const EUserResult result = AcceptUserIf(isValid); result != EUserResult::Done)
         return result;
     NotifyParent(ENotify::DoubleClicked);
     return EUserResult::Done;

@@ -49,7 +49,8 @@ public:
 
     /// The user selects a row.
     EUserResult UserSelect(int nRow);
-    /// The user double-clicks the selected row; notifies `DoubleClicked`.
+    /// The user double-clicks the selected row; notifies `DoubleClicked`. Without a selection there
+    /// is none to click: `Invalid`.
     EUserResult UserDoubleClick();
 
     bool IsTabStop() const override;

@@ -16,9 +16,12 @@ char ToLower(char c)
 CWnd* FieldBehind(const CWnd& rPane, std::size_t nLabel)
 {
     const auto& rSiblings = rPane.GetChildren();
-    for (CWnd* pSibling : rSiblings)
-        if (LabelOf(pSibling->GetDlgCtrlID()) == rSiblings[nLabel]->GetDlgCtrlID())
-            return pSibling;
+    for (CWnd* pSibling : rSiblings) {
+        if (LabelOf(pSibling->GetDlgCtrlID()) != rSiblings[nLabel]->GetDlgCtrlID())
+            continue;
+        auto* const pButton = dynamic_cast<CButton*>(pSibling);
+        return pButton ? &pButton->GetGroupEntry() : pSibling;
+    }
     for (std::size_t n = nLabel + 1; n < rSiblings.size(); ++n)
         if (rSiblings[n]->CanTakeFocus() && rSiblings[n]->IsTabStop())
             return rSiblings[n];
@@ -74,7 +77,9 @@ EUserResult gPressMnemonic(CDialog& rDialog, char cLetter)
     if (targets.empty())
         return EUserResult::Ignored;
     if (targets.size() == 1) {
-        if (auto* const pButton = dynamic_cast<CButton*>(targets.front()))
+        // A label or group in front of a button leads to it and doesn't press it.
+        auto* const pButton = dynamic_cast<CButton*>(targets.front());
+        if (pButton && gMnemonicOf(pButton->GetWindowText().GetString()) == ToLower(cLetter))
             return pButton->UserClick();
         return targets.front()->AcceptUser();
     }

@@ -16,6 +16,7 @@ char gMnemonicOf(const char* pText);
 /// shown.
 std::vector<CWnd*> gMnemonicTargets(const CDialog& rDialog, char cLetter);
 
-/// The user presses Alt and a letter. One target: a button is pressed, any other control takes the
-/// focus. Several: the focus goes to the next of them and nothing is pressed. None: `Ignored`.
+/// The user presses Alt and a letter. One target: a button with that letter in its own text is
+/// pressed, any other control takes the focus. Several: the focus goes to the next of them and
+/// nothing is pressed. None: `Ignored`.
 EUserResult gPressMnemonic(CDialog& rDialog, char cLetter);

@@ -20,10 +20,12 @@ bool CPropertySheet::SetActivePage(int nIndex)
 {
     if (!IsCreated() || nIndex < 0 || nIndex >= GetPageCount())
         return false;
+    Tabs().SetCurSel(nIndex);
+    if (nIndex == mnActive)
+        return true;
     if (CPropertyPage* const pBefore = GetActivePage())
         pBefore->ShowWindow(SW_HIDE);
     mnActive = nIndex;
-    Tabs().SetCurSel(nIndex);
 
     CPropertyPage& rPage = *GetActivePage();
     rPage.CreatePane(*this);

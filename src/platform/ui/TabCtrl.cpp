@@ -20,11 +20,8 @@ int CTabCtrl::SetCurSel(int nIndex)
 
 EUserResult CTabCtrl::UserSelect(int nIndex)
 {
-    if (const EUserResult result = WouldAcceptUser(); result != EUserResult::Done)
-        return result;
-    if (!mItems.IsIndex(nIndex))
-        return EUserResult::Invalid;
-    if (const EUserResult result = AcceptUser(); result != EUserResult::Done)
+    const auto isValid = [this, nIndex] { return mItems.IsIndex(nIndex); };
+    if (const EUserResult result = AcceptUserIf(isValid); result != EUserResult::Done)
         return result;
     SetCurSel(nIndex);
     NotifyParent(ENotify::SelChange);

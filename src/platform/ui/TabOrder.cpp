@@ -23,6 +23,7 @@ bool IsPushButton(const CWnd& rWnd)
 {
     return rWnd.GetKind() == EControl::PushButton || rWnd.GetKind() == EControl::DefaultButton;
 }
+
 /// The child of `rPane` that has the focus or holds it; null when it is elsewhere.
 const CWnd* FocusedChildOf(const CWnd& rPane)
 {
@@ -81,7 +82,11 @@ CWnd* gFirstFieldOf(const CWnd& rDialog)
 
 void gMoveFocusRound(const CWnd& rPane, ETabDirection direction)
 {
-    if (CWnd* const pNext = gNextTabStop(rPane, FocusedChildOf(rPane), direction))
+    const CWnd* const pFrom = FocusedChildOf(rPane);
+    CWnd* const pNext = gNextTabStop(rPane, pFrom, direction);
+    if (pNext && pNext == pFrom && IsPane(*pNext))
+        gMoveFocusRound(*pNext, direction); // there is no other way out of it
+    else if (pNext)
         pNext->SetFocus();
 }
 

@@ -17,7 +17,8 @@ CWnd* gFocusInPane(const CWnd& rPane);
 /// field. Null when nothing inside can take it.
 CWnd* gFirstFieldOf(const CWnd& rDialog);
 
-/// Moves the focus to the next tab stop among the children of `rPane`, round the end.
+/// Moves the focus to the next tab stop among the children of `rPane`, round the end. A pane that
+/// is the only one is gone round inside.
 void gMoveFocusRound(const CWnd& rPane, ETabDirection direction);
 
 /// Moves the focus to the next tab stop of a dialog: through the pane that has the focus, on to the

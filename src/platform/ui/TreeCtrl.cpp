@@ -22,6 +22,14 @@ void CollectVisible(const TTreeItem& rParent, std::vector<HTREEITEM>& rLines)
     }
 }
 
+/// Whether the node stands below `rParent`; only its address is looked at, for it may be gone.
+bool Holds(const TTreeItem& rParent, const TTreeItem* pItem)
+{
+    return std::ranges::any_of(rParent.children, [pItem](const auto& rChild) {
+        return rChild.get() == pItem || Holds(*rChild, pItem);
+    });
+}
+
 bool IsBelow(const TTreeItem* pItem, const TTreeItem* pAncestor)
 {
     while (pItem && pItem != pAncestor)
@@ -122,9 +130,8 @@ void CTreeCtrl::Expand(HTREEITEM hItem, bool bExpand)
 
 EUserResult CTreeCtrl::UserSelect(HTREEITEM hItem)
 {
-    if (!hItem)
-        return EUserResult::Invalid;
-    if (const EUserResult result = AcceptUser(); result != EUserResult::Done)
+    const auto isValid = [this, hItem] { return Holds(*mpRoot, hItem); };
+    if (const EUserResult result = AcceptUserIf(isValid); result != EUserResult::Done)
         return result;
     SelectItem(hItem);
     return EUserResult::Done;
@@ -132,9 +139,8 @@ EUserResult CTreeCtrl::UserSelect(HTREEITEM hItem)
 
 EUserResult CTreeCtrl::UserExpand(HTREEITEM hItem, bool bExpand)
 {
-    if (!hItem)
-        return EUserResult::Invalid;
-    if (const EUserResult result = AcceptUser(); result != EUserResult::Done)
+    const auto isValid = [this, hItem] { return Holds(*mpRoot, hItem); };
+    if (const EUserResult result = AcceptUserIf(isValid); result != EUserResult::Done)
         return result;
     Expand(hItem, bExpand);
     return EUserResult::Done;

@@ -7,6 +7,9 @@ void TUiThread::Forget(const CWnd& rWnd)
     for (TModalRun* pRun : mModalRuns)
         if (pRun->pFocusBefore == &rWnd)
             pRun->pFocusBefore = nullptr;
+    for (TMsg* pMsg : mOnTheWay)
+        if (pMsg->pWnd == &rWnd)
+            pMsg->pWnd = nullptr;
     std::erase_if(mPosted, [&rWnd](const TMsg& rMsg) { return rMsg.pWnd == &rWnd; });
 }
 

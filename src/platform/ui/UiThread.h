@@ -21,6 +21,7 @@ struct TUiThread {
     std::vector<TModalRun*> mModalRuns; ///< outermost first
     int mnOpenBoxes = 0;                ///< message boxes and file dialogs that are open
     std::deque<TMsg> mPosted;           ///< messages that wait, oldest first
+    std::vector<TMsg*> mOnTheWay;       ///< messages being delivered, innermost last
 
     /// Drops every trace of a window that ends.
     void Forget(const CWnd& rWnd);

@@ -231,7 +231,8 @@ bool CWnd::IsInside(const CWnd& rAncestor) const
 LRESULT CWnd::SendMessage(UINT nMessage, WPARAM wParam, LPARAM lParam)
 {
     for (const TMessageMapEntry& rEntry : GetMessageMap())
-        if (rEntry.nMessage == nMessage)
+        // A notification's entry has no message, which isn't the same as the message 0.
+        if (nMessage != 0 && rEntry.nMessage == nMessage)
             return rEntry.pCall(*this, wParam, lParam);
     return DefWindowProc(nMessage, wParam, lParam);
 }

@@ -64,7 +64,7 @@ public:
     /// Enables or disables. A focus inside a window that is disabled moves on to the next tab stop.
     void EnableWindow(bool bEnable = true);
     /// The window's own state; `IsUsable` looks at the parents too.
-    bool IsWindowEnabled() const { return mbEnabled; }
+    bool IsWindowEnabled() const { return mbCreated && mbEnabled; }
 
     /// Shows (SW_SHOW) or hides (SW_HIDE); a change sends WM_SHOWWINDOW.
     /// Result: whether it was visible before.
@@ -150,6 +150,18 @@ public:
     EUserResult AcceptUser();
     /// The same question without moving the focus.
     EUserResult WouldAcceptUser();
+    /// As `AcceptUser`, for an action on something in the window. `isValid` (`bool ()`) tells
+    /// whether it is there; it is asked again after the focus has moved, since a handler of that
+    /// may have taken it away. `Invalid` when it isn't there.
+    template <class TIsValid> EUserResult AcceptUserIf(TIsValid isValid)
+    {
+        if (const EUserResult result = WouldAcceptUser(); result != EUserResult::Done)
+            return result;
+        if (!isValid())
+            return EUserResult::Invalid;
+        const EUserResult result = AcceptUser();
+        return result != EUserResult::Done || isValid() ? result : EUserResult::Invalid;
+    }
     /// Tells the peer, if there is one.
     void Announce(EAspect aspect);
 

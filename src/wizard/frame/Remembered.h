@@ -6,13 +6,13 @@ class CRememberedBase
 public:
     CRememberedBase(const CRememberedBase&) = delete;
     CRememberedBase& operator=(const CRememberedBase&) = delete;
+    virtual ~CRememberedBase();
 
     /// Gives all remembered values of all pages their first values.
     static void ResetAll();
 
 protected:
     CRememberedBase();
-    virtual ~CRememberedBase();
 
 private:
     virtual void Reset() = 0;

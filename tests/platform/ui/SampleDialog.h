@@ -52,5 +52,6 @@ struct TStory {
 TLog gTellStory(CLogDialog& rDialog, const std::vector<std::string>& rActions);
 
 /// Plays a story in a fresh sample dialog and compares. `rPrepare` changes the dialog beforehand.
-void gCheckStory(const TStory& rStory,
-                 const std::function<void(CSampleDialog&)>& rPrepare = [](CSampleDialog&) {});
+void gCheckStory(
+    const TStory& rStory,
+    const std::function<void(CSampleDialog&)>& rPrepare = [](CSampleDialog&) {});

@@ -1,4 +1,4 @@
-#include "wizard/frame/SinglePageDlg.h"
+#include "cli/SinglePageDlg.h"
 
 #include "platform/base/Exceptions.h"
 #include "wizard/frame/CommandPage.h"

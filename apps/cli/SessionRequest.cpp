@@ -1,0 +1,204 @@
+#include "cli/SessionRequest.h"
+
+#include "cli/RequestMembers.h"
+#include "cli/Suggest.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <vector>
+
+namespace quorvawiz::cli
+{
+namespace
+{
+using TMembers = CRequestMembers;
+
+constexpr const char* kTree = "tree";
+
+TRequest OnField(TStep step)
+{
+    return TStepRequest{std::move(step), false};
+}
+
+TRequest OnFrame(TStep step)
+{
+    return TStepRequest{std::move(step), true};
+}
+
+TRequest ReadOpen(const TMembers& rMembers)
+{
+    return TOpenRequest{rMembers.Utf8("page")};
+}
+
+TRequest ReadSet(const TMembers& rMembers)
+{
+    return OnField(
+        {.op = EStep::Set, .sKey = rMembers.Utf8("field"), .sText = rMembers.Text("text")});
+}
+
+TRequest ReadSelect(const TMembers& rMembers)
+{
+    if (rMembers.Has("index") == rMembers.Has("entry"))
+        throw CRequestError("one of the members \"index\" and \"entry\" is wanted");
+    TStep step{.op = EStep::Select, .sKey = rMembers.Utf8("field")};
+    if (rMembers.Has("entry")) {
+        step.op = EStep::SelectEntry;
+        step.sText = rMembers.Text("entry");
+    } else {
+        step.nIndex = rMembers.Index("index");
+    }
+    return OnField(std::move(step));
+}
+
+TRequest ReadCheck(const TMembers& rMembers)
+{
+    return OnField({.op = EStep::Check,
+                    .sKey = rMembers.Utf8("field"),
+                    .nIndex = rMembers.Flag("on") ? 1 : 0});
+}
+
+TRequest ReadChoose(const TMembers& rMembers)
+{
+    return OnField(
+        {.op = EStep::Choose, .sKey = rMembers.Utf8("field"), .nIndex = rMembers.Index("index")});
+}
+
+template <EStep Op> TRequest ReadFieldOnly(const TMembers& rMembers)
+{
+    return OnField({.op = Op, .sKey = rMembers.Utf8("field")});
+}
+
+TRequest ReadKey(const TMembers& rMembers)
+{
+    const std::string sName = rMembers.Utf8("key");
+    TStep step{.op = EStep::Key};
+    if (!gParseKeyName(sName, step.key)) {
+        static const std::vector<std::string> sNames{
+            "enter", "escape", "tab", "shift+tab", "up", "down", "left", "right", "space", "alt+X"};
+        throw CRequestError("there is no key " + gQuoted(sName) + gDidYouMean(sName, sNames));
+    }
+    return OnField(step);
+}
+
+TRequest ReadInsert(const TMembers&)
+{
+    return OnFrame({.op = EStep::Click, .sKey = "insert"});
+}
+
+TRequest ReadClose(const TMembers&)
+{
+    return OnFrame({.op = EStep::Click, .sKey = "close"});
+}
+
+template <EStep Op> TRequest ReadTreePath(const TMembers& rMembers)
+{
+    return OnFrame({.op = Op, .sKey = kTree, .sText = rMembers.Text("path")});
+}
+
+TRequest ReadAnswers(const TMembers& rMembers)
+{
+    const TJson& rAnswers = rMembers.Value("answers");
+    TAnswersRequest request;
+    const auto isAnswer = [](const TJson& rAnswer) { return rAnswer == "yes" || rAnswer == "no"; };
+    if (!rAnswers.is_array() || !std::ranges::all_of(rAnswers, isAnswer))
+        throw CRequestError("the member \"answers\" isn't a list of \"yes\" and \"no\"");
+    for (const TJson& rAnswer : rAnswers)
+        request.answers.push_back(rAnswer == "yes");
+    return request;
+}
+
+TRequest ReadFile(const TMembers& rMembers)
+{
+    const int nGiven =
+        int{rMembers.Has("path")} + int{rMembers.Has("cancel")} + int{rMembers.Has("invalid")};
+    if (nGiven != 1)
+        throw CRequestError("one of the members \"path\", \"cancel\" and \"invalid\" is wanted");
+    if (rMembers.Has("path"))
+        return TFileRequest{{TFileChoice::EEnd::Chosen, rMembers.Text("path")}};
+    const bool bCancel = rMembers.Has("cancel");
+    const char* const pName = bCancel ? "cancel" : "invalid";
+    if (!rMembers.Flag(pName))
+        throw CRequestError("the member " + gQuoted(pName) + " can only be true");
+    return TFileRequest{
+        {bCancel ? TFileChoice::EEnd::Cancelled : TFileChoice::EEnd::InvalidName, {}}};
+}
+
+template <class TPlainRequest> TRequest ReadPlain(const TMembers&)
+{
+    return TPlainRequest{};
+}
+
+/// One operation: its name, its members, and how they are read.
+struct TOperation {
+    const char* pName;
+    std::vector<const char*> members;
+    TRequest (*pRead)(const TMembers& rMembers);
+};
+
+const std::vector<TOperation>& Operations()
+{
+    static const std::vector<TOperation> sOperations{
+        {"open", {"page"}, ReadOpen},
+        {"set", {"field", "text"}, ReadSet},
+        {"select", {"field", "index", "entry"}, ReadSelect},
+        {"check", {"field", "on"}, ReadCheck},
+        {"choose", {"field", "index"}, ReadChoose},
+        {"click", {"field"}, ReadFieldOnly<EStep::Click>},
+        {"double-click", {"field"}, ReadFieldOnly<EStep::DoubleClick>},
+        {"focus", {"field"}, ReadFieldOnly<EStep::Focus>},
+        {"key", {"key"}, ReadKey},
+        {"insert", {}, ReadInsert},
+        {"close", {}, ReadClose},
+        {"expand", {"path"}, ReadTreePath<EStep::Expand>},
+        {"collapse", {"path"}, ReadTreePath<EStep::Collapse>},
+        {"answers", {"answers"}, ReadAnswers},
+        {"file", {"path", "cancel", "invalid"}, ReadFile},
+        {"state", {}, ReadPlain<TStateRequest>},
+        {"reopen", {}, ReadPlain<TReopenRequest>},
+        {"fresh", {}, ReadPlain<TFreshRequest>},
+    };
+    return sOperations;
+}
+
+const TOperation& FindOperation(const std::string& rsName)
+{
+    const auto& rOperations = Operations();
+    const auto found = std::ranges::find(rOperations, rsName, &TOperation::pName);
+    if (found != rOperations.end())
+        return *found;
+    std::vector<std::string> names;
+    names.reserve(rOperations.size());
+    for (const TOperation& rOperation : rOperations)
+        names.emplace_back(rOperation.pName);
+    throw CRequestError("there is no request " + gQuoted(rsName) + gDidYouMean(rsName, names));
+}
+
+TJson ParseObject(std::string_view sLine)
+{
+    TJson object;
+    try {
+        object = TJson::parse(sLine);
+    } catch (const TJson::parse_error& rError) {
+        throw CRequestError("the line isn't JSON from byte " + std::to_string(rError.byte) + " on");
+    } catch (const TJson::out_of_range&) {
+        throw CRequestError("the line holds a number that is too big");
+    }
+    if (!object.is_object())
+        throw CRequestError("the line isn't a JSON object");
+    return object;
+}
+} // namespace
+
+TRequest gParseRequest(std::string_view sLine)
+{
+    const TJson object = ParseObject(sLine);
+    const TMembers members(object);
+    const TOperation& rOperation = FindOperation(members.Utf8("op"));
+    members.AllowOnly(rOperation.members);
+    return rOperation.pRead(members);
+}
+
+} // namespace quorvawiz::cli

@@ -1,0 +1,77 @@
+#include "support/RunProgram.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The documents' examples are run, so that they stay true.
+
+namespace
+{
+/// The lines of all blocks of a document that begin with this line.
+std::vector<std::string> LinesOfBlocks(const std::string& rsDocument, std::string_view sFence)
+{
+    std::ifstream document(QUORVAWIZ_SOURCE_DIR "/docs/" + rsDocument);
+    if (!document)
+        throw std::runtime_error("can't read docs/" + rsDocument);
+    std::vector<std::string> lines;
+    bool bInside = false;
+    bool bWanted = false;
+    for (std::string sLine; std::getline(document, sLine);) {
+        if (sLine.starts_with("```")) {
+            bInside = !bInside;
+            bWanted = bInside && sLine == sFence;
+        } else if (bWanted) {
+            lines.push_back(sLine);
+        }
+    }
+    return lines;
+}
+
+std::string OutputOfShell(const std::string& rsCommand)
+{
+    const std::string sProgram = QUORVAWIZ_CLI_PATH;
+    const std::string sFolder = sProgram.substr(0, sProgram.rfind('/'));
+    FILE* const pPipe =
+        popen(("PATH='" + sFolder + "':$PATH; { " + rsCommand + "; } 2>&1").c_str(), "r");
+    if (!pPipe)
+        throw std::runtime_error("can't run a shell");
+    std::string sOutput;
+    for (int c = 0; (c = getc(pPipe)) != EOF;)
+        sOutput += static_cast<char>(c);
+    pclose(pPipe);
+    return sOutput;
+}
+
+TEST(Documents, TheSessionsTranscriptIsReplayed)
+{
+    std::string sRequests;
+    std::string sReplies;
+    for (const std::string& rsLine : LinesOfBlocks("session.md", "```transcript")) {
+        ASSERT_TRUE(rsLine.starts_with("> ") || rsLine.starts_with("< ")) << rsLine;
+        (rsLine.front() == '>' ? sRequests : sReplies) += rsLine.substr(2) + '\n';
+    }
+    ASSERT_FALSE(sRequests.empty());
+    EXPECT_EQ(gRunQuorvawiz({"session"}, sRequests), (TProgramRun{sReplies, "", 0}));
+}
+
+TEST(Documents, TheCommandLinesExamplesAreRun)
+{
+    const std::vector<std::string> lines = LinesOfBlocks("cli.md", "```");
+    ASSERT_FALSE(lines.empty());
+    std::string sExpected;
+    std::string sOutput;
+    for (const std::string& rsLine : lines) {
+        sExpected += rsLine + '\n';
+        if (rsLine.starts_with("$ "))
+            sOutput += rsLine + '\n' + OutputOfShell(rsLine.substr(2));
+    }
+    EXPECT_EQ(sOutput, sExpected);
+}
+} // namespace

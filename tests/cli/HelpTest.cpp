@@ -1,0 +1,110 @@
+#include "support/RunProgram.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace
+{
+void ExpectHelp(const std::vector<std::string>& rArguments, const std::string& rsHelp)
+{
+    EXPECT_EQ(gRunQuorvawiz(rArguments), (TProgramRun{rsHelp, "", 0}));
+}
+
+TEST(Help, Program)
+{
+    ExpectHelp({"--help"}, R"(Composes SPICE commands with the pages of the SPICE Command Wizard.
+Usage: quorvawiz [OPTIONS] SUBCOMMAND
+
+Options:
+  --version                   Print the version and exit
+  -h,--help                   Print this help and exit
+  --code-page NUMBER=65001    Code page of the wizard's texts
+  --rules NAME=unix           Path rules: plain or unix
+
+Subcommands:
+  pages                       List the pages of the wizard
+  describe                    Tell every control of a page
+  compose                     Fill in a page and print its command
+  session                     Drive the wizard by lines of JSON
+)");
+}
+
+TEST(Help, Pages)
+{
+    ExpectHelp({"pages", "--help"}, R"(List the pages of the wizard
+Usage: quorvawiz pages [OPTIONS]
+
+Options:
+  -h,--help                   Print this help and exit
+  --json                      One line of JSON instead of text
+)");
+}
+
+TEST(Help, Describe)
+{
+    ExpectHelp({"describe", "--help"}, R"(Tell every control of a page
+Usage: quorvawiz describe [OPTIONS] PAGE
+
+Positionals:
+  PAGE REQUIRED               Tree path in any letter case, or class name
+
+Options:
+  -h,--help                   Print this help and exit
+  --json                      One line of JSON instead of text
+)");
+}
+
+TEST(Help, Compose)
+{
+    ExpectHelp({"compose", "--help"}, R"(Fill in a page and print its command
+Usage: quorvawiz compose [OPTIONS] PAGE [ACTION...]
+
+Positionals:
+  PAGE REQUIRED               Tree path in any letter case, or class name
+  ACTION ...                  What the user does, in this order
+
+Options:
+  -h,--help                   Print this help and exit
+  --json                      One line of JSON instead of text
+
+Each ACTION is what a user does, in this order:
+  edit=TEXT             types; a line feed in TEXT starts a new line
+  list=ENTRY            chooses an entry, a tab or a radio button by its text,
+  list=#INDEX           or by its index from 0
+  box=on  box=off       turns a check box on or off
+  button                presses a button
+  button.field=VALUE    acts in the dialog that a button opens; the dialog is
+                        accepted when the next action lies outside it
+
+Example:
+  quorvawiz compose Settings/Temperature "temperature-list=0 27 85"
+
+Exit code: 0 a command was inserted, 1 none was, 2 an argument is wrong.
+)");
+}
+
+TEST(Help, Session)
+{
+    ExpectHelp({"session", "--help"}, R"(Drive the wizard by lines of JSON
+Usage: quorvawiz session [OPTIONS]
+
+Options:
+  -h,--help                   Print this help and exit
+
+Each line of the standard input is a request, each gets one line in reply:
+  {"op":"open","page":"Settings/Temperature"}
+  {"op":"set","field":"temperature-list","text":"27"}
+  {"op":"insert"}
+docs/session.md tells all requests.
+)");
+}
+
+TEST(Help, TheShortFormIsTheSame)
+{
+    ExpectHelp({"-h"}, gRunQuorvawiz({"--help"}).sOut);
+    ExpectHelp({"compose", "-h"}, gRunQuorvawiz({"compose", "--help"}).sOut);
+    ExpectHelp({"compose", "Settings", "x", "--help"}, gRunQuorvawiz({"compose", "-h"}).sOut);
+}
+} // namespace

@@ -1,0 +1,97 @@
+#include "platform/ui/FieldView.h"
+
+#include "platform/ui/Button.h"
+#include "platform/ui/PropertyPage.h"
+#include "platform/ui/SampleDialog.h"
+#include "platform/ui/TemplateRows.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+constexpr TGrid kGrid{7, 60, 70, 80, 155, 30, 10, 18};
+constexpr auto kPaneRows =
+    JoinRows(EditLineWithUnit(kGrid, 0, 1, "delay", "&Delay:", "seconds", kHidden),
+             Row(2, "place", EControl::Frame, "", {}),
+             Row(3, "first", EControl::RadioButton, "a", {}, kFirstOfGroup),
+             Row(4, "first", EControl::RadioButton, "b", {}),
+             Row(5, "second", EControl::RadioButton, "c", {}, kFirstOfGroup),
+             Row(6, "name", EControl::Edit, "", {}));
+constexpr DialogTemplate kPaneTemplate{916, "Pane", {200, 110}, kPaneRows};
+
+TLog KeysOf(const std::vector<TFieldView>& rFields)
+{
+    TLog keys;
+    for (const TFieldView& rField : rFields)
+        keys.emplace_back(rField.sKey);
+    return keys;
+}
+
+TEST(FieldViewTest, AllButLabelsUnitsAndPlacesInTemplateOrder)
+{
+    CSampleDialog dialog;
+    gLookInto(dialog, [&] {
+        EXPECT_EQ(
+            KeysOf(gCollectFields(dialog)),
+            (TLog{"name", "notes", "memo", "fixed", "again", "level", "shape", "colour", "fruit",
+                  "places", "cells", "views", "press", "around", "remark", "ok", "cancel"}));
+    });
+}
+
+TEST(FieldViewTest, AFieldHasWhatBelongsToIt)
+{
+    CSampleDialog dialog;
+    CPropertyPage pane(kPaneTemplate);
+    gLookInto(dialog, [&] {
+        ASSERT_TRUE(pane.CreatePane(dialog));
+        const auto fields = gCollectFields(pane);
+        ASSERT_EQ(KeysOf(fields), (TLog{"delay", "first", "second", "name"}));
+        EXPECT_EQ(fields[0].kind, EControl::Edit);
+        EXPECT_EQ(fields[0].pControl, pane.GetDlgItem(1));
+        EXPECT_EQ(fields[0].pLabel, pane.GetDlgItem(LabelOf(1)));
+        EXPECT_EQ(fields[0].pUnit, pane.GetDlgItem(UnitOf(1)));
+        EXPECT_TRUE(fields[0].radios.empty());
+
+        EXPECT_EQ(fields[1].kind, EControl::RadioButton);
+        EXPECT_EQ(fields[1].pControl, pane.GetDlgItem(3));
+        ASSERT_EQ(fields[1].radios.size(), 2U);
+        EXPECT_EQ(fields[1].radios[1], pane.GetDlgItem(4));
+        EXPECT_EQ(fields[1].pLabel, nullptr);
+        EXPECT_EQ(fields[2].radios.size(), 1U);
+        EXPECT_EQ(fields[3].pLabel, nullptr);
+    });
+}
+
+TEST(FieldViewTest, TheCurrentPaneIsTheVisibleOne)
+{
+    CSampleDialog dialog;
+    CPropertyPage pane(kPaneTemplate);
+    CPropertyPage other(kPaneTemplate);
+    gLookInto(dialog, [&] {
+        EXPECT_EQ(&gCurrentPane(dialog), &dialog);
+        ASSERT_TRUE(pane.CreatePane(dialog));
+        ASSERT_TRUE(other.CreatePane(dialog));
+        EXPECT_EQ(&gCurrentPane(dialog), &dialog);
+        other.ShowWindow(SW_SHOW);
+        EXPECT_EQ(&gCurrentPane(dialog), &other);
+    });
+}
+
+TEST(FieldViewTest, AKeyIsFoundInThePaneThenInTheDialog)
+{
+    CSampleDialog dialog;
+    CPropertyPage pane(kPaneTemplate);
+    gLookInto(dialog, [&] {
+        ASSERT_TRUE(pane.CreatePane(dialog));
+        EXPECT_EQ(gFindField(dialog, "name").pControl, dialog.GetDlgItem(kName));
+        EXPECT_EQ(gFindField(dialog, "delay").pControl, nullptr) << "of a hidden pane";
+        pane.ShowWindow(SW_SHOW);
+        EXPECT_EQ(gFindField(dialog, "name").pControl, pane.GetDlgItem(6));
+        EXPECT_EQ(gFindField(dialog, "delay").pControl, pane.GetDlgItem(1));
+        EXPECT_EQ(gFindField(dialog, "ok").pControl, dialog.GetDlgItem(IDOK));
+        for (const char* pUnknown : {"", "Name", "place", "nam"}) {
+            EXPECT_EQ(gFindField(dialog, pUnknown).pControl, nullptr) << pUnknown;
+        }
+    });
+}
+} // namespace
