@@ -49,9 +49,12 @@ void CComboBox::SelectText(const CString& rsText)
         return;
     const auto items = mItems.GetAll();
     const auto found = std::ranges::find(items, rsText);
-    SetCurSel(found == items.end() ? -1 : static_cast<int>(found - items.begin()));
-    if (CanType())
+    if (found != items.end()) {
+        SetCurSel(static_cast<int>(found - items.begin()));
+    } else if (CanType()) {
+        SetCurSel(-1);
         SetTextSilently(rsText);
+    }
 }
 
 void CComboBox::SetWindowText(const CString& rsText)

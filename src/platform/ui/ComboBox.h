@@ -26,8 +26,8 @@ public:
     /// The first entry after `nAfter` that equals the text, letter case put aside; -1 when none.
     int FindStringExact(int nAfter, const CString& rsText) const;
 
-    /// Writes a typed text as it stands, and selects the entry that equals it to the letter, if
-    /// any. A box without typing keeps only such an entry. Notifies nobody.
+    /// Selects the entry that equals the text to the letter. Without one, a box with typing takes
+    /// the text as it stands and has no selection, any other box stays as it is. Notifies nobody.
     void SelectText(const CString& rsText);
     /// The platform's text of a box without typing can't be set; of the other kind it can.
     void SetWindowText(const CString& rsText) override;

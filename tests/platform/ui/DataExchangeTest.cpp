@@ -104,8 +104,8 @@ struct TComboCase {
 
 // kShape: circle, square, star, nothing can be typed. kColour: blue, Green, red, with typing.
 constexpr TComboCase kComboCases[] = {
-    {kShape, "square", "square", 1},   {kShape, "s", "", -1},
-    {kShape, "Square", "", -1},        {kShape, "", "", -1},
+    {kShape, "square", "square", 1},   {kShape, "s", "star", 2},
+    {kShape, "Square", "star", 2},     {kShape, "", "star", 2},
     {kColour, "Green", "Green", 1},    {kColour, "Gre", "Gre", -1},
     {kColour, "green", "green", -1},   {kColour, "Green ", "Green ", -1},
     {kColour, "violet", "violet", -1}, {kColour, "", "", -1},
