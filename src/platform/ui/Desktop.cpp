@@ -1,5 +1,6 @@
 #include "platform/ui/Desktop.h"
 
+#include "platform/ui/Dialog.h"
 #include "platform/ui/FileDialog.h"
 
 #include <stdexcept>
@@ -28,6 +29,13 @@ std::unique_ptr<IWindowPeer> IDesktop::MakePeer(CWnd&)
 }
 
 void IDesktop::OnMessagePosted() {}
+
+void IDesktop::EndModalRuns()
+{
+    // The runs inside end with the outermost one.
+    if (!mThread.mModalRuns.empty())
+        mThread.mModalRuns.front()->pDialog->EndDialog(IDCANCEL);
+}
 
 IDesktop* gFindDesktop()
 {
