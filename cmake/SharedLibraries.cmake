@@ -4,7 +4,8 @@
 
 quorvawiz_find_sources(qtSources "${CMAKE_CURRENT_SOURCE_DIR}/platform/qt")
 add_library(quorvawiz-qt-objects OBJECT ${qtSources})
-set_target_properties(quorvawiz-qt-objects PROPERTIES POSITION_INDEPENDENT_CODE ON AUTOMOC ON)
+# Without Qt's meta compiler: the slots are lambdas.
+set_target_properties(quorvawiz-qt-objects PROPERTIES POSITION_INDEPENDENT_CODE ON)
 target_include_directories(quorvawiz-qt-objects PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
 target_link_libraries(quorvawiz-qt-objects PUBLIC Qt6::Widgets PRIVATE quorvawiz-flags)
 
