@@ -1,5 +1,6 @@
 #include "quorvahost/HostWindow.h"
 
+#include "exports/Quorvawiz.h"
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/CommandText.h"
 #include "quorvahost/FileQuestions.h"
@@ -33,6 +34,17 @@ namespace quorvawiz::host
 namespace
 {
 const QString kGeometryKey = QStringLiteral("window-geometry");
+
+/// Puts what the wizard inserts into the editor.
+class CEditTarget : public QuorvaCommandWizardTarget
+{
+public:
+    explicit CEditTarget(CNetlistEdit& rEdit) : mrEdit(rEdit) {}
+    void InsertCommand(CString sCommand) override { mrEdit.InsertCommand(gCommandText(sCommand)); }
+
+private:
+    CNetlistEdit& mrEdit;
+};
 
 /// Sets a flag while it lives.
 class CFlagScope
@@ -76,6 +88,7 @@ CHostWindow::CHostWindow(QtDesktop& rDesktop) : mrDesktop(rDesktop)
     pLayout->addWidget(mpEdit, 1);
     pLayout->addWidget(mpFindBar);
     setCentralWidget(pCentre);
+    mpTarget = std::make_unique<CEditTarget>(*mpEdit);
     mpEdit->setFrameShape(QFrame::NoFrame);
 
     mActions = gMakeHostMenus(*this, Handlers());
@@ -96,6 +109,8 @@ CHostWindow::CHostWindow(QtDesktop& rDesktop) : mrDesktop(rDesktop)
     restoreGeometry(QSettings().value(kGeometryKey).toByteArray());
     mpEdit->setFocus();
 }
+
+CHostWindow::~CHostWindow() = default;
 
 THostHandlers CHostWindow::Handlers()
 {
@@ -220,7 +235,7 @@ void CHostWindow::RunWizard()
     mbWizardRuns = true;
     QString sFault;
     try {
-        gInvokeSpiceCommandWizard(gWindowOf(this), this);
+        gInvokeSpiceCommandWizard(gWindowOf(this), mpTarget.get());
     } catch (const std::exception& rError) {
         sFault = tr("The wizard has ended: %1.").arg(QString::fromUtf8(rError.what()));
     }
@@ -231,11 +246,6 @@ void CHostWindow::RunWizard()
         gShowFault(this, {sFault});
     if (std::exchange(mbCloseAfterWizard, false))
         close();
-}
-
-void CHostWindow::InsertCommand(CString sCommand)
-{
-    mpEdit->InsertCommand(gCommandText(sCommand));
 }
 
 void CHostWindow::closeEvent(QCloseEvent* pEvent)

@@ -1,13 +1,18 @@
 #pragma once
 
-#include "exports/Quorvawiz.h"
 #include "quorvahost/HostActions.h"
 #include "quorvahost/NetlistFile.h"
 
 #include <QMainWindow>
 #include <QString>
+#include <memory>
 
 class QtDesktop;
+
+namespace quorvawiz
+{
+class QuorvaCommandWizardTarget;
+}
 
 namespace quorvawiz::host
 {
@@ -17,13 +22,14 @@ class CHostStatus;
 class CNetlistEdit;
 
 /// The editor's window: one netlist, its file, the menus, and the wizard's host.
-class CHostWindow : public QMainWindow, private QuorvaCommandWizardTarget
+class CHostWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
     /// An empty netlist without a file. The desktop, which shows the wizard, outlives the window.
     explicit CHostWindow(QtDesktop& rDesktop);
+    ~CHostWindow() override;
 
     /// Opens a file in the place of the netlist there is, after asking about unsaved work.
     /// @return false if the user kept what was there, or the file can't be read; it was told then
@@ -44,8 +50,6 @@ protected:
     void dropEvent(QDropEvent* pEvent) override;
 
 private:
-    void InsertCommand(CString sCommand) override;
-
     THostHandlers Handlers();
     void NewFile();
     void ChooseAndOpen();
@@ -63,6 +67,7 @@ private:
     CNetlistEdit* mpEdit;
     CFindBar* mpFindBar;
     CHostStatus* mpStatus;
+    std::unique_ptr<QuorvaCommandWizardTarget> mpTarget;
     THostActions mActions;
     QString msPath;
     TTextForm mForm;
