@@ -21,9 +21,10 @@ QString Say(const char* pEnglish)
 class CMenuMaker
 {
 public:
-    CMenuMaker(QMainWindow& rWindow, const char* pTitle)
+    CMenuMaker(QMainWindow& rWindow, const char* pName, const char* pTitle)
         : mrWindow(rWindow), mpMenu(rWindow.menuBar()->addMenu(Say(pTitle)))
     {
+        mpMenu->setObjectName(QString::fromLatin1(pName));
     }
 
     QAction* Add(const char* pName, const char* pText, const QList<QKeySequence>& rKeys,
@@ -49,7 +50,7 @@ THostActions gMakeHostMenus(QMainWindow& rWindow, const THostHandlers& rHandlers
 {
     THostActions actions;
 
-    CMenuMaker file(rWindow, "&File");
+    CMenuMaker file(rWindow, "file", "&File");
     file.Add("fileNew", "&New", {QKeySequence::New}, rHandlers.fileNew);
     file.Add("open", "&Open...", {QKeySequence::Open}, rHandlers.open);
     actions.pRecent = file.AddMenu("Open &Recent");
@@ -60,7 +61,7 @@ THostActions gMakeHostMenus(QMainWindow& rWindow, const THostHandlers& rHandlers
     file.AddLine();
     file.Add("quit", "&Quit", {Qt::CTRL | Qt::Key_Q}, rHandlers.quit);
 
-    CMenuMaker edit(rWindow, "&Edit");
+    CMenuMaker edit(rWindow, "edit", "&Edit");
     actions.pUndo = edit.Add("undo", "&Undo", {QKeySequence::Undo}, rHandlers.undo);
     actions.pRedo = edit.Add(
         "redo", "&Redo", {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}, rHandlers.redo);
@@ -74,16 +75,16 @@ THostActions gMakeHostMenus(QMainWindow& rWindow, const THostHandlers& rHandlers
     edit.Add("findNext", "Find &Next", {Qt::Key_F3}, rHandlers.findNext);
     edit.Add("findPrevious", "Find Pre&vious", {Qt::SHIFT | Qt::Key_F3}, rHandlers.findPrevious);
 
-    CMenuMaker view(rWindow, "&View");
+    CMenuMaker view(rWindow, "view", "&View");
     view.Add("zoomIn", "Zoom &In", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal},
              rHandlers.zoomIn);
     view.Add("zoomOut", "Zoom &Out", {Qt::CTRL | Qt::Key_Minus}, rHandlers.zoomOut);
     view.Add("zoomReset", "&Reset Zoom", {Qt::CTRL | Qt::Key_0}, rHandlers.zoomReset);
 
-    CMenuMaker tools(rWindow, "&Tools");
+    CMenuMaker tools(rWindow, "tools", "&Tools");
     tools.Add("wizard", "SPICE Command &Wizard...", {Qt::CTRL | Qt::Key_I}, rHandlers.wizard);
 
-    CMenuMaker help(rWindow, "&Help");
+    CMenuMaker help(rWindow, "help", "&Help");
     help.Add("about", "&About quorvahost", {}, rHandlers.about);
     return actions;
 }

@@ -49,7 +49,9 @@ void CLineNumbers::paintEvent(QPaintEvent* pEvent)
     painter.fillRect(pEvent->rect(), palette().color(QPalette::Window));
     painter.setFont(mrEdit.font());
     const QColor here = palette().color(QPalette::WindowText);
-    const QColor elsewhere = palette().color(QPalette::Disabled, QPalette::WindowText);
+    QColor elsewhere = here;
+    constexpr float kFaint = 0.6F;
+    elsewhere.setAlphaF(kFaint);
     const int nDigit = mrEdit.fontMetrics().horizontalAdvance(QLatin1Char('9'));
     const int nCaretLine = mrEdit.textCursor().blockNumber();
 
@@ -58,9 +60,10 @@ void CLineNumbers::paintEvent(QPaintEvent* pEvent)
     while (block.isValid() && place.top() <= pEvent->rect().bottom()) {
         const bool bHere = block.blockNumber() == nCaretLine;
         painter.setPen(bHere ? here : elsewhere);
-        painter.drawText(QRectF(0, place.top(), width() - kGapRight * nDigit, place.height()),
-                         Qt::AlignRight | Qt::AlignVCenter,
-                         QString::number(block.blockNumber() + 1));
+        // By the line's own height: the last block has the document's lower edge in it.
+        painter.drawText(
+            QRectF(0, place.top(), width() - kGapRight * nDigit, mrEdit.fontMetrics().height()),
+            Qt::AlignRight | Qt::AlignVCenter, QString::number(block.blockNumber() + 1));
         block = block.next();
         place = mrEdit.blockBoundingGeometry(block).translated(mrEdit.contentOffset());
     }
