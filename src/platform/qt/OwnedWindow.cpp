@@ -48,6 +48,5 @@ void gActivateOwner(QWidget* pOwner)
 {
     if (!pOwner || !pOwner->window()->isVisible())
         return;
-    pOwner->window()->raise();
     pOwner->window()->activateWindow();
 }
