@@ -12,6 +12,10 @@
 
 namespace quorvawiz::host
 {
+namespace
+{
+constexpr int kGap = 8; // pixels
+} // namespace
 
 CFindBar::CFindBar(CNetlistEdit& rEdit, QWidget* pParent)
     : QWidget(pParent), mrEdit(rEdit), mpText(new QLineEdit(this)),
@@ -36,6 +40,7 @@ CFindBar::CFindBar(CNetlistEdit& rEdit, QWidget* pParent)
     pClose->setAccessibleName(tr("Close"));
 
     auto* const pLayout = new QHBoxLayout(this);
+    pLayout->setContentsMargins(kGap, kGap / 2, kGap, kGap / 2);
     pLayout->addWidget(pLabel);
     pLayout->addWidget(mpText, 2);
     pLayout->addWidget(pNext);

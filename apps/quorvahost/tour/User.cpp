@@ -1,5 +1,6 @@
 #include "quorvahost/tour/User.h"
 
+#include <QAbstractButton>
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QEvent>
@@ -10,6 +11,7 @@
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
+#include <algorithm>
 #include <utility>
 
 namespace quorvawiz::host
@@ -26,6 +28,16 @@ void ActivateAWindow()
     if (pNext)
         pNext->activateWindow();
     CUser::Settle();
+}
+
+/// File dialogs keep some of their buttons down.
+qsizetype CountButtonsThatAreDown()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    return std::count_if(widgets.begin(), widgets.end(), [](const QWidget* pWidget) {
+        const auto* const pButton = qobject_cast<const QAbstractButton*>(pWidget);
+        return pButton && pButton->isVisible() && pButton->isDown();
+    });
 }
 
 QWindow* Receiver()
@@ -70,9 +82,13 @@ CUser& CUser::Meet(TAct act)
 void CUser::Press(const QKeySequence& rKeys)
 {
     for (int i = 0; i < rKeys.count(); ++i) {
+        const qsizetype nDown = CountButtonsThatAreDown();
         const QKeyCombination combination = rKeys[static_cast<uint>(i)];
         QTest::keyClick(Receiver(), combination.key(), combination.keyboardModifiers());
         Settle();
+        // A button that is pressed by its mnemonic stays down for a moment before it acts.
+        while (CountButtonsThatAreDown() > nDown)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 }
 
