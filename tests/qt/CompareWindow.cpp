@@ -235,8 +235,10 @@ private:
 
     void CompareFocus()
     {
+        // A list that is open has the keyboard for its control.
         const CWnd* const pFocus = CWnd::GetFocus();
-        if (!pFocus || !pFocus->IsInside(mrDialog) || !mpWindow->isActiveWindow())
+        if (QApplication::activePopupWidget() || !pFocus || !pFocus->IsInside(mrDialog) ||
+            !mpWindow->isActiveWindow())
             return;
         const QWidget* const pShown = QApplication::focusWidget();
         const QWidget* const pModel = gWidgetOf(*pFocus);

@@ -77,7 +77,7 @@ void CPlayer::TakeTurn()
 {
     const std::string sAfter = mnNext == 0 ? "the start" : '\'' + mTurns[mnNext - 1].sName + '\'';
     EXPECT_THAT(gCompareWindowsWithModels(), testing::IsEmpty()) << "after " << sAfter;
-    if (mnNext == mTurns.size() && mMore)
+    if (mnNext == mTurns.size() && mMore && !gDesktop().Thread().mModalRuns.empty())
         if (TTurn turn = mMore())
             mTurns.push_back({"turn " + std::to_string(mnNext), std::move(turn)});
     if (mnNext == mTurns.size()) {

@@ -22,7 +22,7 @@ public:
     /// Adds a turn for each input, as `gInput`.
     CPlayer& Do(const std::vector<std::string>& rInputs);
 
-    /// Asked for a turn when there are no more; an empty one ends the game.
+    /// Asked for a turn when there are no more and a dialog is open; an empty one ends the game.
     void SetMore(std::function<TTurn()> more) { mMore = std::move(more); }
 
     /// Lets the user act while `run` runs modal dialogs. Fails the test when turns are left over,

@@ -31,8 +31,9 @@ public:
                 Act([this, nIndex] { Model().UserSelect(nIndex); });
         });
         connect(&Widget(), &QComboBox::highlighted, this, [this](int nIndex) { OnMark(nIndex); });
-        Widget().view()->installEventFilter(this);
-        Widget().view()->viewport()->installEventFilter(this);
+        mpList = Widget().view();
+        mpList->installEventFilter(this);
+        mpList->viewport()->installEventFilter(this);
     }
 
     ~CComboPeer() override
@@ -43,9 +44,9 @@ public:
 
     bool eventFilter(QObject* pObject, QEvent* pEvent) override
     {
-        if (GetWidget() && pObject == Widget().view())
+        if (mpList && pObject == mpList)
             OnListEvent(*pEvent);
-        else if (pEvent->type() == QEvent::MouseMove)
+        else if (mpList && pObject == mpList->viewport() && pEvent->type() == QEvent::MouseMove)
             mbMarkByKey = false;
         return CQtPeer::eventFilter(pObject, pEvent);
     }
@@ -117,7 +118,8 @@ private:
     }
 
     QPointer<CItemListModel> mpItems;
-    int mnChoiceBefore = -1; ///< when the list was opened
+    QPointer<QAbstractItemView> mpList; ///< that opens; set when it is whole
+    int mnChoiceBefore = -1;            ///< when the list was opened
     bool mbMarkByKey = false;
 };
 } // namespace

@@ -19,11 +19,10 @@ public:
     CLabelPeer(QtDesktop& rDesktop, CWnd& rWnd)
         : TWidgetPeer(rDesktop, rWnd, new QLabel(gParentWidgetOf(rWnd)))
     {
-        const bool bWraps = rWnd.GetRect().h >= kTwoLines;
         Widget().setTextFormat(Qt::PlainText);
-        Widget().setWordWrap(bWraps);
+        Widget().setWordWrap(IsHigh());
         Widget().setAlignment((IsHeading() ? Qt::AlignHCenter : Qt::AlignLeft) |
-                              (bWraps ? Qt::AlignTop : Qt::AlignVCenter));
+                              GetVerticalPlace());
         // Only a label with a buddy draws '&' as a mnemonic; its field takes this part over.
         if (rWnd.GetKind() == EControl::Label)
             Widget().setBuddy(&Widget());
@@ -52,6 +51,15 @@ protected:
     }
 
 private:
+    /// A high label stands above its field, to which its text keeps close.
+    Qt::Alignment GetVerticalPlace() const
+    {
+        if (!IsHigh())
+            return Qt::AlignVCenter;
+        return Wnd().GetKind() == EControl::Label ? Qt::AlignBottom : Qt::AlignTop;
+    }
+
+    bool IsHigh() const { return Wnd().GetRect().h >= kTwoLines; }
     bool IsHeading() const { return Wnd().GetControlFlags() & kHeading; }
 };
 } // namespace

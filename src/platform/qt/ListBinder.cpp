@@ -1,6 +1,7 @@
 #include "platform/qt/Binders.h"
 #include "platform/qt/FieldName.h"
 #include "platform/qt/ItemListModel.h"
+#include "platform/qt/RowHeight.h"
 #include "platform/qt/RowSelection.h"
 #include "platform/qt/WidgetPeer.h"
 #include "platform/ui/ListBox.h"
@@ -20,6 +21,7 @@ public:
         Widget().setUniformItemSizes(true);
         Widget().setEditTriggers(QAbstractItemView::NoEditTriggers);
         Widget().setFocusPolicy(Qt::StrongFocus);
+        gSpaceRows(Widget());
         gNameField(rWnd, Widget());
         gOnRowMoved(Widget(), *this, [this] { OnMoved(); });
         connect(&Widget(), &QListView::doubleClicked, this,

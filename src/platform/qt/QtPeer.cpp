@@ -15,7 +15,6 @@ CQtPeer::CQtPeer(QtDesktop& rDesktop, CWnd& rWnd, QWidget* pWidget, QWidget* pFo
       mpFocusWidget(pFocusWidget ? pFocusWidget : pWidget)
 {
     mpWidget->setObjectName(QString::fromUtf8(rWnd.GetKey()));
-    mpFocusWidget->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* pNow) {
         if (pNow && pNow == mpFocusWidget)
             OnGotFocus();
@@ -81,6 +80,8 @@ void CQtPeer::OnChanged(EAspect aspect)
 
 void CQtPeer::PullFirst()
 {
+    // Not before the derived class is whole: events come at once.
+    mpFocusWidget->installEventFilter(this);
     OnChanged(EAspect::Items);
     OnChanged(EAspect::Place);
     PullAll();

@@ -1,5 +1,6 @@
 #include "platform/qt/Binders.h"
 #include "platform/qt/FieldName.h"
+#include "platform/qt/RowHeight.h"
 #include "platform/qt/RowSelection.h"
 #include "platform/qt/TableModel.h"
 #include "platform/qt/WidgetPeer.h"
@@ -11,8 +12,6 @@
 
 namespace
 {
-constexpr int kRowMargin = 4; // around the text of a row, in pixels
-
 class CTablePeer : public TWidgetPeer<CListCtrl, QTableView>
 {
 public:
@@ -57,8 +56,7 @@ protected:
     void PullPlace() override
     {
         CQtPeer::PullPlace();
-        Widget().verticalHeader()->setDefaultSectionSize(Widget().fontMetrics().height() +
-                                                         kRowMargin);
+        Widget().verticalHeader()->setDefaultSectionSize(gRowHeight(Widget().fontMetrics()));
         PullWidths();
     }
 

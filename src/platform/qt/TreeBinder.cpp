@@ -1,6 +1,7 @@
 #include "platform/qt/Binders.h"
 #include "platform/qt/FieldName.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/RowHeight.h"
 #include "platform/qt/WidgetPeer.h"
 #include "platform/ui/TreeCtrl.h"
 
@@ -25,6 +26,7 @@ public:
         Widget().setUniformRowHeights(true);
         Widget().setSelectionMode(QAbstractItemView::SingleSelection);
         Widget().setFocusPolicy(Qt::StrongFocus);
+        gSpaceRows(Widget());
         gNameField(rWnd, Widget());
         connect(&Widget(), &QTreeWidget::itemSelectionChanged, this, [this] { OnMoved(); });
         connect(&Widget(), &QTreeWidget::currentItemChanged, this, [this] { OnMoved(); });
