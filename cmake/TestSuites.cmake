@@ -14,11 +14,15 @@ function(quorvawiz_add_suites folder)
     if(TARGET quorvawiz-cli)
         add_dependencies(${target} quorvawiz-cli)
     endif()
+    quorvawiz_list_suites(${target} ${folder})
+endfunction()
 
+# quorvawiz_list_suites(<target> <prefix>): the ctest entries <prefix>.<suite> of a test program.
+function(quorvawiz_list_suites target prefix)
     set(list "${CMAKE_CURRENT_BINARY_DIR}/${target}.suites.cmake")
     add_custom_command(TARGET ${target} POST_BUILD
         COMMAND "${CMAKE_COMMAND}"
-            "-DPROGRAM=$<TARGET_FILE:${target}>" "-DPREFIX=${folder}" "-DOUTPUT=${list}"
+            "-DPROGRAM=$<TARGET_FILE:${target}>" "-DPREFIX=${prefix}" "-DOUTPUT=${list}"
             -P "${PROJECT_SOURCE_DIR}/cmake/ListSuites.cmake"
         BYPRODUCTS "${list}"
         VERBATIM)

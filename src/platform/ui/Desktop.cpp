@@ -29,6 +29,12 @@ std::unique_ptr<IWindowPeer> IDesktop::MakePeer(CWnd&)
 
 void IDesktop::OnMessagePosted() {}
 
+void IDesktop::EndModalRuns()
+{
+    if (!mThread.mModalRuns.empty())
+        mThread.EndRuns(*mThread.mModalRuns.front(), IDCANCEL);
+}
+
 IDesktop* gFindDesktop()
 {
     return spDesktop;

@@ -54,6 +54,10 @@ public:
     /// A message was posted: `gPumpPostedMessages` is to be called soon.
     virtual void OnMessagePosted();
 
+    /// Ends every modal run of this desktop, which is the current one, with IDCANCEL: a host that
+    /// closes ends what runs on top of it first. The runs are over when their callers go on.
+    void EndModalRuns();
+
     /// What the windows of this desktop share.
     TUiThread& Thread() { return mThread; }
 

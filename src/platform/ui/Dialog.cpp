@@ -154,15 +154,8 @@ void CDialog::CreateControls(CWnd* pParent)
 
 void CDialog::EndDialog(int nResult)
 {
-    if (!mpRun)
-        return;
-    const auto& rRuns = gDesktop().Thread().mModalRuns;
-    for (auto run = std::ranges::find(rRuns, mpRun); run != rRuns.end(); ++run) {
-        if ((*run)->bEnded)
-            continue;
-        (*run)->bEnded = true;
-        (*run)->nResult = *run == mpRun ? nResult : IDCANCEL;
-    }
+    if (mpRun)
+        gDesktop().Thread().EndRuns(*mpRun, nResult);
 }
 
 bool CDialog::HasEnded() const

@@ -1,5 +1,17 @@
 #include "platform/ui/UiThread.h"
 
+#include <algorithm>
+
+void TUiThread::EndRuns(TModalRun& rRun, int nResult)
+{
+    for (auto run = std::ranges::find(mModalRuns, &rRun); run != mModalRuns.end(); ++run) {
+        if ((*run)->bEnded)
+            continue;
+        (*run)->bEnded = true;
+        (*run)->nResult = *run == &rRun ? nResult : IDCANCEL;
+    }
+}
+
 void TUiThread::Forget(const CWnd& rWnd)
 {
     if (mpFocus == &rWnd)

@@ -23,6 +23,10 @@ struct TUiThread {
     std::deque<TMsg> mPosted;           ///< messages that wait, oldest first
     std::vector<TMsg*> mOnTheWay;       ///< messages being delivered, innermost last
 
+    /// Ends a run with this result, and with IDCANCEL all runs inside it. The first result of a run
+    /// counts.
+    void EndRuns(TModalRun& rRun, int nResult);
+
     /// Drops every trace of a window that ends.
     void Forget(const CWnd& rWnd);
 

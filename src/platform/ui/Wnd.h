@@ -164,6 +164,8 @@ public:
     }
     /// Tells the peer, if there is one.
     void Announce(EAspect aspect);
+    /// The desktop's side of this window, for the desktop itself; null where nothing is drawn.
+    IWindowPeer* GetPeer() const { return mpPeer.get(); }
 
 protected:
     friend class CDialog;

@@ -1,0 +1,15 @@
+#include "quorvahost/CommandText.h"
+
+#include "platform/base/CodePage.h"
+
+namespace quorvawiz::host
+{
+
+QString gCommandText(const CString& rsCommand)
+{
+    QString sText = QString::fromStdString(gToUtf8(rsCommand));
+    sText.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return sText.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
+} // namespace quorvawiz::host

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace quorvawiz::host
+{
+
+/// Which way to look.
+enum class EDirection {
+    Forward,
+    Backward,
+};
+
+/// What is looked for.
+struct TSearch {
+    QString sText;
+    bool bMatchCase = false;
+};
+
+/// Where it was found.
+struct TFound {
+    QTextCursor cursor; ///< selects it; null if it is nowhere
+    bool bWrapped =
+        false; ///< it was found behind the document's end, from its start, or the reverse
+};
+
+/// Finds the next place behind a cursor's selection, or before it, and goes on at the other end of
+/// the document. An empty text is nowhere.
+TFound gFindText(const QTextDocument& rDocument, const QTextCursor& rFrom, const TSearch& rSearch,
+                 EDirection direction);
+
+} // namespace quorvawiz::host

@@ -1,0 +1,105 @@
+#include "platform/qt/DialogPeer.h"
+
+#include "platform/qt/OwnedWindow.h"
+#include "platform/qt/QtDesktop.h"
+#include "platform/qt/QtText.h"
+#include "platform/ui/Dialog.h"
+
+#include <QCloseEvent>
+#include <QDialog>
+#include <QKeyEvent>
+
+/// A dialog window that leaves focus, Enter, Escape and closing to the model.
+class CDialogPeer::CWindow : public QDialog
+{
+public:
+    CWindow()
+    {
+        setWindowModality(Qt::ApplicationModal);
+        setWindowFlag(Qt::MSWindowsFixedSizeDialogHint);
+    }
+
+    /// Who is told; the window may stay a moment longer.
+    void SetPeer(CDialogPeer& rPeer) { mpPeer = &rPeer; }
+
+    void reject() override
+    {
+        if (mpPeer)
+            mpPeer->Close();
+    }
+
+protected:
+    bool focusNextPrevChild(bool) override { return false; }
+
+    void closeEvent(QCloseEvent* pEvent) override
+    {
+        pEvent->ignore();
+        reject();
+    }
+
+    /// Comes here when no control has the keyboard, or has no use for the key.
+    void keyPressEvent(QKeyEvent* pEvent) override { pEvent->accept(); }
+
+    void changeEvent(QEvent* pEvent) override
+    {
+        QDialog::changeEvent(pEvent);
+        if (mpPeer &&
+            (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange))
+            mpPeer->FollowFont();
+    }
+
+private:
+    QPointer<CDialogPeer> mpPeer;
+};
+
+CDialogPeer::CDialogPeer(QtDesktop& rDesktop, CDialog& rDialog)
+    : CQtPeer(rDesktop, rDialog, new CWindow), mrDialog(rDialog),
+      mpOwner(gOwnerWidgetOf(rDialog.GetOwner())), mUnits(gDialogUnitsOf(GetWidget()->font()))
+{
+    static_cast<CWindow*>(GetWidget())->SetPeer(*this);
+}
+
+void CDialogPeer::PullText()
+{
+    GetWidget()->setWindowTitle(gToQString(mrDialog.GetWindowText()));
+}
+
+void CDialogPeer::PullPlace()
+{
+    const QSize size = gToPixels(mUnits, mrDialog.GetWindowRect()).size();
+    if (GetWidget()->size() != size || GetWidget()->minimumSize() != size)
+        GetWidget()->setFixedSize(size);
+}
+
+void CDialogPeer::PullVisible()
+{
+    const bool bShow = mrDialog.IsShown() && !mrDialog.HasEnded();
+    if (GetWidget()->isHidden() == !bShow)
+        return;
+    if (bShow)
+        gTieToOwner(*GetWidget(), mpOwner);
+    GetWidget()->setVisible(bShow);
+    if (bShow)
+        GetWidget()->activateWindow();
+}
+
+void CDialogPeer::FollowFont()
+{
+    const TDialogUnits units = gDialogUnitsOf(GetWidget()->font());
+    if (units == mUnits)
+        return;
+    mUnits = units;
+    PlaceAll();
+}
+
+bool CDialogPeer::IsInFront() const
+{
+    const TUiThread& rThread = Desktop().Thread();
+    return rThread.mnOpenBoxes == 0 && rThread.FrontWindow() == &mrDialog;
+}
+
+void CDialogPeer::Close()
+{
+    if (IsInFront())
+        Desktop().EnterModel([this] { mrDialog.SendMessage(WM_SYSCOMMAND, SC_CLOSE); });
+}

@@ -1,0 +1,33 @@
+#include "platform/qt/Binders.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/StackBelow.h"
+#include "platform/qt/WidgetPeer.h"
+#include "platform/ui/Button.h"
+
+#include <QGroupBox>
+
+namespace
+{
+class CGroupPeer : public TWidgetPeer<CButton, QGroupBox>
+{
+public:
+    CGroupPeer(QtDesktop& rDesktop, CWnd& rWnd)
+        : TWidgetPeer(rDesktop, rWnd, new QGroupBox(gParentWidgetOf(rWnd)))
+    {
+        gStackBelowControls(Widget());
+    }
+
+protected:
+    void PullText() override
+    {
+        const QString sText = gToQString(Model().GetWindowText());
+        if (Widget().title() != sText)
+            Widget().setTitle(sText);
+    }
+};
+} // namespace
+
+std::unique_ptr<CQtPeer> gBindGroup(QtDesktop& rDesktop, CWnd& rWnd)
+{
+    return std::make_unique<CGroupPeer>(rDesktop, rWnd);
+}
