@@ -160,7 +160,7 @@ void gClickAt(QWidget& rWidget, const QPoint& rPosition, bool bDouble)
 
 CDialog& gFrontDialog()
 {
-    return *gDesktop().Thread().InnermostDialog();
+    return *gInnermostDialog();
 }
 
 QWidget* gFrontWidget(std::string_view sKey)

@@ -97,7 +97,7 @@ void CPlayer::CloseLeftovers()
         pBox->done(0);
     } else if (!rRuns.empty() && !rRuns.front()->bEnded) {
         ADD_FAILURE() << "a dialog is left open";
-        rRuns.front()->pDialog->EndDialog(IDCANCEL);
+        gDesktop().EndModalRuns();
     }
 }
 
