@@ -1,5 +1,6 @@
 # The installed tree: the archive, its headers under include/quorvawiz (which is their include root, as src
-# is here), the command line, and a package for find_package(quorvawiz).
+# is here), the command line, and a package for find_package(quorvawiz). With Qt also the two shared
+# libraries, as the package's component "desktop", and the host.
 
 include(CMakePackageConfigHelpers)
 
@@ -10,10 +11,26 @@ if(TARGET quorvawiz-cli)
     install(TARGETS quorvawiz-cli)
 endif()
 
+
+set(quorvawiz_hidden_headers "")
+if(QUORVAWIZ_QT)
+    set_target_properties(quorvawiz PROPERTIES INSTALL_RPATH "$ORIGIN")
+    file(RELATIVE_PATH fromProgramToLibraries
+        "/${CMAKE_INSTALL_BINDIR}" "/${CMAKE_INSTALL_LIBDIR}")
+    set_target_properties(quorvahost PROPERTIES
+        INSTALL_RPATH "$ORIGIN/${fromProgramToLibraries}")
+    install(TARGETS quorvaplatform quorvawiz EXPORT quorvawizDesktopTargets)
+    install(TARGETS quorvahost)
+    install(EXPORT quorvawizDesktopTargets
+        NAMESPACE quorvawiz:: DESTINATION "${quorvawiz_package_dir}")
+else()
+    set(quorvawiz_hidden_headers PATTERN "platform/qt" EXCLUDE)
+endif()
+
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/" "${PROJECT_BINARY_DIR}/generated/"
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/quorvawiz"
     FILES_MATCHING PATTERN "*.h"
-    PATTERN "platform/qt" EXCLUDE)
+    ${quorvawiz_hidden_headers})
 
 install(EXPORT quorvawizTargets NAMESPACE quorvawiz:: DESTINATION "${quorvawiz_package_dir}")
 configure_package_config_file(cmake/quorvawizConfig.cmake.in

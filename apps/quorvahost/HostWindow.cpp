@@ -254,7 +254,7 @@ void CHostWindow::closeEvent(QCloseEvent* pEvent)
         // The wizard runs on this window's stack: it has to end first.
         mbCloseAfterWizard = true;
         pEvent->ignore();
-        mrDesktop.EndModalRuns();
+        mrDesktop.EnterModel([this] { mrDesktop.EndModalRuns(); });
         return;
     }
     pEvent->setAccepted(MayLeaveNetlist());

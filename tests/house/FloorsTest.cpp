@@ -130,7 +130,7 @@ std::vector<TFloorCase> gFloorCases()
         {"src/wizard/optimization", {b, u, f, r, z}},
         {"src/exports", {b, u, f, p, w, r, a, s, t, o, z, e}},
         {"apps/cli", {b, u, h, f, p, w, r, a, s, t, o, z, e, c}},
-        {"apps/quorvahost", {b, u, h, q, f, p, w, r, a, s, t, o, z, e, n}},
+        {"apps/quorvahost", {b, q, e, n}},
     };
 }
 

@@ -46,7 +46,8 @@ const std::vector<TFloor> kFloors{
      {"src/wizard", "src/browser", "src/params", "src/foundation", "src/platform/ui",
       "src/platform/base"}},
     {"apps/cli", kUnderCli},
-    {"apps/quorvahost", {"src"}, true},
+    // What any host sees, and no more.
+    {"apps/quorvahost", {"src/exports", "src/platform/qt", "src/platform/base"}, true},
 };
 
 // Written by the build, so never found in the tree.

@@ -113,7 +113,7 @@ private:
             Expect("text", dynamic_cast<const QLineEdit&>(rWidget).text(), sText);
             break;
         case EControl::MultilineEdit:
-            Expect("text", dynamic_cast<const QPlainTextEdit&>(rWidget).toPlainText(),
+            Expect("text", LinesOf(dynamic_cast<const QPlainTextEdit&>(rWidget)),
                    gToWidgetLines(rWnd.GetWindowText()));
             break;
         case EControl::PushButton:
@@ -146,6 +146,13 @@ private:
                         dynamic_cast<const QTabWidget&>(rWidget));
             break;
         }
+    }
+
+    /// The widget's own `toPlainText` shows no-break blanks as plain ones.
+    static QString LinesOf(const QPlainTextEdit& rEdit)
+    {
+        return rEdit.document()->toRawText().replace(QChar(QChar::ParagraphSeparator),
+                                                     QLatin1Char('\n'));
     }
 
     void CompareEntries(int nShown, const std::function<QString(int)>& getShown,

@@ -27,22 +27,33 @@ QString ToQt(std::string_view sText)
     return QString::fromUtf8(sText.data(), static_cast<qsizetype>(sText.size()));
 }
 
+/// Who gets the keys: as in real life, an open list before the window behind it.
+QWidget* KeyReceiver()
+{
+    QWidget* const pWindow = QApplication::activePopupWidget() ? QApplication::activePopupWidget()
+                                                               : QApplication::activeWindow();
+    return pWindow && pWindow->focusWidget() ? pWindow->focusWidget() : pWindow;
+}
+
 void Press(std::string_view sKey)
 {
     const auto keys = QKeySequence::fromString(ToQt(sKey));
     ASSERT_EQ(keys.count(), 1) << sKey;
-    QWindow* const pWindow = QGuiApplication::focusWindow();
-    ASSERT_TRUE(pWindow) << "no window takes the key " << sKey;
-    QTest::keyClick(pWindow, keys[0].key(), keys[0].keyboardModifiers());
+    QWidget* const pReceiver = KeyReceiver();
+    ASSERT_TRUE(pReceiver) << "no window takes the key " << sKey;
+    QTest::keyClick(pReceiver, keys[0].key(), keys[0].keyboardModifiers());
 }
 
 void Type(std::string_view sText)
 {
     for (const QChar cLetter : ToQt(sText)) {
-        QWindow* const pWindow = QGuiApplication::focusWindow();
-        ASSERT_TRUE(pWindow) << "no window takes the text " << sText;
-        QTest::sendKeyEvent(QTest::Click, pWindow, Qt::Key_unknown, QString(cLetter),
-                            Qt::NoModifier);
+        QWidget* const pReceiver = KeyReceiver();
+        ASSERT_TRUE(pReceiver) << "no window takes the text " << sText;
+        if (cLetter.unicode() < 0x80)
+            QTest::keyClick(pReceiver, cLetter.toLatin1());
+        else
+            QTest::sendKeyEvent(QTest::Click, pReceiver, Qt::Key_unknown, QString(cLetter),
+                                Qt::NoModifier);
     }
 }
 

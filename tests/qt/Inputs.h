@@ -7,8 +7,7 @@ class CDialog;
 class QPoint;
 class QWidget;
 
-/// One input of the user, by its name, sent through the window system's door to the window in
-/// front:
+/// One input of the user, by its name, sent to the window in front as a real event:
 ///   "press Alt+I"       a key with its modifiers
 ///   "type abc"          letters, each a key of its own
 ///   "paste abc"         a text from the clipboard

@@ -14,7 +14,7 @@
 
 namespace
 {
-constexpr int kLongestWait = 20'000; // in milliseconds; no good run waits that long
+constexpr int kLongestWait = 10'000; // in milliseconds; no good run waits that long
 } // namespace
 
 CPlayer& CPlayer::Then(std::string sName, TTurn turn)
@@ -63,7 +63,8 @@ void CPlayer::timerEvent(QTimerEvent*)
 bool CPlayer::IsWindowReady()
 {
     if (QGuiApplication::focusWindow()) {
-        mWaiting = QDeadlineTimer(kLongestWait);
+        if (mnNext < mTurns.size())
+            mWaiting = QDeadlineTimer(kLongestWait);
         return true;
     }
     if (!mWaiting.hasExpired())
@@ -81,7 +82,9 @@ void CPlayer::TakeTurn()
         if (TTurn turn = mMore())
             mTurns.push_back({"turn " + std::to_string(mnNext), std::move(turn)});
     if (mnNext == mTurns.size()) {
-        CloseLeftovers();
+        // A button that is pressed by its mnemonic stays down for a moment.
+        if (mWaiting.hasExpired())
+            CloseLeftovers();
         return;
     }
     const TTurn turn = mTurns[mnNext++].turn;

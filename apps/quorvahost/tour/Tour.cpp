@@ -110,6 +110,12 @@ void CTour::VisitWizard(QWidget& rWizard)
     mUser.Type(QStringLiteral("0 27 85"));
     CUser::Click(Control(rWizard, "insert"));
     Picture(rWizard, "temperature");
+
+    // The wizard stays open for the next one.
+    CUser::Click(Control(rWizard, "temperature-list"));
+    mUser.Press(QKeySequence::SelectAll);
+    mUser.Type(QStringLiteral("-40 125"));
+    mUser.Press(QKeySequence(Qt::ALT | Qt::Key_I));
     mUser.Press(QKeySequence(Qt::Key_Escape));
 }
 

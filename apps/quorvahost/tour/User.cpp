@@ -160,8 +160,18 @@ void CUser::ActOn(const QPointer<QWidget>& rpWindow)
 void CUser::OnIdle()
 {
     const QWidget* const pOpen = QApplication::activeModalWidget();
-    if (pOpen && mnActing == 0)
-        GiveUp(std::make_exception_ptr(CUserError("a window was left open: " + NameOf(*pOpen))));
+    if (!pOpen || mnActing > 0) {
+        mnIdle = 0;
+        return;
+    }
+    // Others who listen may be about to close it: the second time in turn is one too many.
+    if (++mnIdle == 1) {
+        QMetaObject::invokeMethod(
+            this, [] {}, Qt::QueuedConnection);
+        return;
+    }
+    mnIdle = 0;
+    GiveUp(std::make_exception_ptr(CUserError("a window was left open: " + NameOf(*pOpen))));
 }
 
 void CUser::GiveUp(const std::exception_ptr& rpWhy)
@@ -170,9 +180,12 @@ void CUser::GiveUp(const std::exception_ptr& rpWhy)
         mpFailure = rpWhy;
     mActs = {};
     QWidget* const pOpen = QApplication::activeModalWidget();
-    // The runs of all windows are one inside the other: each one that closes lets the next one go.
-    if (pOpen && !pOpen->close())
-        qFatal("A window that nobody waits for can't be closed: %s", NameOf(*pOpen).c_str());
+    if (!pOpen)
+        return;
+    // The loops of all windows are one inside the other: each one that closes lets the next one go.
+    if (std::exchange(mpClosing, pOpen) == pOpen)
+        qFatal("\"%s\" can't be closed", NameOf(*pOpen).c_str());
+    pOpen->close();
 }
 
 } // namespace quorvawiz::host

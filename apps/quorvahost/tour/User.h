@@ -69,7 +69,9 @@ private:
     void GiveUp(const std::exception_ptr& rpWhy);
 
     std::queue<TAct> mActs;
-    int mnActing = 0;
+    int mnActing = 0; ///< windows that are being acted on
+    int mnIdle = 0;   ///< how often in turn a loop was about to wait with a window left open
+    QPointer<QWidget> mpClosing;
     std::exception_ptr mpFailure;
 };
 

@@ -83,7 +83,8 @@ private:
 
     void OnTyped()
     {
-        const auto text = gFromQString(gWithoutPastedLines(*Widget().lineEdit()));
+        gCutPastedLines(*Widget().lineEdit());
+        const auto text = gFromQString(Widget().lineEdit()->text());
         Act([this, &text] {
             if (text)
                 Model().UserType(*text);

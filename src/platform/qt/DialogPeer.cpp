@@ -33,8 +33,9 @@ protected:
 
     void closeEvent(QCloseEvent* pEvent) override
     {
-        pEvent->ignore();
         reject();
+        // Who closes all windows to quit wants to know.
+        pEvent->setAccepted(!mpPeer || mpPeer->mrDialog.HasEnded());
     }
 
     /// Comes here when no control has the keyboard, or has no use for the key.

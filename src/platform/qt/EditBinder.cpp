@@ -28,8 +28,9 @@ protected:
 private:
     void OnEdited()
     {
+        gCutPastedLines(Widget());
         // A text that the code page can't hold is refused like any other.
-        const auto text = gFromQString(gWithoutPastedLines(Widget()));
+        const auto text = gFromQString(Widget().text());
         Act([this, &text] {
             if (text)
                 Model().UserType(*text);

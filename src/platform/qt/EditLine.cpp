@@ -2,18 +2,19 @@
 
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <algorithm>
 
-QString gWithoutPastedLines(const QLineEdit& rEdit)
+void gCutPastedLines(QLineEdit& rEdit)
 {
     static const QRegularExpression kLineEnd(QStringLiteral("[\\r\\n]"));
     const QString sText = rEdit.text();
-    const qsizetype nLineEnd = sText.indexOf(kLineEnd);
+    const auto nLineEnd = static_cast<int>(sText.indexOf(kLineEnd));
     if (nLineEnd < 0)
-        return sText;
+        return;
     // The caret stands behind what was put in.
-    const qsizetype nCaret = std::max<qsizetype>(rEdit.cursorPosition(), nLineEnd);
-    QString sBehind = sText.mid(nCaret);
-    return sText.left(nLineEnd) + sBehind.remove(kLineEnd);
+    QString sBehind = sText.mid(std::max(rEdit.cursorPosition(), nLineEnd));
+    rEdit.setText(sText.left(nLineEnd) + sBehind.remove(kLineEnd));
+    rEdit.setCursorPosition(nLineEnd);
 }
 
 void gWriteLine(QLineEdit& rEdit, const QString& rsText)

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QString>
-
 class QLineEdit;
+class QString;
 
-/// The user's last edit without what came in behind a line end: only the first line of a text that
-/// was pasted counts.
-QString gWithoutPastedLines(const QLineEdit& rEdit);
+/// Cuts what the user has just put in at its first line end: of a text that is pasted only the
+/// first line counts. The caret stands behind it.
+void gCutPastedLines(QLineEdit& rEdit);
 
 /// Writes a text where it differs; the caret stays where it was, as far as it can.
 void gWriteLine(QLineEdit& rEdit, const QString& rsText);

@@ -15,6 +15,8 @@ public:
         : TWidgetPeer(rDesktop, rWnd, new QGroupBox(gParentWidgetOf(rWnd)))
     {
         gStackBelowControls(Widget());
+        // It may lie over another frame, whose tabs still want to be clicked.
+        Widget().setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 
 protected:

@@ -196,6 +196,9 @@ void CQtPeer::OnGotFocus()
 
 bool CQtPeer::TakeKey(const QKeyEvent& rEvent)
 {
+    // A key that a control has no use for comes by its parents, too.
+    if (QWidget* const pFocus = QApplication::focusWidget(); pFocus && pFocus != mpFocusWidget)
+        return false;
     const auto key = gUserKeyOf(rEvent);
     if (!key || gKeepsKey(mrWnd, key->key))
         return false;

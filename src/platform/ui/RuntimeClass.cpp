@@ -6,13 +6,21 @@
 
 namespace
 {
-const CRuntimeClass* spLastRegistered = nullptr;
+CRuntimeClass* spLastRegistered = nullptr;
 }
 
 CRuntimeClass::CRuntimeClass(std::string_view sName, TIsInstance pIsInstance, TCreate pCreate)
     : msName(sName), mpIsInstance(pIsInstance), mpCreate(pCreate), mpNext(spLastRegistered)
 {
     spLastRegistered = this;
+}
+
+CRuntimeClass::~CRuntimeClass()
+{
+    CRuntimeClass** ppClass = &spLastRegistered;
+    while (*ppClass != this)
+        ppClass = &(*ppClass)->mpNext;
+    *ppClass = mpNext;
 }
 
 const CRuntimeClass* CRuntimeClass::FromName(std::string_view sName)

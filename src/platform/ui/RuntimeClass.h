@@ -22,9 +22,11 @@ public:
     using TIsInstance = bool (*)(const CObject& rObject);
     using TCreate = std::unique_ptr<CObject> (*)();
 
-    /// Registers the class. `sName` and the object itself live to the end of the process;
-    /// `pCreate` is null for an abstract class.
+    /// Registers the class. `sName` lives as long as the object; `pCreate` is null for an abstract
+    /// class.
     CRuntimeClass(std::string_view sName, TIsInstance pIsInstance, TCreate pCreate);
+    /// The class is known no more: its library is unloaded.
+    ~CRuntimeClass();
     CRuntimeClass(const CRuntimeClass&) = delete;
     CRuntimeClass& operator=(const CRuntimeClass&) = delete;
 
@@ -41,7 +43,7 @@ private:
     std::string_view msName;
     TIsInstance mpIsInstance;
     TCreate mpCreate;
-    const CRuntimeClass* mpNext; ///< registered before this one
+    CRuntimeClass* mpNext; ///< registered before this one
 };
 
 /// The run-time class of `TClass`, registered by the first call.

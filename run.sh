@@ -1,0 +1,90 @@
+#!/usr/bin/env bash
+# Builds this tree and opens the host on an example; --help says how.
+set -euo pipefail
+
+usage() {
+    cat <<'TEXT'
+usage: ./run.sh [EXAMPLE] [--tour] [--dark]
+
+Installs the packages that are missing, builds, and opens the netlist editor on a copy of an example of
+examples/ (by name; without one: rc-filter). In it: Tools > SPICE Command Wizard, or Ctrl+I.
+
+Without a display (neither DISPLAY nor WAYLAND_DISPLAY is set) it takes the same windows on a tour that
+needs no screen: real key and mouse events open the wizard, insert commands into the copy and save it.
+It prints what that changed, and the folder with a picture of each window.
+
+  --tour  take the tour, display or not
+  --dark  the tour in dark colours
+  --help  this text
+TEXT
+}
+
+refuse() {
+    printf './run.sh: %s\n' "$1" >&2
+    usage >&2
+    exit 2
+}
+
+cd "$(dirname "${BASH_SOURCE[0]}")"
+
+example=""
+tour=false
+colours=()
+for argument in "$@"; do
+    case $argument in
+        --tour) tour=true ;;
+        --dark) colours=(dark) ;;
+        --help | -h) usage; exit 0 ;;
+        -*) refuse "unknown option: $argument" ;;
+        *)
+            [[ -z $example ]] || refuse "more than one example: $argument"
+            example=$(basename "$argument" .cir)
+            [[ -f examples/$example.cir ]] || refuse "there is no example $argument"
+            ;;
+    esac
+done
+example=${example:-rc-filter}
+if [[ -z ${DISPLAY:-} && -z ${WAYLAND_DISPLAY:-} ]]; then
+    tour=true
+fi
+if ((${#colours[@]} > 0)) && ! $tour; then
+    refuse "--dark goes with --tour; on a display the desktop's colours are taken"
+fi
+
+# ccache fails a compile when it cannot write its store, as in a container without a home.
+if [[ -z ${CCACHE_DIR:-} && ! -w ${HOME:-/nonexistent} ]]; then
+    export CCACHE_DIR=$PWD/build/ccache
+fi
+
+scripts/setup
+cmake --preset dev -DQUORVAWIZ_WERROR=ON
+cmake --build --preset dev --target quorvahost quorvahost-tour
+
+folder=$(mktemp -d "${TMPDIR:-/tmp}/quorvawiz-run.XXXXXX")
+cp "examples/$example.cir" "$folder/"
+echo
+
+if ! $tour; then
+    echo "./run.sh: opening $folder/$example.cir, a copy of the example"
+    exec build/dev/bin/quorvahost "$folder/$example.cir"
+fi
+
+export QT_QPA_PLATFORM=offscreen
+export XDG_RUNTIME_DIR=$folder/runtime
+mkdir --mode=700 "$XDG_RUNTIME_DIR"
+# The platform without a screen says of each window what it can't do; none of that is news.
+build/dev/bin/quorvahost-tour "$folder/$example.cir" "$folder/pictures" \
+    ${colours[@]+"${colours[@]}"} 2> >(grep --invert-match "^This plugin does not support" >&2)
+rmdir "$XDG_RUNTIME_DIR" 2>/dev/null || true
+
+echo "./run.sh: what the tour has changed in the netlist"
+echo
+# diff exits with 1 when there is a difference, which there has to be.
+if diff --unified --label "before" "examples/$example.cir" --label "after" \
+    "$folder/$example.cir"; then
+    echo "./run.sh: the tour has inserted nothing" >&2
+    exit 1
+fi
+echo
+echo "./run.sh: pictures of the windows, in $folder/pictures"
+ls "$folder/pictures"
