@@ -32,28 +32,28 @@ constexpr unsigned kRangeLayer = 1;
 constexpr unsigned kListLayer = 2;
 constexpr unsigned kPoiLayer = 4;
 
-constexpr TGrid kFrom{14, 24, 42, 74, 0, 0, 81, 0};
-constexpr TGrid kTo{133, 16, 153, 74, 0, 0, 81, 0};
+constexpr TGrid kFrom{14, 24, 42, 74, 0, 0, 86, 0};
+constexpr TGrid kTo{133, 16, 153, 74, 0, 0, 86, 0};
 constexpr TGrid kCount{7, 126, 137, 60, 0, 0, 127, 0};
 constexpr TControlRow kTypeRow = Row(kSamplingType, "sampling-type", EControl::DropDownList, "",
                                      {107, 7, 90, kEditHeight}, kNoFlags, 0, kSamplingTypes);
 constexpr auto kRows = JoinRows(
     LabelFor(kTypeRow, "&Frequency sampling type:", {7, 9, 96, kLabelHeight}), kTypeRow,
     Row(kSamplesGroup, "samples-group", EControl::Group, "Fr&equencies per linear",
-        {7, 28, 235, 34}, kNoFlags, kRangeLayer),
-    Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "", {42, 41, 74, kEditHeight},
+        {7, 28, 235, 36}, kNoFlags, kRangeLayer),
+    Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "", {42, 44, 74, kEditHeight},
         kUnlabelled, kRangeLayer),
     LabelAbove(Row(kListOfValues, "list-of-values", EControl::MultilineEdit, "", {7, 41, 235, 78},
                    kWantReturn, kListLayer | kPoiLayer),
                "&List frequency values, separated by spaces:"),
-    Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 68, 235, 34}, kNoFlags,
+    Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 70, 235, 36}, kNoFlags,
         kRangeLayer),
     EditLine(kFrom, 0, kStartFrequency, "start-frequency", "F&rom:", kNoFlags, kRangeLayer),
     EditLine(kTo, 0, kFinalFrequency, "final-frequency", "&To:", kNoFlags, kRangeLayer),
     EditLine(kCount, 0, kCountOfListedValues, "count-of-listed-values",
              "&Number of frequency values listed:", kNoFlags, kPoiLayer),
-    Row(kSweepGroup, "sweep-group", EControl::Group, "Sweep", {7, 152, 235, 36}),
-    SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2", 14, 166));
+    Row(kSweepGroup, "sweep-group", EControl::Group, "Sweep", {7, 152, 235, 37}),
+    SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2", 14, 168));
 constexpr DialogTemplate kTemplate{110, "AC", kPageSize, kRows};
 
 Remembered<CAnalysisAC1Page::TFields> sRemembered;

@@ -22,19 +22,19 @@ enum EControlId {
 constexpr TControlRow SamplingType(int nId, const char* pLabel, unsigned nFlags = kNoFlags)
 {
     return Row(nId, "sampling-type", EControl::RadioButton, pLabel,
-               {14, 7 + (nId - kDecade) * 14, 100, 12}, nFlags);
+               {7, 7 + (nId - kDecade) * 14, 100, 12}, nFlags);
 }
 
-constexpr TGrid kFrom{14, 24, 42, 74, 0, 0, 108, 0};
-constexpr TGrid kTo{133, 16, 153, 74, 0, 0, 108, 0};
+constexpr TGrid kFrom{14, 24, 42, 74, 0, 0, 113, 0};
+constexpr TGrid kTo{133, 16, 153, 74, 0, 0, 113, 0};
 constexpr auto kRows = JoinRows(
     SamplingType(kDecade, "&DEC  (by decades)", kFirstOfGroup),
     SamplingType(kOctave, "&OCT  (by octaves)"), SamplingType(kLinear, "&LIN  (linear sweep)"),
     Row(kSamplesGroup, "samples-group", EControl::Group, "Frequencies per decade",
-        {7, 55, 235, 34}),
-    Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "", {42, 68, 74, kEditHeight},
+        {7, 55, 235, 36}),
+    Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "", {42, 71, 74, kEditHeight},
         kUnlabelled),
-    Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 95, 235, 34}),
+    Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 97, 235, 36}),
     EditLine(kFrom, 0, kStartFrequency, "start-frequency", "F&rom:"),
     EditLine(kTo, 0, kFinalFrequency, "final-frequency", "&To:"));
 constexpr DialogTemplate kTemplate{119, "AC analysis", kPageSize, kRows};

@@ -19,7 +19,7 @@ constexpr int IdOf(int nDirection, EPart part)
 constexpr auto Field(int nDirection, EPart part, const char* pKey, const char* pLabel)
 {
     return LabelAbove(Row(IdOf(nDirection, part), pKey, EControl::Edit, "",
-                          {14 + (part - kSourceName) * 57, 31 + nDirection * 54, 50, kEditHeight}),
+                          {14 + (part - kSourceName) * 57, 33 + nDirection * 54, 50, kEditHeight}),
                       pLabel);
 }
 
@@ -28,7 +28,7 @@ constexpr auto Direction(int nDirection, const char* pTitle, const char* pGroupK
                          const char* pIncrementKey)
 {
     return JoinRows(Row(IdOf(nDirection, kGroup), pGroupKey, EControl::Group, pTitle,
-                        {7, 7 + nDirection * 54, 235, 44}),
+                        {7, 7 + nDirection * 54, 235, 46}),
                     Field(nDirection, kSourceName, pSourceKey, "Source name:"),
                     Field(nDirection, kStart, pStartKey, "Start:"),
                     Field(nDirection, kEnd, pEndKey, "End:"),

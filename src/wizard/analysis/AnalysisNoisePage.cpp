@@ -18,15 +18,15 @@ enum EControlId {
     kInputSource,
 };
 
-constexpr TGrid kGrid{21, 112, 137, 91, 0, 0, 36, 19};
-constexpr TGrid kInputGrid{21, 112, 137, 91, 0, 0, 97, 0};
+constexpr TGrid kGrid{21, 112, 137, 91, 0, 0, 38, 19};
+constexpr TGrid kInputGrid{21, 112, 137, 91, 0, 0, 101, 0};
 constexpr auto kRows = JoinRows(
-    Row(kFrame, "frame", EControl::Group, "Noise analysis", {7, 7, 235, 120}),
+    Row(kFrame, "frame", EControl::Group, "Noise analysis", {7, 7, 235, 122}),
     Row(kOutputGroup, "output-group", EControl::Group, "Circuit output terminals",
-        {14, 22, 221, 54}),
+        {14, 22, 221, 56}),
     EditLine(kGrid, 0, kOutputNode, "output-node", "&Output node:"),
     EditLine(kGrid, 1, kReferenceNode, "reference-node", "&Reference node (GND):"),
-    Row(kInputGroup, "input-group", EControl::Group, "Circuit input", {14, 83, 221, 36}),
+    Row(kInputGroup, "input-group", EControl::Group, "Circuit input", {14, 85, 221, 37}),
     EditLine(kInputGrid, 0, kInputSource, "input-source", "&Voltage or current source name:"));
 constexpr DialogTemplate kTemplate{114, "Noise", kPageSize, kRows};
 

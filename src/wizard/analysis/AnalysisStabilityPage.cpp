@@ -9,7 +9,7 @@ namespace
 {
 enum EControlId { kFrame = 1001, kSourceOrProbe };
 
-constexpr TGrid kGrid{14, 112, 130, 105, 0, 0, 22, 0};
+constexpr TGrid kGrid{14, 112, 130, 105, 0, 0, 24, 0};
 constexpr auto kRows = JoinRows(
     Row(kFrame, "frame", EControl::Group, "Loop stability analysis", {7, 7, 235, 38}),
     EditLine(kGrid, 0, kSourceOrProbe, "source-or-probe", "&Voltage source or Probe name:"));

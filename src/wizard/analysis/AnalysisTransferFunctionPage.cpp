@@ -23,19 +23,19 @@ enum EControlId {
 
 constexpr TControlRow Hint(int nId, const char* pKey, const char* pText, int nX, int nLine)
 {
-    return Row(nId, pKey, EControl::Static, pText, {nX, 54 + nLine * 10, 80, kLabelHeight});
+    return Row(nId, pKey, EControl::Static, pText, {nX, 56 + nLine * 10, 80, kLabelHeight});
 }
 
-constexpr TGrid kOutputGrid{21, 104, 128, 100, 0, 0, 36, 0};
-constexpr TGrid kInputGrid{21, 104, 128, 100, 0, 0, 109, 0};
+constexpr TGrid kOutputGrid{21, 104, 128, 100, 0, 0, 38, 0};
+constexpr TGrid kInputGrid{21, 104, 128, 100, 0, 0, 114, 0};
 constexpr auto kRows = JoinRows(
-    Row(kFrame, "frame", EControl::Group, "Small-signal DC transfer function", {7, 7, 235, 132}),
-    Row(kOutputGroup, "output-group", EControl::Group, "Circuit output", {14, 22, 221, 66}),
+    Row(kFrame, "frame", EControl::Group, "Small-signal DC transfer function", {7, 7, 235, 135}),
+    Row(kOutputGroup, "output-group", EControl::Group, "Circuit output", {14, 22, 221, 69}),
     EditLine(kOutputGrid, 0, kOutput, "output", "&Output voltage or current:"),
-    Row(kHintPrefix, "hint", EControl::Static, "e.g.:", {106, 54, 20, kLabelHeight}),
+    Row(kHintPrefix, "hint", EControl::Static, "e.g.:", {106, 56, 20, kLabelHeight}),
     Hint(kHint1, "hint-1", "v(node1,node2)", 128, 0), Hint(kHint2, "hint-2", "i1(m1)", 128, 1),
     Hint(kHint3, "hint-3", "i(m1,node1)", 128, 2),
-    Row(kInputGroup, "input-group", EControl::Group, "Circuit input", {14, 95, 221, 36}),
+    Row(kInputGroup, "input-group", EControl::Group, "Circuit input", {14, 98, 221, 37}),
     EditLine(kInputGrid, 0, kInputSource, "input-source", "&Voltage or current source:"));
 constexpr DialogTemplate kTemplate{116, "Transfer function", kPageSize, kRows};
 

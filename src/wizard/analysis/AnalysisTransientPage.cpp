@@ -21,12 +21,12 @@ enum EControlId {
 constexpr TControlRow Mode(int nId, const char* pLabel, unsigned nFlags = kNoFlags)
 {
     const int nLine = nId - CAnalysisTransientPage::kStandard;
-    return Row(nId, "mode", EControl::RadioButton, pLabel, {14, 19 + nLine * 14, 221, 12}, nFlags);
+    return Row(nId, "mode", EControl::RadioButton, pLabel, {14, 21 + nLine * 14, 221, 12}, nFlags);
 }
 
-constexpr TGrid kGrid{7, 84, 96, 90, 191, 20, 90, 19};
+constexpr TGrid kGrid{7, 84, 96, 90, 191, 20, 91, 19};
 constexpr auto kRows = JoinRows(
-    Row(kModes, "mode-group", EControl::Group, "Modes", {7, 7, 235, 75}),
+    Row(kModes, "mode-group", EControl::Group, "Modes", {7, 7, 235, 76}),
     Mode(CAnalysisTransientPage::kStandard, "S&tandard (from DC op. point)", kFirstOfGroup),
     Mode(CAnalysisTransientPage::kRampup,
          "&Rampup simulation (pre-ramp DC sources to final values)"),
@@ -37,8 +37,8 @@ constexpr auto kRows = JoinRows(
                      "Sim&ulation length:", "sec"),
     EditLineWithUnit(kGrid, 2, kOutputStartTime, "output-start-time",
                      "&Output start time (0):", "sec"),
-    Row(kSweepGroup, "sweep-group", EControl::Group, "Sweep", {7, 152, 235, 36}),
-    SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2", 14, 166));
+    Row(kSweepGroup, "sweep-group", EControl::Group, "Sweep", {7, 152, 235, 37}),
+    SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2", 14, 168));
 // The texts of two modes are given with the same letter.
 constexpr DialogTemplate kTemplate{117, "Transient", kPageSize, kRows, "r"};
 
