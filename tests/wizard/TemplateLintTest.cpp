@@ -95,6 +95,14 @@ TEST(WizardMnemonics, NoTwoControlsVisibleTogetherShareOneButThoseThatTheTemplat
     gRunWizard(std::move(script));
 }
 
+TEST(WizardMnemonics, NeitherDoThoseOfAPageWithoutANode)
+{
+    for (const CRuntimeClass* pClass : gWizardPagesWithoutNode())
+        gRunSinglePage(pClass->GetName(), CScript().Then([](CDialog& rDialog) {
+            EXPECT_EQ(gSharedMnemonics(rDialog), "") << gClassName(gCurrentPane(rDialog));
+        }));
+}
+
 TEST(WizardMnemonics, ASharedOneIsFoundUnlessItIsNamed)
 {
     const auto rows = JoinRows(Row(1, "a", EControl::PushButton, "&Xa", {0, 0, 20, 14}),
