@@ -1,8 +1,11 @@
 #include "support/WizardRun.h"
 
 #include "exports/Quorvawiz.h"
+#include "wizard/frame/SinglePageDlg.h"
 
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 CScript& CScript::Do(std::vector<TStep> steps)
 {
@@ -34,6 +37,13 @@ CScript& CScript::Then(TAction action)
     return *this;
 }
 
+CScript& CScript::Look(std::vector<TAction> looks)
+{
+    for (TAction& rLook : looks)
+        mActions.push_back(std::move(rLook));
+    return *this;
+}
+
 void CScript::Run(HeadlessDesktop& rDesktop, const std::function<void()>& rRun)
 {
     std::size_t nNext = 0;
@@ -48,21 +58,43 @@ void CScript::Run(HeadlessDesktop& rDesktop, const std::function<void()>& rRun)
     EXPECT_EQ(nNext, mActions.size()) << "the run ended before the script did";
 }
 
-TWizardOutcome gRunWizard(CScript script)
+namespace
+{
+/// Runs a script on whatever `run` opens for a target.
+TWizardOutcome Run(CScript& rScript,
+                   const std::function<void(quorvawiz::QuorvaCommandWizardTarget&)>& rRun)
 {
     HeadlessDesktop desktop;
     CRecordingTarget target;
-    script.Run(desktop, [&target] { quorvawiz::gInvokeSpiceCommandWizard(nullptr, &target); });
+    rScript.Run(desktop, [&] { rRun(target); });
 
     TWizardOutcome outcome{std::move(target.mCommands), {}};
     for (const TShownBox& rBox : desktop.TakeBoxes())
         outcome.messages.emplace_back(rBox.box.sText.GetString());
     return outcome;
 }
+} // namespace
+
+TWizardOutcome gRunWizard(CScript script)
+{
+    return Run(script, [](quorvawiz::QuorvaCommandWizardTarget& rTarget) {
+        quorvawiz::gInvokeSpiceCommandWizard(nullptr, &rTarget);
+    });
+}
 
 TWizardOutcome gRunWizard(std::vector<TStep> steps)
 {
     return gRunWizard(CScript().Do(std::move(steps)));
+}
+
+TWizardOutcome gRunSinglePage(std::string_view sClass, CScript script)
+{
+    const CRuntimeClass* const pClass = CRuntimeClass::FromName(sClass);
+    if (!pClass)
+        throw std::invalid_argument("no such class: " + std::string(sClass));
+    return Run(script, [pClass](quorvawiz::QuorvaCommandWizardTarget& rTarget) {
+        CSinglePageDlg(nullptr, &rTarget, *pClass).DoModal();
+    });
 }
 
 CTreeDlg& gOpenWizard()

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// A host's target that keeps what it gets.
@@ -30,6 +31,8 @@ public:
     CScript& Refused(TStep step, EStepEnd end, EUserResult refusal = EUserResult::Done);
     /// Anything else: a look at the dialog, or a call of it.
     CScript& Then(TAction action);
+    /// Several looks, one after the other.
+    CScript& Look(std::vector<TAction> looks);
 
     /// Runs the actions while `run` runs modal dialogs on a headless desktop. Fails the test when
     /// actions are left over.
@@ -48,6 +51,10 @@ struct TWizardOutcome {
 /// Runs the wizard from the tree's start to its end with these actions.
 TWizardOutcome gRunWizard(CScript script);
 TWizardOutcome gRunWizard(std::vector<TStep> steps);
+
+/// Runs the page of this class, which no node of the wizard's tree leads to, in a dialog of its
+/// own.
+TWizardOutcome gRunSinglePage(std::string_view sClass, CScript script);
 
 /// The wizard among the open dialogs: the outermost one.
 CTreeDlg& gOpenWizard();

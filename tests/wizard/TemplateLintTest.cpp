@@ -7,6 +7,7 @@
 #include "support/SharedMnemonics.h"
 #include "support/Steps.h"
 #include "support/WizardRun.h"
+#include "wizard/analysis/StepSweepPage.h"
 #include "wizard/frame/CommandPage.h"
 #include "wizard/frame/TreeDlg.h"
 #include "wizard/frame/WizardPages.h"
@@ -17,8 +18,27 @@
 
 namespace
 {
-/// Every template of the wizard: the frame's, and those of all page classes that are built.
-std::vector<const DialogTemplate*> AllTemplates()
+using TTemplates = std::vector<const DialogTemplate*>;
+
+/// The templates of all pages that are built.
+TTemplates PageTemplates()
+{
+    std::vector<const CRuntimeClass*> classes(gWizardPagesWithoutNode().begin(),
+                                              gWizardPagesWithoutNode().end());
+    for (const TTreeRow& rRow : gWizardTree())
+        if (rRow.pClass)
+            classes.push_back(rRow.pClass);
+    TTemplates templates;
+    for (const CRuntimeClass* pClass : classes) {
+        const auto pPage = pClass->CreateObject();
+        templates.push_back(&dynamic_cast<CDialog&>(*pPage).GetTemplate());
+    }
+    return templates;
+}
+
+/// Every template of the wizard: those of its pages, the frame's, and those of the dialogs that
+/// pages open.
+TTemplates AllTemplates()
 {
     class CFrame : public CTreeDlg
     {
@@ -28,17 +48,9 @@ std::vector<const DialogTemplate*> AllTemplates()
     protected:
         void BuildTree() override {}
     };
-    std::vector<const DialogTemplate*> templates{&CFrame().GetTemplate()};
-
-    std::vector<const CRuntimeClass*> classes(gWizardPagesWithoutNode().begin(),
-                                              gWizardPagesWithoutNode().end());
-    for (const TTreeRow& rRow : gWizardTree())
-        if (rRow.pClass)
-            classes.push_back(rRow.pClass);
-    for (const CRuntimeClass* pClass : classes) {
-        const auto pPage = pClass->CreateObject();
-        templates.push_back(&dynamic_cast<CDialog&>(*pPage).GetTemplate());
-    }
+    TTemplates templates = PageTemplates();
+    templates.push_back(&CFrame().GetTemplate());
+    templates.push_back(&CStepSweepPage().GetTemplate());
     return templates;
 }
 
@@ -58,11 +70,8 @@ TEST(TemplateLint, TheNumbersOfTheTemplatesAreUnique)
 
 TEST(TemplateLint, EveryPageFillsThePane)
 {
-    for (const DialogTemplate* pTemplate : AllTemplates()) {
-        if (pTemplate->nId != 100) {
-            EXPECT_EQ(pTemplate->size, kPageSize) << pTemplate->pCaption;
-        }
-    }
+    for (const DialogTemplate* pTemplate : PageTemplates())
+        EXPECT_EQ(pTemplate->size, kPageSize) << pTemplate->pCaption;
 }
 
 // --- mnemonics, on live windows: the page and the frame together
@@ -84,6 +93,14 @@ TEST(WizardMnemonics, NoTwoControlsVisibleTogetherShareOneButThoseThatTheTemplat
             EXPECT_EQ(gSharedMnemonics(rDialog), "") << gClassName(gCurrentPane(rDialog));
         });
     gRunWizard(std::move(script));
+}
+
+TEST(WizardMnemonics, NeitherDoThoseOfAPageWithoutANode)
+{
+    for (const CRuntimeClass* pClass : gWizardPagesWithoutNode())
+        gRunSinglePage(pClass->GetName(), CScript().Then([](CDialog& rDialog) {
+            EXPECT_EQ(gSharedMnemonics(rDialog), "") << gClassName(gCurrentPane(rDialog));
+        }));
 }
 
 TEST(WizardMnemonics, ASharedOneIsFoundUnlessItIsNamed)

@@ -42,3 +42,9 @@ bool gReportMessage(CWnd& rOwner, CString sMessage)
     rOwner.MessageBox(sMessage, "SPICE", MB_OK | MB_ICONINFORMATION);
     return false;
 }
+
+bool gReportFailure(CWnd& rPage, CString& rsMessage, const char* pLiteral)
+{
+    rsMessage = gShownText(pLiteral);
+    return gReportMessage(rPage, rsMessage);
+}

@@ -19,3 +19,7 @@ CString gShownText(const char* pLiteral);
 /// Result: false, so that a check can return it.
 // By value: the page's message string may change while the box is open.
 bool gReportMessage(CWnd& rOwner, CString sMessage); // NOLINT(performance-unnecessary-value-param)
+
+/// The same with a literal as `gShownText` takes it. `rsMessage`: the page's message string, takes
+/// the text first. Result: false.
+bool gReportFailure(CWnd& rPage, CString& rsMessage, const char* pLiteral);

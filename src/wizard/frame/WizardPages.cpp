@@ -28,15 +28,15 @@ TTreeRow NotBuilt(int nOrder, const char* pLabel, std::string_view sClass)
 // clang-format off
 const TTreeRow kTree[] = {
     Category<class CAnalysisPage>("__$$Translatable$$_Analysis"),
-    NotBuilt(0, "__$$Translatable$$_AC", "CAnalysisAC1Page"),
-    NotBuilt(1, "__$$Translatable$$_DC operating point", "CAnalysisDCOpPage"),
-    NotBuilt(2, "__$$Translatable$$_DC transfer sweep", "CAnalysisDCTransferSweepPage"),
-    NotBuilt(3, "__$$Translatable$$_Fourier", "CAnalysisFourierPage"),
-    NotBuilt(4, "__$$Translatable$$_Noise", "CAnalysisNoisePage"),
-    NotBuilt(5, "__$$Translatable$$_Stability", "CAnalysisStabilityPage"),
-    NotBuilt(7, "__$$Translatable$$_Transient", "CAnalysisTransientPage"),
-    NotBuilt(6, "__$$Translatable$$_Transfer function", "CAnalysisTransferFunctionPage"),
-    NotBuilt(8, "__$$Translatable$$_Parametric sweep", "CAnalysisParametricSweepPage"),
+    Page<class CAnalysisAC1Page>(0, "__$$Translatable$$_AC"),
+    Page<class CAnalysisDCOpPage>(1, "__$$Translatable$$_DC operating point"),
+    Page<class CAnalysisDCTransferSweepPage>(2, "__$$Translatable$$_DC transfer sweep"),
+    Page<class CAnalysisFourierPage>(3, "__$$Translatable$$_Fourier"),
+    Page<class CAnalysisNoisePage>(4, "__$$Translatable$$_Noise"),
+    Page<class CAnalysisStabilityPage>(5, "__$$Translatable$$_Stability"),
+    Page<class CAnalysisTransientPage>(7, "__$$Translatable$$_Transient"),
+    Page<class CAnalysisTransferFunctionPage>(6, "__$$Translatable$$_Transfer function"),
+    Page<class CAnalysisParametricSweepPage>(8, "__$$Translatable$$_Parametric sweep"),
 
     Category<class CCurrentSourcePage>("__$$Translatable$$_Current source"),
     NotBuilt(0, "__$$Translatable$$_Bit", "CCurrentSourceBitPage"),
@@ -92,6 +92,10 @@ const TTreeRow kTree[] = {
 };
 // clang-format on
 
+// Evaluated at load like the tree, so that the classes are registered.
+const CRuntimeClass* const kWithoutNode[] = {&gRuntimeClass<class CAnalysisACPage>(),
+                                             &gRuntimeClass<class CAnalysisDCSweepPage>()};
+
 std::span<const TTreeRow> gWizardTree()
 {
     return kTree;
@@ -99,5 +103,5 @@ std::span<const TTreeRow> gWizardTree()
 
 std::span<const CRuntimeClass* const> gWizardPagesWithoutNode()
 {
-    return {};
+    return kWithoutNode;
 }

@@ -3,7 +3,6 @@
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
 #include "platform/ui/TemplateRows.h"
-#include "platform/ui/Translate.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
@@ -47,10 +46,8 @@ bool CSettingsTemperaturePage::BuildCommand(CString& rsCommand)
 {
     UpdateData(true);
     gTrim(mFields.msTemperatures);
-    if (mFields.msTemperatures.IsEmpty()) {
-        msMessage = xlang::gTranslate("__$$Translatable$$_Missing temperature value.");
-        return gReportMessage(*this, msMessage);
-    }
+    if (mFields.msTemperatures.IsEmpty())
+        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing temperature value.");
     rsCommand = ".temp " + gJoinLines(mFields.msTemperatures);
     sRemembered.Set(mFields);
     return true;

@@ -1,6 +1,7 @@
 #include "wizard/frame/PageText.h"
 
 #include "platform/headless/HeadlessDesktop.h"
+#include "support/TranslationScope.h"
 #include "wizard/frame/TreeDlg.h"
 
 #include <gtest/gtest.h>
@@ -99,5 +100,23 @@ TEST(PageText, AMessageIsABoxOfThePageWithTheCaptionSpiceAndAnInformationIcon)
     EXPECT_EQ(boxes[0].box.sText, "Missing temperature value.");
     EXPECT_EQ(boxes[0].box.sCaption, CString("SPICE"));
     EXPECT_EQ(boxes[0].box.nFlags, 64U);
+}
+
+TEST(PageText, AFailureIsAMessageThatThePageKeepsTranslatedIfItsLiteralSaysSo)
+{
+    const CBracketTranslation translation;
+    HeadlessDesktop desktop;
+    CWnd page;
+    CString sMessage = "the last one";
+    EXPECT_FALSE(gReportFailure(page, sMessage, "__$$Translatable$$_Missing a."));
+    EXPECT_EQ(sMessage, "[Missing a.]");
+    EXPECT_FALSE(gReportFailure(page, sMessage, "Missing b."));
+    EXPECT_EQ(sMessage, "Missing b.");
+
+    const auto boxes = desktop.TakeBoxes();
+    ASSERT_EQ(boxes.size(), 2U);
+    EXPECT_EQ(boxes[0].box.pOwner, &page);
+    EXPECT_EQ(boxes[0].box.sText, "[Missing a.]");
+    EXPECT_EQ(boxes[1].box.sText, "Missing b.");
 }
 } // namespace

@@ -1,0 +1,117 @@
+#include "wizard/analysis/AnalysisACPage.h"
+
+#include "platform/ui/DataExchange.h"
+#include "platform/ui/RuntimeClassDefinition.h"
+#include "platform/ui/TemplateRows.h"
+#include "platform/ui/Translate.h"
+#include "wizard/frame/PageText.h"
+
+namespace
+{
+enum EControlId {
+    kDecade = 1001,
+    kOctave,
+    kLinear,
+    kSamplesGroup,
+    kNumberOfSamples,
+    kRangeGroup,
+    kStartFrequency,
+    kFinalFrequency,
+};
+
+constexpr TControlRow SamplingType(int nId, const char* pLabel, unsigned nFlags = kNoFlags)
+{
+    return Row(nId, "sampling-type", EControl::RadioButton, pLabel,
+               {7, 7 + (nId - kDecade) * 14, 100, 12}, nFlags);
+}
+
+constexpr TGrid kFrom{14, 24, 42, 74, 0, 0, 113, 0};
+constexpr TGrid kTo{133, 16, 153, 74, 0, 0, 113, 0};
+constexpr auto kRows = JoinRows(
+    SamplingType(kDecade, "&DEC  (by decades)", kFirstOfGroup),
+    SamplingType(kOctave, "&OCT  (by octaves)"), SamplingType(kLinear, "&LIN  (linear sweep)"),
+    Row(kSamplesGroup, "samples-group", EControl::Group, "Frequencies per decade",
+        {7, 55, 235, 36}),
+    Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "", {42, 71, 74, kEditHeight},
+        kUnlabelled),
+    Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 97, 235, 36}),
+    EditLine(kFrom, 0, kStartFrequency, "start-frequency", "F&rom:"),
+    EditLine(kTo, 0, kFinalFrequency, "final-frequency", "&To:"));
+constexpr DialogTemplate kTemplate{119, "AC analysis", kPageSize, kRows};
+
+const char* SamplesLabel(int nSamplingType)
+{
+    switch (nSamplingType) {
+    case kOctave:
+        return "__$$Translatable$$_Frequencies per octave";
+    case kLinear:
+        return "__$$Translatable$$_Number of frequencies";
+    default:
+        return "__$$Translatable$$_Frequencies per decade";
+    }
+}
+
+const char* Keyword(int nSamplingType)
+{
+    switch (nSamplingType) {
+    case kOctave:
+        return "OCT ";
+    case kLinear:
+        return "LIN ";
+    default:
+        return "DEC ";
+    }
+}
+} // namespace
+
+CAnalysisACPage::CAnalysisACPage() : CCommandPage(kTemplate), mnSamplingType(kDecade) {}
+
+TMessageMap CAnalysisACPage::GetMessageMap() const
+{
+    static constexpr TMessageMapEntry kHandlers[] = {
+        On<&CAnalysisACPage::OnSamplingType>(ENotify::Clicked, kDecade),
+        On<&CAnalysisACPage::OnSamplingType>(ENotify::Clicked, kOctave),
+        On<&CAnalysisACPage::OnSamplingType>(ENotify::Clicked, kLinear),
+    };
+    return kHandlers;
+}
+
+void CAnalysisACPage::DoDataExchange(CDataExchange* pDX)
+{
+    CCommandPage::DoDataExchange(pDX);
+    DDX_Text(pDX, kNumberOfSamples, msNumberOfSamples);
+    DDX_Text(pDX, kStartFrequency, msStartFrequency);
+    DDX_Text(pDX, kFinalFrequency, msFinalFrequency);
+}
+
+bool CAnalysisACPage::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    CheckRadioButton(kDecade, kLinear, mnSamplingType);
+    return true;
+}
+
+void CAnalysisACPage::OnSamplingType(int nId)
+{
+    mnSamplingType = nId;
+    GetDlgItem(kSamplesGroup)->SetWindowText(xlang::gTranslate(SamplesLabel(nId)));
+}
+
+bool CAnalysisACPage::BuildCommand(CString& rsCommand)
+{
+    UpdateData(true);
+    for (CString* pField : {&msNumberOfSamples, &msStartFrequency, &msFinalFrequency})
+        gTrim(*pField);
+    if (msNumberOfSamples.IsEmpty())
+        return gReportFailure(*this, msMessage,
+                              "__$$Translatable$$_Missing number of frequency samples.");
+    if (msStartFrequency.IsEmpty())
+        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing starting frequency.");
+    if (msFinalFrequency.IsEmpty())
+        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing final frequency.");
+    rsCommand = CString(".ac ") + Keyword(mnSamplingType) + msNumberOfSamples + " " +
+                msStartFrequency + " " + msFinalFrequency;
+    return true;
+}
+
+template const CRuntimeClass& gRuntimeClass<CAnalysisACPage>();

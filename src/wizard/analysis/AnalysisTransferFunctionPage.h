@@ -1,0 +1,26 @@
+#pragma once
+
+#include "wizard/frame/CommandPage.h"
+
+/// Builds ".tf ", an output of the circuit and its input source.
+class CAnalysisTransferFunctionPage : public CCommandPage
+{
+public:
+    CAnalysisTransferFunctionPage();
+
+    bool OnInitDialog() override;
+    bool BuildCommand(CString& rsCommand) override;
+
+    struct TFields {
+        CString msOutput;
+        CString msInputSource;
+    };
+
+protected:
+    TMessageMap GetMessageMap() const override;
+    void DoDataExchange(CDataExchange* pDX) override;
+
+private:
+    CString msMessage;
+    TFields mFields;
+};
