@@ -115,7 +115,7 @@ TEST(Libraries, ExceptionsAndTypesPassFromOneToTheOther)
     QtDesktop desktop(folder.Path("profile.ini"));
     CWizardUser user;
     user.Meet([&](QWidget& rWizard) {
-        CDialog* const pDialog = desktop.Thread().InnermostDialog();
+        CDialog* const pDialog = gInnermostDialog();
         ASSERT_NE(pDialog, nullptr);
         // The wizard's class is in one library, the classes of its controls in the other.
         EXPECT_EQ(gClassName(*pDialog), "CQuorvaCommandDlg");
