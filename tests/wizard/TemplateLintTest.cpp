@@ -112,7 +112,9 @@ TEST(WizardMnemonics, ASharedOneIsFoundUnlessItIsNamed)
         HeadlessDesktop desktop;
         CDialog dialog(sample);
         CScript()
-            .Then([&](CDialog& rDialog) { EXPECT_EQ(gSharedMnemonics(rDialog), pFound); })
+            .Then([pWanted = pFound](CDialog& rDialog) {
+                EXPECT_EQ(gSharedMnemonics(rDialog), pWanted);
+            })
             .Run(desktop, [&dialog] { dialog.DoModal(); });
     }
 }

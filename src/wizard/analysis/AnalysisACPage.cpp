@@ -8,11 +8,9 @@
 
 namespace
 {
+// The ids of the radio buttons stand before these.
 enum EControlId {
-    kDecade = 1001,
-    kOctave,
-    kLinear,
-    kSamplesGroup,
+    kSamplesGroup = 1011,
     kNumberOfSamples,
     kRangeGroup,
     kStartFrequency,
@@ -22,29 +20,30 @@ enum EControlId {
 constexpr TControlRow SamplingType(int nId, const char* pLabel, unsigned nFlags = kNoFlags)
 {
     return Row(nId, "sampling-type", EControl::RadioButton, pLabel,
-               {7, 7 + (nId - kDecade) * 14, 100, 12}, nFlags);
+               {7, 7 + (nId - CAnalysisACPage::kDecade) * 14, 100, 12}, nFlags);
 }
 
 constexpr TGrid kFrom{14, 24, 42, 74, 0, 0, 113, 0};
 constexpr TGrid kTo{133, 16, 153, 74, 0, 0, 113, 0};
-constexpr auto kRows = JoinRows(
-    SamplingType(kDecade, "&DEC  (by decades)", kFirstOfGroup),
-    SamplingType(kOctave, "&OCT  (by octaves)"), SamplingType(kLinear, "&LIN  (linear sweep)"),
-    Row(kSamplesGroup, "samples-group", EControl::Group, "Frequencies per decade",
-        {7, 55, 235, 36}),
-    Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "", {42, 71, 74, kEditHeight},
-        kUnlabelled),
-    Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 97, 235, 36}),
-    EditLine(kFrom, 0, kStartFrequency, "start-frequency", "F&rom:"),
-    EditLine(kTo, 0, kFinalFrequency, "final-frequency", "&To:"));
+constexpr auto kRows =
+    JoinRows(SamplingType(CAnalysisACPage::kDecade, "&DEC  (by decades)", kFirstOfGroup),
+             SamplingType(CAnalysisACPage::kOctave, "&OCT  (by octaves)"),
+             SamplingType(CAnalysisACPage::kLinear, "&LIN  (linear sweep)"),
+             Row(kSamplesGroup, "samples-group", EControl::Group, "Frequencies per decade",
+                 {7, 55, 235, 36}),
+             Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "",
+                 {42, 71, 74, kEditHeight}, kUnlabelled),
+             Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 97, 235, 36}),
+             EditLine(kFrom, 0, kStartFrequency, "start-frequency", "F&rom:"),
+             EditLine(kTo, 0, kFinalFrequency, "final-frequency", "&To:"));
 constexpr DialogTemplate kTemplate{119, "AC analysis", kPageSize, kRows};
 
 const char* SamplesLabel(int nSamplingType)
 {
     switch (nSamplingType) {
-    case kOctave:
+    case CAnalysisACPage::kOctave:
         return "__$$Translatable$$_Frequencies per octave";
-    case kLinear:
+    case CAnalysisACPage::kLinear:
         return "__$$Translatable$$_Number of frequencies";
     default:
         return "__$$Translatable$$_Frequencies per decade";
@@ -54,9 +53,9 @@ const char* SamplesLabel(int nSamplingType)
 const char* Keyword(int nSamplingType)
 {
     switch (nSamplingType) {
-    case kOctave:
+    case CAnalysisACPage::kOctave:
         return "OCT ";
-    case kLinear:
+    case CAnalysisACPage::kLinear:
         return "LIN ";
     default:
         return "DEC ";
@@ -64,7 +63,7 @@ const char* Keyword(int nSamplingType)
 }
 } // namespace
 
-CAnalysisACPage::CAnalysisACPage() : CCommandPage(kTemplate), mnSamplingType(kDecade) {}
+CAnalysisACPage::CAnalysisACPage() : CCommandPage(kTemplate) {}
 
 TMessageMap CAnalysisACPage::GetMessageMap() const
 {

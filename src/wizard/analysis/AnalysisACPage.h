@@ -12,6 +12,9 @@ public:
     bool OnInitDialog() override;
     bool BuildCommand(CString& rsCommand) override;
 
+    /// The ids of the sampling type's radio buttons.
+    enum ESamplingType { kDecade = 1001, kOctave, kLinear };
+
 protected:
     TMessageMap GetMessageMap() const override;
     void DoDataExchange(CDataExchange* pDX) override;
@@ -23,5 +26,5 @@ private:
     CString msNumberOfSamples;
     CString msStartFrequency;
     CString msFinalFrequency;
-    int mnSamplingType;
+    int mnSamplingType = kDecade;
 };
