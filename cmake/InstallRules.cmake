@@ -9,6 +9,8 @@ set(quorvawiz_package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/quorvawiz")
 install(TARGETS quorvawiz-core EXPORT quorvawizTargets)
 if(TARGET quorvawiz-cli)
     install(TARGETS quorvawiz-cli)
+    install(FILES "${PROJECT_SOURCE_DIR}/docs/cli.md" "${PROJECT_SOURCE_DIR}/docs/session.md"
+        DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 endif()
 
 

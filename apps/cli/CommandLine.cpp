@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 
 #include "cli/Failure.h"
+#include "cli/Quote.h"
 #include "cli/Suggest.h"
 #include "platform/base/Ascii.h"
 
@@ -9,7 +10,12 @@
 #include <CLI/Formatter.hpp>
 #include <quorvawiz/version.h>
 
+#include <algorithm>
+#include <charconv>
+#include <span>
 #include <string>
+#include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -24,6 +30,9 @@ constexpr const char* kRulesHere = "unix";
 #endif
 
 constexpr const char* kPageHelp = "Tree path in any letter case, or class name";
+
+constexpr const char* kCommonFooter =
+    "--code-page and --rules may be given, too; quorvawiz --help tells them.";
 
 constexpr const char* kComposeFooter =
     R"(Each ACTION is what a user does, in this order:
@@ -45,22 +54,55 @@ constexpr const char* kSessionFooter =
   {"op":"open","page":"Settings/Temperature"}
   {"op":"set","field":"temperature-list","text":"27"}
   {"op":"insert"}
-docs/session.md tells all requests.)";
+The document session.md tells all requests.)";
 
 void AddJsonFlag(CLI::App& rCommand, bool& rbJson)
 {
     rCommand.add_flag("--json", rbJson, "One line of JSON instead of text");
 }
 
+constexpr const char* kSeeHelp = "; --help tells what is possible";
+
 /// The parser's own messages in the form of ours.
 CUsageError AsUsageError(const CLI::Error& rError)
 {
-    std::string sText = rError.what();
+    std::string sText = gPrintable(rError.what());
     while (sText.ends_with('\n') || sText.ends_with('.'))
         sText.pop_back();
     if (!sText.empty() && !sText.starts_with("PAGE"))
         sText.front() = gToLowerAscii(sText.front());
-    return CUsageError(sText + "; --help tells what is possible");
+    return CUsageError(sText + kSeeHelp);
+}
+
+/// The parser takes "[a,b]" for a list and would read its parts as arguments of their own.
+void RefuseLists(std::span<const char* const> arguments)
+{
+    for (const std::string_view sArgument : arguments)
+        if (sArgument.size() > 1 && sArgument.starts_with('[') && sArgument.ends_with(']'))
+            throw CUsageError("the argument " + gQuoted(sArgument) + " can't stand in brackets");
+}
+
+/// What the parser left over.
+CUsageError Unexpected(const std::vector<std::string>& rArguments)
+{
+    std::string sText = rArguments.size() > 1 ? "the following arguments were not expected:"
+                                              : "the following argument was not expected:";
+    for (const std::string& rsArgument : rArguments)
+        sText += ' ' + gQuoted(rsArgument);
+    return CUsageError(sText + kSeeHelp);
+}
+
+unsigned ReadCodePage(const std::string& rsNumber)
+{
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    if (rsNumber.empty() || !std::ranges::all_of(rsNumber, isDigit))
+        throw CUsageError("--code-page takes a number, not " + gQuoted(rsNumber));
+    unsigned nCodePage = 0;
+    const auto [pEnd, error] =
+        std::from_chars(rsNumber.data(), rsNumber.data() + rsNumber.size(), nCodePage);
+    if (error != std::errc() || !gIsCodePageKnown(nCodePage))
+        throw CUsageError("there is no code page " + rsNumber);
+    return nCodePage;
 }
 
 /// The parser of the program's arguments with the options that they are read into.
@@ -72,12 +114,12 @@ public:
 
 private:
     CLI::App* AddCommand(const char* pName, const char* pDescription);
-    void ThrowIfUnknownCommand() const;
+    void ThrowLeftOver() const;
     TCommandLine Collect();
 
     CLI::App mApp{"Composes SPICE commands with the pages of the SPICE Command Wizard.",
                   "quorvawiz"};
-    unsigned mnCodePage = kCodePageUtf8;
+    std::string msCodePage = std::to_string(kCodePageUtf8);
     std::string msRules = kRulesHere;
     TPagesOptions mPages;
     TDescribeOptions mDescribe;
@@ -94,7 +136,7 @@ CParser::CParser()
     mApp.require_subcommand(1);
     mApp.set_version_flag("--version", std::string(kVersion), "Print the version and exit");
     mApp.set_help_flag("-h,--help", "Print this help and exit");
-    mApp.add_option("--code-page", mnCodePage, "Code page of the wizard's texts")
+    mApp.add_option("--code-page", msCodePage, "Code page of the wizard's texts")
         ->type_name("NUMBER")
         ->capture_default_str();
     mApp.add_option("--rules", msRules, "Path rules: plain or unix")
@@ -114,22 +156,24 @@ CParser::CParser()
         mpCompose->add_option("ACTION", mCompose.arguments, "What the user does, in this order")
             ->type_name("");
     AddJsonFlag(*mpCompose, mCompose.bJson);
-    mpCompose->footer(kComposeFooter);
+    mpCompose->footer(std::string(kComposeFooter) + "\n" + kCommonFooter);
 
     mpSession = AddCommand("session", "Drive the wizard by lines of JSON");
-    mpSession->footer(kSessionFooter);
+    mpSession->footer(std::string(kSessionFooter) + "\n" + kCommonFooter);
 }
 
 CLI::App* CParser::AddCommand(const char* pName, const char* pDescription)
 {
     CLI::App* const pCommand = mApp.add_subcommand(pName, pDescription);
     pCommand->fallthrough();
+    pCommand->footer(kCommonFooter);
     return pCommand;
 }
 
 std::variant<TCommandLine, TInformation> CParser::Read(int nArguments,
                                                        const char* const* ppArguments)
 {
+    RefuseLists(std::span(ppArguments, static_cast<std::size_t>(nArguments)));
     try {
         mApp.parse(nArguments, ppArguments);
         return Collect();
@@ -141,32 +185,35 @@ std::variant<TCommandLine, TInformation> CParser::Read(int nArguments,
     } catch (const CLI::CallForVersion&) {
         return TInformation{"quorvawiz " + std::string(kVersion) + '\n'};
     } catch (const CLI::RequiredError& rError) {
-        ThrowIfUnknownCommand();
+        ThrowLeftOver();
         throw AsUsageError(rError);
+    } catch (const CLI::ExtrasError&) {
+        throw Unexpected(mApp.remaining(true));
     } catch (const CLI::Error& rError) {
         throw AsUsageError(rError);
     }
 }
 
-/// The parser only says that a command is missing.
-void CParser::ThrowIfUnknownCommand() const
+/// Where a command is missing, the parser doesn't say what stands in its place.
+void CParser::ThrowLeftOver() const
 {
     static const std::vector<std::string> sCommands{"pages", "describe", "compose", "session"};
     const std::vector<std::string> rest = mApp.remaining();
-    if (!mApp.get_subcommands().empty() || rest.empty() || rest.front().starts_with('-'))
+    if (!mApp.get_subcommands().empty() || rest.empty())
         return;
+    if (rest.front().starts_with('-'))
+        throw Unexpected(rest);
     throw CUsageError("there is no command " + gQuoted(rest.front()) +
                       gDidYouMean(rest.front(), sCommands));
 }
 
 TCommandLine CParser::Collect()
 {
-    if (!gIsCodePageKnown(mnCodePage))
-        throw CUsageError("there is no code page " + std::to_string(mnCodePage));
+    const unsigned nCodePage = ReadCodePage(msCodePage);
     if (msRules != "plain" && msRules != "unix")
         throw CUsageError("there are no path rules " + gQuoted(msRules) +
                           "; they are plain or unix");
-    TCommandLine line{mnCodePage, msRules == "unix", {}};
+    TCommandLine line{nCodePage, msRules == "unix", {}};
     if (mpPages->parsed()) {
         line.command = mPages;
     } else if (mpDescribe->parsed()) {

@@ -1,7 +1,7 @@
 #include "cli/ComposeArgument.h"
 
 #include "cli/Failure.h"
-#include "cli/Suggest.h"
+#include "cli/Quote.h"
 
 #include <algorithm>
 

@@ -4,8 +4,11 @@
 #include "cli/Failure.h"
 #include "cli/FieldJson.h"
 #include "cli/Output.h"
+#include "cli/Quote.h"
 
 #include <nlohmann/json.hpp>
+
+#include <exception>
 
 namespace quorvawiz::cli
 {
@@ -17,6 +20,7 @@ TComposition Compose(const TWizard& rWizard, const TComposeOptions& rOptions)
         const std::vector<TPage> pages = gListPages(rWizard);
         const TPage& rPage = gFindBuiltPage(pages, rOptions.sPage);
         std::vector<TComposeArgument> arguments;
+        arguments.reserve(rOptions.arguments.size());
         for (const std::string& rsArgument : rOptions.arguments)
             arguments.push_back(gParseArgument(rsArgument));
         return gCompose(rWizard, rPage, arguments);
@@ -24,11 +28,17 @@ TComposition Compose(const TWizard& rWizard, const TComposeOptions& rOptions)
         TComposition composition;
         composition.sMisuse = rError.what();
         return composition;
+    } catch (const std::exception& rException) {
+        TComposition composition;
+        composition.sFailure = gPrintable(rException.what());
+        return composition;
     }
 }
 
 int ExitCodeOf(const TComposition& rComposition)
 {
+    if (!rComposition.sFailure.empty())
+        return kProgramFailure;
     if (!rComposition.sMisuse.empty())
         return kWronglyAsked;
     return rComposition.command ? kDone : kNothingDone;
@@ -37,6 +47,8 @@ int ExitCodeOf(const TComposition& rComposition)
 /// What the program itself has to say; empty if nothing.
 std::string ComplaintOf(const TComposition& rComposition)
 {
+    if (!rComposition.sFailure.empty())
+        return rComposition.sFailure;
     if (!rComposition.sMisuse.empty())
         return rComposition.sMisuse;
     if (!rComposition.command && rComposition.sRefusal.empty() && rComposition.boxes.empty())

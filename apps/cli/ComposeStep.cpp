@@ -1,6 +1,7 @@
 #include "cli/ComposeStep.h"
 
 #include "cli/Failure.h"
+#include "cli/Quote.h"
 #include "cli/ShownFields.h"
 #include "cli/StepError.h"
 #include "cli/Suggest.h"
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <limits>
 #include <system_error>
 
 namespace quorvawiz::cli
@@ -58,6 +60,8 @@ std::string Usage(const TFieldView& rField, std::string_view sName)
 CString Encode(std::string_view sName, std::string_view sValue)
 {
     std::optional<CString> text = gFromUtf8(sValue);
+    if (!text && !gIsUtf8(sValue))
+        throw CUsageError("the text for " + gQuoted(sName) + " isn't UTF-8");
     if (!text)
         throw CUsageError("the text for " + gQuoted(sName) + " doesn't fit in code page " +
                           std::to_string(gGetSystemCodePage()));
@@ -72,7 +76,10 @@ CString WithLineEnds(CString sText)
     return sText;
 }
 
-/// The number of "#3"; none for any other text.
+/// The index of an entry that no list has.
+constexpr int kNoIndex = std::numeric_limits<int>::max();
+
+/// The number of "#3", or kNoIndex for one that is no int; none for any other text.
 std::optional<int> ParseIndex(std::string_view sValue)
 {
     if (!sValue.starts_with('#'))
@@ -81,46 +88,60 @@ std::optional<int> ParseIndex(std::string_view sValue)
     int nIndex = 0;
     const auto [pEnd, error] =
         std::from_chars(sValue.data(), sValue.data() + sValue.size(), nIndex);
-    if (error != std::errc() || pEnd != sValue.data() + sValue.size())
+    const bool bTooBig = error == std::errc::result_out_of_range;
+    if ((error != std::errc() && !bTooBig) || pEnd != sValue.data() + sValue.size())
         return std::nullopt;
-    return nIndex;
+    return bTooBig ? kNoIndex : nIndex;
 }
 
-bool HasEntry(const TFieldView& rField, const CString& rsText)
+/// An action that takes "#3". None for a text that is no index.
+/// @throws CUsageError for an index beyond int
+std::optional<TStep> IndexStep(EStep op, const TFieldView& rField, std::string_view sName,
+                               std::string_view sValue)
 {
-    return std::ranges::any_of(gEntriesOf(rField), [&](const std::string& rsEntry) {
+    const std::optional<int> index = ParseIndex(sValue);
+    if (!index)
+        return std::nullopt;
+    if (*index == kNoIndex)
+        throw CUsageError(gQuoted(sName) + ' ' + gNoIndex(rField, sValue.substr(1)));
+    return TStep{.op = op, .sKey = std::string(rField.sKey), .nIndex = *index};
+}
+
+TStep SelectStep(const TFieldView& rField, std::string_view sName, const CString& rsText)
+{
+    const auto isWanted = [&](const std::string& rsEntry) {
         return gFromUtf8(rsEntry).value_or(CString()).CompareNoCase(rsText) == 0;
-    });
+    };
+    if (!std::ranges::any_of(gEntriesOf(rField), isWanted))
+        if (std::optional<TStep> step = IndexStep(EStep::Select, rField, sName, rsText))
+            return *std::move(step);
+    return {.op = EStep::SelectEntry, .sKey = std::string(rField.sKey), .sText = rsText};
 }
 
-TStep SelectStep(const TFieldView& rField, const std::string& rsKey, const CString& rsText)
+/// What stands for no entry to the letter is a text to be typed.
+TStep DropDownStep(const TFieldView& rField, const CString& rsText)
 {
+    const std::string sKey(rField.sKey);
+    const std::vector<std::string> entries = gEntriesOf(rField);
+    if (std::ranges::find(entries, gToUtf8(rsText)) != entries.end())
+        return {.op = EStep::SelectEntry, .sKey = sKey, .sText = rsText};
     const std::optional<int> index = ParseIndex(rsText);
-    if (index && !HasEntry(rField, rsText))
-        return {.op = EStep::Select, .sKey = rsKey, .nIndex = *index};
-    return {.op = EStep::SelectEntry, .sKey = rsKey, .sText = rsText};
+    if (index && *index >= 0 && *index < gEntryCountOf(rField))
+        return {.op = EStep::Select, .sKey = sKey, .nIndex = *index};
+    return {.op = EStep::Set, .sKey = sKey, .sText = rsText};
 }
 
-/// What stands for no entry is a text to be typed.
-TStep DropDownStep(const TFieldView& rField, const std::string& rsKey, const CString& rsText)
-{
-    const int nCount = static_cast<int>(gEntriesOf(rField).size());
-    const std::optional<int> index = ParseIndex(rsText);
-    if (HasEntry(rField, rsText) || (index && *index >= 0 && *index < nCount))
-        return SelectStep(rField, rsKey, rsText);
-    return {.op = EStep::Set, .sKey = rsKey, .sText = rsText};
-}
-
-TStep ChooseStep(const TFieldView& rField, std::string_view sName, const std::string& rsKey,
-                 const std::string& rsValue)
+TStep ChooseStep(const TFieldView& rField, std::string_view sName, const std::string& rsValue)
 {
     const std::vector<std::string> labels = gEntriesOf(rField);
     const CString sWanted = Encode(sName, gWithoutMnemonic(rsValue));
     for (std::size_t n = 0; n < labels.size(); ++n)
         if (gFromUtf8(labels[n]).value_or(CString()).CompareNoCase(sWanted) == 0)
-            return {.op = EStep::Choose, .sKey = rsKey, .nIndex = static_cast<int>(n)};
-    if (const std::optional<int> index = ParseIndex(rsValue))
-        return {.op = EStep::Choose, .sKey = rsKey, .nIndex = *index};
+            return {.op = EStep::Choose,
+                    .sKey = std::string(rField.sKey),
+                    .nIndex = static_cast<int>(n)};
+    if (std::optional<TStep> step = IndexStep(EStep::Choose, rField, sName, rsValue))
+        return *std::move(step);
     throw CUsageError(gQuoted(sName) + " has no button " + gQuoted(rsValue) +
                       gDidYouMean(rsValue, labels));
 }
@@ -149,21 +170,21 @@ TStep gComposeStep(const TFieldView& rField, std::string_view sName,
     case EControl::MultilineEdit:
         return {.op = EStep::Set, .sKey = sKey, .sText = WithLineEnds(Encode(sName, *rValue))};
     case EControl::DropDown:
-        return DropDownStep(rField, sKey, Encode(sName, *rValue));
+        return DropDownStep(rField, Encode(sName, *rValue));
     case EControl::DropDownList:
     case EControl::ListBox:
     case EControl::Tabs:
-        return SelectStep(rField, sKey, Encode(sName, *rValue));
+        return SelectStep(rField, sName, Encode(sName, *rValue));
     case EControl::Table:
-        if (const std::optional<int> index = ParseIndex(*rValue))
-            return {.op = EStep::Select, .sKey = sKey, .nIndex = *index};
+        if (std::optional<TStep> step = IndexStep(EStep::Select, rField, sName, *rValue))
+            return *std::move(step);
         break;
     case EControl::Tree:
         return {.op = EStep::SelectPath, .sKey = sKey, .sText = Encode(sName, *rValue)};
     case EControl::CheckBox:
         return CheckStep(sName, sKey, *rValue);
     case EControl::RadioButton:
-        return ChooseStep(rField, sName, sKey, *rValue);
+        return ChooseStep(rField, sName, *rValue);
     case EControl::Static:
     case EControl::Group:
     case EControl::Label:

@@ -3,9 +3,9 @@
 #include "cli/ComposeStep.h"
 #include "cli/Failure.h"
 #include "cli/PageRun.h"
+#include "cli/Quote.h"
 #include "cli/ShownFields.h"
 #include "cli/StepError.h"
-#include "cli/Suggest.h"
 #include "platform/base/CodePage.h"
 
 #include <algorithm>
@@ -56,12 +56,18 @@ private:
     bool mbInserted = false;
 };
 
-std::string FullName(const TComposeArgument& rArgument)
+/// What stands in front of the key.
+std::string PrefixOf(const TComposeArgument& rArgument)
 {
-    std::string sName;
+    std::string sPrefix;
     for (const std::string& rsKey : rArgument.prefix)
-        sName += rsKey + '.';
-    return sName + rArgument.sKey;
+        sPrefix += rsKey + '.';
+    return sPrefix;
+}
+
+bool IsButton(const TFieldView& rField)
+{
+    return rField.kind == EControl::PushButton || rField.kind == EControl::DefaultButton;
 }
 
 std::vector<TShownBox> CComposer::TakeBoxes()
@@ -132,17 +138,19 @@ void CComposer::Press(CDialog& rInnermost, const std::string& rsKey)
 
 void CComposer::ActOn(CDialog& rInnermost, const TComposeArgument& rArgument)
 {
-    const std::string sName = FullName(rArgument);
-    const std::vector<TFieldView> fields = gShownFields(rInnermost);
+    const std::string sPrefix = PrefixOf(rArgument);
+    std::vector<TFieldView> fields = gShownFields(rInnermost);
     const auto field = std::ranges::find(fields, rArgument.sKey, &TFieldView::sKey);
-    if (field == fields.end())
-        throw CUsageError("there is no field " + gQuoted(sName) +
-                          gDidYouMean(rArgument.sKey, gKeysToActOn(fields)));
+    if (field == fields.end()) {
+        if (mLast.kind == TComposeMove::EKind::Open) // a dialog is only behind a button
+            std::erase_if(fields, [](const TFieldView& rField) { return !IsButton(rField); });
+        throw CUsageError(gNoField(fields, rArgument.sKey, sPrefix));
+    }
     msPressed = rArgument.sKey;
-    const TStep step = gComposeStep(*field, sName, rArgument.value);
+    const TStep step = gComposeStep(*field, sPrefix + rArgument.sKey, rArgument.value);
     const TStepResult result = gRunStep(rInnermost, step);
     if (!result.IsDone())
-        throw CUsageError(gStepError(rInnermost, step, result));
+        throw CUsageError(gStepError(rInnermost, step, result, sPrefix));
 }
 
 void CComposer::Insert()
@@ -175,11 +183,15 @@ TComposition gCompose(const TWizard& rWizard, const TPage& rPage,
         composition.sMisuse = rError.what();
     } catch (const CStopped& rStopped) {
         composition.sRefusal = rStopped.what();
+    } catch (const std::exception& rException) {
+        composition.sFailure = gPrintable(rException.what());
     }
 
     for (const CString& rsCommand : target.Take())
         composition.command = AsLines(rsCommand);
-    for (const TShownBox& rShown : composer.TakeBoxes())
+    const std::vector<TShownBox> shownBoxes = composer.TakeBoxes();
+    composition.boxes.reserve(shownBoxes.size());
+    for (const TShownBox& rShown : shownBoxes)
         composition.boxes.push_back(
             {gToUtf8(rShown.box.sText), (rShown.box.nFlags & MB_TYPEMASK) == MB_YESNO});
     return composition;

@@ -23,10 +23,12 @@ struct TComposition {
     std::vector<TBoxText> boxes;        ///< in the order in which they were shown
     std::string sRefusal;               ///< why the wizard went no further; empty if it did
     std::string sMisuse;                ///< what is wrong with the arguments; empty if nothing is
+    std::string sFailure;               ///< the exception that ended it; empty if none did
 };
 
 /// Opens a page, makes the user's actions in it and inserts the command.
-/// The desktop that is current meanwhile is a headless one of its own.
+/// The desktop that is current meanwhile is a headless one of its own. Exceptions of the wizard end
+/// the composition and are told in it.
 /// @param rWizard holds the page
 /// @param rPage a page that is built
 /// @param rArguments the actions, in order

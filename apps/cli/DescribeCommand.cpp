@@ -4,6 +4,7 @@
 #include "cli/FieldJson.h"
 #include "cli/Output.h"
 #include "cli/PageRun.h"
+#include "cli/Quote.h"
 #include "cli/ShownFields.h"
 
 #include <nlohmann/json.hpp>
@@ -54,6 +55,27 @@ TJson DescribeField(const TFieldView& rField)
     return control;
 }
 
+/// A cell that keeps to its line.
+std::string Cell(const std::string& rsText)
+{
+    return gPrintable(rsText) == rsText ? rsText : gToLine(rsText);
+}
+
+/// A long text in quotation marks doesn't push the other columns away.
+std::string Cut(std::string_view sText)
+{
+    constexpr int nMostCharacters = 40;
+    std::size_t nEnd = 0;
+    for (int n = 0; n <= nMostCharacters && nEnd < sText.size(); ++n) {
+        const std::size_t nStart = nEnd;
+        while (++nEnd < sText.size() && (static_cast<unsigned char>(sText[nEnd]) & 0xC0U) == 0x80U)
+            ; // inside a character
+        if (n == nMostCharacters)
+            return gToLine(std::string(sText.substr(0, nStart)) + "\u2026");
+    }
+    return gToLine(sText);
+}
+
 std::string ValueCell(const TJson& rControl)
 {
     const TJson& rValue = rControl["start_value"];
@@ -63,7 +85,9 @@ std::string ValueCell(const TJson& rControl)
         return rValue.get<bool>() ? "on" : "off";
     if (rValue.is_number())
         return rValue.get<int>() < 0 ? "none" : '#' + rValue.dump();
-    return gToLine(rValue);
+    const std::string sText = rValue.get<std::string>();
+    const bool bOnlyShown = rControl["kind"] == "static" || rControl["kind"] == "group";
+    return bOnlyShown ? Cut(sText) : gToLine(sText);
 }
 
 /// The flags of a control, or of one button of a radio group.
@@ -86,7 +110,7 @@ std::string LabelCell(const TJson& rControl)
     std::string sLabel = rLabel.is_string() ? rLabel.get<std::string>() : "-";
     if (rControl.contains("unit"))
         sLabel += " (" + rControl["unit"].get<std::string>() + ')';
-    return sLabel;
+    return Cell(sLabel);
 }
 
 using TRows = std::vector<std::vector<std::string>>;
@@ -99,7 +123,7 @@ void AddEntries(const TJson& rControl, TRows& rRows)
         const TJson& rEntry = rControl["entries"][n];
         rRows.push_back({"", "", '#' + std::to_string(n),
                          bButtons ? FlagsCell(rControl["buttons"][n]) : "",
-                         rEntry.is_string() ? rEntry.get<std::string>() : gToLine(rEntry)});
+                         rEntry.is_string() ? Cell(rEntry.get<std::string>()) : gToLine(rEntry)});
     }
 }
 

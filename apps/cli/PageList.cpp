@@ -1,6 +1,7 @@
 #include "cli/PageList.h"
 
 #include "cli/Failure.h"
+#include "cli/Quote.h"
 #include "cli/Suggest.h"
 #include "platform/base/CodePage.h"
 #include "platform/ui/Translate.h"
@@ -31,6 +32,27 @@ std::vector<TPage> gListPages(const TWizard& rWizard)
     return pages;
 }
 
+namespace
+{
+/// All that pages are called; of equally near ones a suggestion takes the first, so those that can
+/// be used stand in front.
+std::vector<std::string> NamesOf(const std::vector<TPage>& rPages)
+{
+    std::vector<std::string> names;
+    names.reserve(2 * rPages.size());
+    for (const bool bBuilt : {true, false}) {
+        for (const TPage& rPage : rPages) {
+            if (rPage.IsBuilt() != bBuilt)
+                continue;
+            names.push_back(rPage.Name());
+            if (rPage.HasNode())
+                names.push_back(rPage.sClass);
+        }
+    }
+    return names;
+}
+} // namespace
+
 const TPage& gFindPage(const std::vector<TPage>& rPages, std::string_view sName)
 {
     const std::optional<CString> path = gFromUtf8(sName);
@@ -42,13 +64,8 @@ const TPage& gFindPage(const std::vector<TPage>& rPages, std::string_view sName)
     if (found != rPages.end())
         return *found;
 
-    std::vector<std::string> names;
-    for (const TPage& rPage : rPages) {
-        names.push_back(rPage.Name());
-        if (rPage.HasNode())
-            names.push_back(rPage.sClass);
-    }
-    throw CUsageError("there is no page " + gQuoted(sName) + gDidYouMean(sName, names));
+    const std::string sError = "there is no page " + gQuoted(sName);
+    throw CUsageError(sName.empty() ? sError : sError + gDidYouMean(sName, NamesOf(rPages)));
 }
 
 const TPage& gFindBuiltPage(const std::vector<TPage>& rPages, std::string_view sName)

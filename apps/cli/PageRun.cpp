@@ -1,7 +1,7 @@
 #include "cli/PageRun.h"
 
-#include "cli/SinglePageDlg.h"
 #include "platform/headless/Step.h"
+#include "wizard/frame/SinglePageDlg.h"
 
 #include <stdexcept>
 #include <utility>

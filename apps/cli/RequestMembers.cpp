@@ -1,5 +1,6 @@
 #include "cli/RequestMembers.h"
 
+#include "cli/Quote.h"
 #include "cli/SessionRequest.h"
 #include "cli/Suggest.h"
 #include "platform/base/CodePage.h"

@@ -46,6 +46,9 @@ int gRun(int nArguments, const char* const* ppArguments) noexcept
     } catch (const std::exception& rException) {
         gComplain(rException.what());
         return kProgramFailure;
+    } catch (...) {
+        gComplain("an exception of an unknown kind");
+        return kProgramFailure;
     }
 }
 

@@ -4,9 +4,9 @@
 #include "cli/FieldJson.h"
 #include "cli/PageRun.h"
 #include "cli/SessionReply.h"
-#include "cli/SinglePageDlg.h"
 #include "cli/StepError.h"
 #include "wizard/frame/Remembered.h"
+#include "wizard/frame/SinglePageDlg.h"
 
 #include <nlohmann/json.hpp>
 
@@ -53,6 +53,8 @@ void CSession::Run()
         else
             Serve(nullptr);
     }
+    if (mrIn.bad())
+        throw std::runtime_error("can't read the session's requests");
     if (!mrOut)
         throw std::runtime_error("can't write the session's replies");
 }

@@ -29,7 +29,7 @@ public:
 
     /// Opens the wizard and serves until the input ends; then everything is closed. Exceptions of
     /// the wizard end its run and are told in the reply.
-    /// @throws std::runtime_error if the output can't be written
+    /// @throws std::runtime_error if the input can't be read or the output can't be written
     void Run();
 
 private:

@@ -79,6 +79,13 @@ std::vector<std::string> gEntriesOf(const TFieldView& rField)
     return labels;
 }
 
+int gEntryCountOf(const TFieldView& rField)
+{
+    if (const auto* const pTable = dynamic_cast<CListCtrl*>(rField.pControl))
+        return pTable->GetItemCount();
+    return static_cast<int>(gEntriesOf(rField).size());
+}
+
 int gSelectionOf(const TFieldView& rField)
 {
     if (const auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl))

@@ -25,6 +25,9 @@ std::vector<std::string> gKeysToActOn(const std::vector<TFieldView>& rFields);
 /// '&'; empty for any other field. In UTF-8.
 std::vector<std::string> gEntriesOf(const TFieldView& rField);
 
+/// How many entries, rows, tabs or radio buttons there are to be chosen by an index.
+int gEntryCountOf(const TFieldView& rField);
+
 /// The selected entry, row, tab or radio button, or -1.
 int gSelectionOf(const TFieldView& rField);
 

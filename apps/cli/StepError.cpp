@@ -1,5 +1,6 @@
 #include "cli/StepError.h"
 
+#include "cli/Quote.h"
 #include "cli/ShownFields.h"
 #include "cli/Suggest.h"
 #include "platform/base/CodePage.h"
@@ -14,16 +15,9 @@ namespace quorvawiz::cli
 {
 namespace
 {
-std::string UnknownField(CDialog& rDialog, const TStep& rStep)
-{
-    return "there is no field " + gQuoted(rStep.sKey) +
-           gDidYouMean(rStep.sKey, gKeysToActOn(gShownFields(rDialog)));
-}
-
-std::string UnknownEntry(const TFieldView& rField, const TStep& rStep)
+std::string UnknownEntry(const TFieldView& rField, const TStep& rStep, const std::string& sField)
 {
     const std::vector<std::string> entries = gEntriesOf(rField);
-    const std::string sField = gQuoted(rStep.sKey);
     switch (rStep.op) {
     case EStep::SelectEntry: {
         const std::string sText = gToUtf8(rStep.sText);
@@ -45,18 +39,50 @@ std::string UnknownEntry(const TFieldView& rField, const TStep& rStep)
     case EStep::Key:
         break;
     }
-    return sField + " has no index " + std::to_string(rStep.nIndex);
+    return sField + ' ' + gNoIndex(rField, std::to_string(rStep.nIndex));
 }
 
-std::string NearestUsable(std::string_view sWanted, std::span<const std::string> candidates)
+std::string NearestUsable(std::string_view sWanted, std::span<const std::string> candidates,
+                          const std::string& rsPrefix = {})
 {
     const std::string_view sNearest = gNearest(sWanted, candidates);
-    return sNearest.empty() ? std::string()
-                            : "; the nearest that can be used is " + gQuoted(sNearest);
+    return sNearest.empty()
+               ? std::string()
+               : "; the nearest that can be used is " + gQuoted(rsPrefix + std::string(sNearest));
+}
+
+/// The control that a key is for, as far as that is known; else null.
+const CWnd* TargetOf(const CDialog& rDialog, TUserKey::EKey key)
+{
+    const CWnd* const pFocus = CWnd::GetFocus();
+    if (key == TUserKey::EKey::Space)
+        return pFocus;
+    if (key != TUserKey::EKey::Enter)
+        return nullptr;
+    const auto* const pButton = dynamic_cast<const CButton*>(pFocus);
+    return pButton && pButton->IsPushButton() ? pButton : rDialog.GetDefaultButton();
+}
+
+std::string RefusedKey(const CDialog& rDialog, const TStep& rStep, std::string_view sRefusal)
+{
+    const CWnd* const pTarget = TargetOf(rDialog, rStep.key.key);
+    const std::string sTarget =
+        pTarget && *pTarget->GetKey() ? gQuoted(pTarget->GetKey()) : "what the key means";
+    return sTarget + ' ' + std::string(sRefusal);
+}
+
+/// A text box refuses a text only for characters that it can't hold.
+std::string_view RefusalText(const TStep& rStep, EControl kind, EUserResult refusal)
+{
+    if (rStep.op != EStep::Set || refusal != EUserResult::Invalid)
+        return gUserResultText(refusal);
+    return kind == EControl::MultilineEdit ? "takes no NUL"
+                                           : "is a single line: it takes no CR, LF or NUL";
 }
 
 /// A button of a radio group can't be used, but perhaps others of the group.
-std::string RefusedButton(const TFieldView& rField, int nIndex, std::string_view sRefusal)
+std::string RefusedButton(const TFieldView& rField, int nIndex, std::string_view sRefusal,
+                          const std::string& rsField)
 {
     const std::vector<std::string> labels = gEntriesOf(rField);
     const std::string& rsLabel = labels[static_cast<std::size_t>(nIndex)];
@@ -64,45 +90,76 @@ std::string RefusedButton(const TFieldView& rField, int nIndex, std::string_view
     for (std::size_t n = 0; n < labels.size(); ++n)
         if (rField.radios[n]->WouldAcceptUser() == EUserResult::Done)
             usable.push_back(labels[n]);
-    return gQuoted(rsLabel) + " of " + gQuoted(rField.sKey) + ' ' + std::string(sRefusal) +
+    return gQuoted(rsLabel) + " of " + rsField + ' ' + std::string(sRefusal) +
            NearestUsable(rsLabel, usable);
 }
 
-std::string Refused(CDialog& rDialog, const TStep& rStep, EUserResult refusal)
+std::string Refused(CDialog& rDialog, const TStep& rStep, EUserResult refusal,
+                    const std::string& rsPrefix)
 {
-    const std::string_view sRefusal = gUserResultText(refusal);
     if (rStep.op == EStep::Key)
-        return "what the key means " + std::string(sRefusal);
+        return RefusedKey(rDialog, rStep, gUserResultText(refusal));
+    const TFieldView field = gFindField(rDialog, rStep.sKey);
+    const std::string_view sRefusal = RefusalText(rStep, field.kind, refusal);
+    const std::string sField = gQuoted(rsPrefix + rStep.sKey);
     if (rStep.op == EStep::Choose)
-        return RefusedButton(gFindField(rDialog, rStep.sKey), rStep.nIndex, sRefusal);
+        return RefusedButton(field, rStep.nIndex, sRefusal, sField);
 
-    std::string sError = gQuoted(rStep.sKey) + ' ' + std::string(sRefusal);
+    std::string sError = sField + ' ' + std::string(sRefusal);
     std::vector<TFieldView> fields = gShownFields(rDialog);
     const bool bAway = refusal == EUserResult::Disabled || refusal == EUserResult::Hidden;
     if (!bAway || std::ranges::find(fields, rStep.sKey, &TFieldView::sKey) == fields.end())
         return sError;
     std::erase_if(fields, [](const TFieldView& rField) { return !gIsUsable(rField); });
-    return sError + NearestUsable(rStep.sKey, gKeysToActOn(fields));
+    return sError + NearestUsable(rStep.sKey, gKeysToActOn(fields), rsPrefix);
+}
+
+/// A node is selected by a step of its own.
+std::string WrongKind(EControl kind, EStep op)
+{
+    const bool bSelect = op == EStep::Select || op == EStep::SelectEntry;
+    return kind == EControl::Tree && bSelect ? "is a tree: use \"open\"" : gKindRule(kind);
 }
 } // namespace
 
-std::string gStepError(CDialog& rDialog, const TStep& rStep, const TStepResult& rResult)
+std::string gStepError(CDialog& rDialog, const TStep& rStep, const TStepResult& rResult,
+                       std::string_view sPrefix)
 {
+    const std::string sFullName = std::string(sPrefix) + rStep.sKey;
     switch (rResult.end) {
     case EStepEnd::Done:
         break;
     case EStepEnd::UnknownField:
-        return UnknownField(rDialog, rStep);
+        return gNoField(gShownFields(rDialog), rStep.sKey, sPrefix);
     case EStepEnd::UnknownEntry:
-        return UnknownEntry(gFindField(rDialog, rStep.sKey), rStep);
+        return UnknownEntry(gFindField(rDialog, rStep.sKey), rStep, gQuoted(sFullName));
     case EStepEnd::Refused:
-        return Refused(rDialog, rStep, rResult.refusal);
+        return Refused(rDialog, rStep, rResult.refusal, std::string(sPrefix));
     case EStepEnd::WrongKind:
         if (rStep.op == EStep::Key)
             return "the key means nothing here";
-        return gQuoted(rStep.sKey) + ' ' + gKindRule(gFindField(rDialog, rStep.sKey).kind);
+        return gQuoted(sFullName) + ' ' + WrongKind(gFindField(rDialog, rStep.sKey).kind, rStep.op);
     }
     return {};
+}
+
+std::string gNoField(const std::vector<TFieldView>& rFields, std::string_view sKey,
+                     std::string_view sPrefix)
+{
+    const std::string sBefore(sPrefix);
+    const std::string sError = "there is no field " + gQuoted(sBefore + std::string(sKey));
+    const std::vector<std::string> keys = gKeysToActOn(rFields);
+    const std::string_view sNearest = gNearest(sKey, keys);
+    return sNearest.empty()
+               ? sError
+               : sError + "; did you mean " + gQuoted(sBefore + std::string(sNearest)) + '?';
+}
+
+std::string gNoIndex(const TFieldView& rField, std::string_view sIndex)
+{
+    const int nCount = gEntryCountOf(rField);
+    return "has no index " + std::string(sIndex) +
+           (nCount == 0 ? "; it is empty" : "; the last is " + std::to_string(nCount - 1));
 }
 
 std::string gKindRule(EControl kind)

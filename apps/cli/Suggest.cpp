@@ -1,5 +1,6 @@
 #include "cli/Suggest.h"
 
+#include "cli/Quote.h"
 #include "platform/base/Ascii.h"
 
 #include <algorithm>
@@ -13,9 +14,6 @@ namespace
 {
 /// The longest text for which a neighbour is looked up, in bytes.
 constexpr std::size_t kLongestSlip = 100;
-/// How much of a text a message repeats, in bytes.
-constexpr std::size_t kLongestQuote = 80;
-
 /// How many letters have to be changed, added, dropped or swapped with their neighbour.
 std::size_t CountChanges(std::string_view sFrom, std::string_view sTo)
 {
@@ -49,26 +47,42 @@ std::string Lower(std::string_view sText)
     return sLower;
 }
 
-std::size_t Distance(const std::string& rsWanted, const std::string& rsCandidate)
+/// Whether a text stands in another one between blanks, marks or ends. Both in small letters.
+bool HasWords(std::string_view sText, std::string_view sWords)
 {
+    const auto isPartOfWord = [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ||
+               static_cast<unsigned char>(c) >= 0x80;
+    };
+    for (std::size_t n = sText.find(sWords); n != std::string_view::npos;
+         n = sText.find(sWords, n + 1)) {
+        const std::size_t nEnd = n + sWords.size();
+        if ((n == 0 || !isPartOfWord(sText[n - 1])) &&
+            (nEnd == sText.size() || !isPartOfWord(sText[nEnd])))
+            return true;
+    }
+    return false;
+}
+
+/// How unlike a candidate is; both in small letters.
+std::size_t Distance(std::string_view sWanted, std::string_view sCandidate)
+{
+    enum : std::size_t { kSame, kSameName, kAmongWords, kContained, kOneChange = kContained };
+    constexpr std::size_t nTellingWord = 2;
     constexpr std::size_t nTellingPart = 3;
-    if (rsWanted == rsCandidate)
-        return 0;
-    if (rsWanted.size() >= nTellingPart && rsCandidate.find(rsWanted) != std::string::npos)
-        return 1;
-    return CountChanges(rsWanted, rsCandidate);
+    const std::string_view sName = sCandidate.substr(sCandidate.rfind('/') + 1);
+    if (sWanted == sCandidate)
+        return kSame;
+    if (sWanted == sName)
+        return kSameName;
+    if (sWanted.size() >= nTellingWord && HasWords(sCandidate, sWanted))
+        return kAmongWords;
+    if (sWanted.size() >= nTellingPart && sCandidate.find(sWanted) != std::string_view::npos)
+        return kContained;
+    return std::min(CountChanges(sWanted, sCandidate), CountChanges(sWanted, sName)) - 1 +
+           kOneChange;
 }
 } // namespace
-
-std::string gQuoted(std::string_view sText)
-{
-    if (sText.size() <= kLongestQuote)
-        return '"' + std::string(sText) + '"';
-    std::size_t nCut = kLongestQuote;
-    while (nCut > 0 && (static_cast<unsigned char>(sText[nCut]) & 0xC0U) == 0x80U)
-        --nCut; // between two characters
-    return '"' + std::string(sText.substr(0, nCut)) + "...\"";
-}
 
 std::string_view gNearest(std::string_view sWanted, std::span<const std::string> candidates)
 {

@@ -7,12 +7,10 @@
 namespace quorvawiz::cli
 {
 
-/// A text in quotation marks for a message, cut where it is long.
-/// @param sText UTF-8
-std::string gQuoted(std::string_view sText);
-
-/// The candidate that looks most like a text: one that contains it, else the one that takes the
-/// fewest changes of letters. Letter case of ASCII doesn't count; of equals the first wins.
+/// The candidate that looks most like a text: one that equals it, or whose part behind the last '/'
+/// does, else one that has it among its words, else one that contains it or takes the fewest
+/// changes of letters, in whole or in that part. Letter case of ASCII doesn't count; of equals the
+/// first wins.
 /// @param sWanted the text, in UTF-8
 /// @param candidates what there is
 /// @return one of the candidates; empty if there is none, and for a text too long to be a slip

@@ -2,7 +2,7 @@
 
 #include "cli/Failure.h"
 #include "cli/TestWizard.h"
-#include "platform/base/Exceptions.h"
+#include "platform/ui/Desktop.h"
 #include "wizard/frame/Remembered.h"
 
 #include <gtest/gtest.h>
@@ -56,6 +56,12 @@ TEST(Composer, ActsAsTheArgumentsSay)
         {"a typed text", {"name=x", "node=n1"}, ".all x node=n1"},
         {"a typed box's index", {"name=x", "node=#1"}, ".all x node=out"},
         {"no index, so a text", {"name=x", "node=#2"}, ".all x node=#2"},
+        {"an index beyond int, so a text",
+         {"name=x", "node=#99999999999"},
+         ".all x node=#99999999999"},
+        {"a text that differs from an entry in its letters only",
+         {"name=x", "node=OUT"},
+         ".all x node=OUT"},
         {"a list", {"name=x", "list=in"}, ".all x list=in"},
         {"a list's selection goes", {"name=x", "list=in", "list=#-1"}, ".all x"},
         {"a check box", {"name=x", "ac=on"}, ".all x ac"},
@@ -66,7 +72,7 @@ TEST(Composer, ActsAsTheArgumentsSay)
         {"a radio index", {"name=x", "type=#0"}, ".all x type=&Voltage"},
         {"a table's row", {"name=x", "table=#1"}, ".all x row=r2"},
         {"a tab", {"name=x", "tabs=Two"}, ".all x tab"},
-        {"a button", {"name=x", "file"}, ".all x"},
+        {"a button", {"name=x", "file"}, ".all x note=cancelled"},
     };
     for (const Case& rCase : cases) {
         const TComposition composition = Compose("Tests/All kinds", rCase.arguments);
@@ -127,15 +133,37 @@ TEST(Composer, SaysWhatIsWrongWithTheArguments)
          R"(there is no field "close"; did you mean "node"?)"},
         {"unknown field of a dialog",
          {"sweep.strat=1"},
-         R"(there is no field "sweep.strat"; did you mean "start"?)"},
+         R"(there is no field "sweep.strat"; did you mean "sweep.start"?)"},
+        {"a dialog's field alone",
+         {"sweep.more.start"},
+         R"("sweep.more.start" is a box for text: it takes a text; write sweep.more.start=TEXT)"},
+        {"a line end in a dialog's line",
+         {"sweep.start=a\nb"},
+         R"("sweep.start" is a single line: it takes no CR, LF or NUL)"},
+        {"an unknown prefix", {"nam.start=1"}, R"(there is no field "nam"; did you mean "say"?)"},
+        {"a prefix in a dialog that is no button",
+         {"sweep.start.x=1"},
+         R"("sweep.start" is a box for text: it takes a text; write sweep.start=TEXT)"},
+        {"an unknown inner prefix",
+         {"sweep.mor.start=1"},
+         R"(there is no field "sweep.mor"; did you mean "sweep.more"?)"},
         {"unknown entry", {"kind=decad"}, R"("kind" has no entry "decad"; did you mean "decade"?)"},
-        {"unknown index", {"kind=#3"}, R"("kind" has no index 3)"},
+        {"unknown index", {"kind=#3"}, R"("kind" has no index 3; the last is 2)"},
+        {"an index beyond int",
+         {"list=#99999999999"},
+         R"("list" has no index 99999999999; the last is 1)"},
+        {"a row beyond int",
+         {"table=#-99999999999"},
+         R"("table" has no index -99999999999; the last is 1)"},
+        {"a radio button beyond int",
+         {"type=#99999999999"},
+         R"("type" has no index 99999999999; the last is 2)"},
         {"no index", {"kind=#x"}, R"("kind" has no entry "#x"; did you mean "linear"?)"},
         {"unknown radio button",
          {"type=Curent"},
          R"("type" has no button "Curent"; did you mean "Current"?)"},
-        {"unknown radio index", {"type=#3"}, R"("type" has no index 3)"},
-        {"unknown row", {"table=#2"}, R"("table" has no index 2)"},
+        {"unknown radio index", {"type=#3"}, R"("type" has no index 3; the last is 2)"},
+        {"unknown row", {"table=#2"}, R"("table" has no index 2; the last is 1)"},
         {"a disabled radio button",
          {"type=Power"},
          R"("Power" of "type" is disabled; the nearest that can be used is "Voltage")"},
@@ -149,7 +177,9 @@ TEST(Composer, SaysWhatIsWrongWithTheArguments)
          {"secret=x"},
          R"("secret" is hidden; the nearest that can be used is "sweep")"},
         {"a read-only edit", {"fixed=x"}, R"("fixed" is read-only)"},
-        {"a line end in a line", {"name=a\nb"}, R"("name" can't take that value)"},
+        {"a line end in a line",
+         {"name=a\nb"},
+         R"("name" is a single line: it takes no CR, LF or NUL)"},
         {"an edit alone",
          {"name"},
          R"("name" is a box for text: it takes a text; write name=TEXT)"},
@@ -202,7 +232,7 @@ TEST(Composer, TellsWhatTheWizardSaid)
     const std::vector<Case> cases{
         {"a failed check", {}, std::nullopt, {"Missing name."}, ""},
         {"a message on the way", {"say", "name=x"}, ".all x", {"Said."}, ""},
-        {"a question is answered no", {"ask", "name=x"}, ".all x", {"?Sure?"}, ""},
+        {"a question is answered no", {"ask", "name=x"}, ".all x note=no", {"?Sure?"}, ""},
         {"in their order", {"ask", "say"}, std::nullopt, {"?Sure?", "Said.", "Missing name."}, ""},
         {"a message instead of a dialog",
          {"say.start=1", "name=x"},
@@ -241,9 +271,18 @@ TEST(Composer, APageWithoutANodeHasADialogOfItsOwn)
     EXPECT_EQ(Compose("CTestLonePage", {"name=x"}).command, ".lone x");
 }
 
-TEST(Composer, AnExceptionOfThePagePassesThrough)
+TEST(Composer, AnEmptyListHasNoIndex)
 {
-    EXPECT_THROW(Compose("Tests/All kinds", {"fail"}), CInvalidArgException);
+    EXPECT_EQ(Compose("CTestLonePage", {"empty=#0"}).sMisuse,
+              R"("empty" has no index 0; it is empty)");
+}
+
+TEST(Composer, AnExceptionOfThePageIsTold)
+{
+    const TComposition composition = Compose("Tests/All kinds", {"say", "fail"});
+    EXPECT_EQ(composition.sFailure, "the page failed");
+    EXPECT_EQ(Shown(composition), std::vector<std::string>{"Said."});
+    EXPECT_FALSE(composition.command);
     EXPECT_EQ(gFindDesktop(), nullptr);
 }
 } // namespace

@@ -59,12 +59,24 @@ note    static           "a note"     -          -
 )");
 }
 
-TEST(Describe, APageWithoutANode)
+TEST(Describe, APageWithoutANodeAndTextsThatFillNoCell)
 {
-    EXPECT_EQ(Describe("CTestLonePage"), "-  CTestLonePage\n"
-                                         "\n"
-                                         "KEY   KIND  START VALUE  FLAGS  LABEL\n"
-                                         "name  edit  \"\"           -      &Name:\n");
+    EXPECT_EQ(Describe("CTestLonePage"), R"(-  CTestLonePage
+
+KEY        KIND       START VALUE                                   FLAGS  LABEL
+name       edit       ""                                            -      &Name:
+empty      list-box   none                                          -      -
+two-lines  check-box  off                                           -      "Two\nlines"
+note       static     "1234567890 234567890 234567890 2345çèé\nê…"  -      -
+)");
+}
+
+TEST(Describe, TheJsonHoldsALongTextWhole)
+{
+    EXPECT_NE(
+        Describe("CTestLonePage", true)
+            .find("\"1234567890 234567890 234567890 2345\u00e7\u00e8\u00e9\\n\u00ea and no more\""),
+        std::string::npos);
 }
 
 TEST(Describe, TheJsonHoldsTheSame)

@@ -1,10 +1,9 @@
+#include "cli/Shell.h"
 #include "support/RunProgram.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <fstream>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -34,21 +33,6 @@ std::vector<std::string> LinesOfBlocks(const std::string& rsDocument, std::strin
     return lines;
 }
 
-std::string OutputOfShell(const std::string& rsCommand)
-{
-    const std::string sProgram = QUORVAWIZ_CLI_PATH;
-    const std::string sFolder = sProgram.substr(0, sProgram.rfind('/'));
-    FILE* const pPipe =
-        popen(("PATH='" + sFolder + "':$PATH; { " + rsCommand + "; } 2>&1").c_str(), "r");
-    if (!pPipe)
-        throw std::runtime_error("can't run a shell");
-    std::string sOutput;
-    for (int c = 0; (c = getc(pPipe)) != EOF;)
-        sOutput += static_cast<char>(c);
-    pclose(pPipe);
-    return sOutput;
-}
-
 TEST(Documents, TheSessionsTranscriptIsReplayed)
 {
     std::string sRequests;
@@ -70,7 +54,7 @@ TEST(Documents, TheCommandLinesExamplesAreRun)
     for (const std::string& rsLine : lines) {
         sExpected += rsLine + '\n';
         if (rsLine.starts_with("$ "))
-            sOutput += rsLine + '\n' + OutputOfShell(rsLine.substr(2));
+            sOutput += rsLine + '\n' + gRunShell(rsLine.substr(2));
     }
     EXPECT_EQ(sOutput, sExpected);
 }

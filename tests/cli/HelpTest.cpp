@@ -39,6 +39,8 @@ Usage: quorvawiz pages [OPTIONS]
 Options:
   -h,--help                   Print this help and exit
   --json                      One line of JSON instead of text
+
+--code-page and --rules may be given, too; quorvawiz --help tells them.
 )");
 }
 
@@ -53,6 +55,8 @@ Positionals:
 Options:
   -h,--help                   Print this help and exit
   --json                      One line of JSON instead of text
+
+--code-page and --rules may be given, too; quorvawiz --help tells them.
 )");
 }
 
@@ -82,6 +86,7 @@ Example:
   quorvawiz compose Settings/Temperature "temperature-list=0 27 85"
 
 Exit code: 0 a command was inserted, 1 none was, 2 an argument is wrong.
+--code-page and --rules may be given, too; quorvawiz --help tells them.
 )");
 }
 
@@ -97,7 +102,8 @@ Each line of the standard input is a request, each gets one line in reply:
   {"op":"open","page":"Settings/Temperature"}
   {"op":"set","field":"temperature-list","text":"27"}
   {"op":"insert"}
-docs/session.md tells all requests.
+The document session.md tells all requests.
+--code-page and --rules may be given, too; quorvawiz --help tells them.
 )");
 }
 

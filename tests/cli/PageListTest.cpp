@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace quorvawiz::cli
 {
@@ -42,14 +43,30 @@ TEST(PageList, AnUnknownNameIsRefusedWithTheNearest)
     EXPECT_EQ(ErrorOf("kinds"), R"(there is no page "kinds"; did you mean "Tests/All kinds"?)");
     EXPECT_EQ(ErrorOf("ctestallkindspage"),
               R"(there is no page "ctestallkindspage"; did you mean "CTestAllKindsPage"?)");
-    EXPECT_EQ(ErrorOf(""), R"(there is no page ""; did you mean "Tests"?)");
+    EXPECT_EQ(ErrorOf("all kinds"),
+              R"(there is no page "all kinds"; did you mean "Tests/All kinds"?)");
+    EXPECT_EQ(ErrorOf("All kidns"),
+              R"(there is no page "All kidns"; did you mean "Tests/All kinds"?)");
+    EXPECT_EQ(ErrorOf(""), R"(there is no page "")");
     EXPECT_EQ(ErrorOf("Tests/"), R"(there is no page "Tests/"; did you mean "Tests"?)");
-    EXPECT_EQ(ErrorOf("\xff"), "there is no page \"\xff\"; did you mean \"Tests\"?");
+    EXPECT_EQ(ErrorOf("\xff"), R"(there is no page "\xFF"; did you mean "Tests"?)");
 }
 
 TEST(PageList, APageThatIsNotBuiltIsRefused)
 {
     EXPECT_EQ(ErrorOf("CTestNotBuiltPage"), R"(the page "Tests/Not built" isn't built yet)");
+}
+
+TEST(PageList, OfEquallyNearPagesTheOneThatIsBuiltIsNamed)
+{
+    const std::vector<TPage> pages{{"A/xa", "CFirst", nullptr, false},
+                                   {"B/xb", "CSecond", gListPages(gTestWizard())[0].pClass, false}};
+    try {
+        gFindPage(pages, "xc");
+        FAIL() << "found";
+    } catch (const CUsageError& rError) {
+        EXPECT_STREQ(rError.what(), R"(there is no page "xc"; did you mean "B/xb"?)");
+    }
 }
 
 TEST(PageList, LabelsAreTranslated)

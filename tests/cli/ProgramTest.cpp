@@ -44,40 +44,52 @@ TEST(Program, EveryWayToMisuseItIsTold)
          Complaint("there is no command \"decsribe\"; did you mean \"describe\"?")},
         {"two subcommands",
          {"pages", "session"},
-         Misread("the following argument was not expected: session")},
+         Misread("the following argument was not expected: \"session\"")},
+        {"only an unknown option",
+         {"--jsn"},
+         Misread("the following argument was not expected: \"--jsn\"")},
         {"unknown option",
          {"--jsn", "pages"},
-         Misread("the following argument was not expected: --jsn")},
+         Misread("the following argument was not expected: \"--jsn\"")},
         {"unknown option of a subcommand",
          {"pages", "--jsn"},
-         Misread("the following argument was not expected: --jsn")},
+         Misread("the following argument was not expected: \"--jsn\"")},
         {"an option of another subcommand",
          {"session", "--json"},
-         Misread("the following argument was not expected: --json")},
+         Misread("the following argument was not expected: \"--json\"")},
         {"an argument too many",
          {"pages", "x"},
-         Misread("the following argument was not expected: x")},
+         Misread("the following argument was not expected: \"x\"")},
         {"arguments too many",
          {"describe", "Settings", "x", "y"},
-         Misread("the following arguments were not expected: y x")},
+         Misread("the following arguments were not expected: \"x\" \"y\"")},
         {"session takes none",
          {"session", "x"},
-         Misread("the following argument was not expected: x")},
+         Misread("the following argument was not expected: \"x\"")},
         {"describe without a page", {"describe"}, Misread("PAGE is required")},
         {"compose without a page", {"compose"}, Misread("PAGE is required")},
         {"an option in place of an action",
          {"compose", kTemperature, "-x"},
-         Misread("the following argument was not expected: -x")},
+         Misread("the following argument was not expected: \"-x\"")},
         {"unknown code page", {"--code-page", "7", "pages"}, Complaint("there is no code page 7")},
         {"a code page that isn't ASCII",
          {"--code-page", "1200", "pages"},
          Complaint("there is no code page 1200")},
         {"a code page that is no number",
          {"--code-page", "x", "pages"},
-         Misread("could not convert: --code-page = x")},
+         Complaint("--code-page takes a number, not \"x\"")},
+        {"a code page in other digits",
+         {"--code-page", "0x4E4", "pages"},
+         Complaint("--code-page takes a number, not \"0x4E4\"")},
+        {"an empty code page",
+         {"--code-page", "", "pages"},
+         Complaint("--code-page takes a number, not \"\"")},
+        {"a code page beyond all numbers",
+         {"--code-page", "99999999999", "pages"},
+         Complaint("there is no code page 99999999999")},
         {"a code page below 0",
          {"--code-page=-1", "pages"},
-         Misread("could not convert: --code-page = -1")},
+         Complaint("--code-page takes a number, not \"-1\"")},
         {"a code page without number",
          {"pages", "--code-page"},
          Misread("--code-page: 1 required NUMBER missing")},
@@ -111,10 +123,28 @@ TEST(Program, EveryWayToMisuseItIsTold)
          Complaint("there is no field \"button-7\"; did you mean \"button-1\"?")},
         {"unknown prefix",
          {"compose", kTemperature, "sweep.start=1"},
-         Complaint("there is no field \"sweep\"; did you mean \"temperature-list\"?")},
+         Complaint("there is no field \"sweep\"")},
         {"no key",
          {"compose", kTemperature, "=27"},
          Complaint("the argument \"=27\" names no field")},
+        {"an action in brackets",
+         {"compose", kTemperature, "[temperature-list=5]"},
+         Complaint("the argument \"[temperature-list=5]\" can't stand in brackets")},
+        {"empty brackets",
+         {"compose", kTemperature, "[]"},
+         Complaint("the argument \"[]\" can't stand in brackets")},
+        {"a list in brackets",
+         {"compose", kTemperature, "[a,b]"},
+         Complaint("the argument \"[a,b]\" can't stand in brackets")},
+        {"a page in brackets",
+         {"describe", "[Settings/Temperature]"},
+         Complaint("the argument \"[Settings/Temperature]\" can't stand in brackets")},
+        {"a key with control characters",
+         {"compose", kTemperature, "a\n\x1b[31m=1"},
+         Complaint("there is no field \"a\\x0A\\x1B[31m\"; did you mean \"temperature-list\"?")},
+        {"an unexpected argument with a line end",
+         {"pages", "a\nb"},
+         Misread("the following argument was not expected: \"a\\x0Ab\"")},
         {"an empty action",
          {"compose", kTemperature, ""},
          Complaint("the argument \"\" names no field")},
@@ -139,7 +169,7 @@ TEST(Program, EveryWayToMisuseItIsTold)
          Complaint("the text for \"temperature-list\" doesn't fit in code page 1252")},
         {"a text that isn't UTF-8",
          {"compose", kTemperature, "temperature-list=\xff"},
-         Complaint("the text for \"temperature-list\" doesn't fit in code page 65001")},
+         Complaint("the text for \"temperature-list\" isn't UTF-8")},
     };
     for (const Case& rCase : cases)
         EXPECT_EQ(gRunQuorvawiz(rCase.arguments), (TProgramRun{"", rCase.sError, 2}))
@@ -203,9 +233,9 @@ TEST(Program, ComposePrintsTheCommand)
         {"JSON is always UTF-8",
          {"compose", kTemperature, "\xff=1", "--json"},
          {"{\"ok\":false,\"command\":null,\"messages\":[],\"questions\":[],"
-          "\"error\":\"there is no field \\\"\ufffd\\\"; did you mean "
+          "\"error\":\"there is no field \\\"\\\\xFF\\\"; did you mean "
           "\\\"temperature-list\\\"?\"}\n",
-          "quorvawiz: there is no field \"\xff\"; did you mean \"temperature-list\"?\n", 2}},
+          "quorvawiz: there is no field \"\\xFF\"; did you mean \"temperature-list\"?\n", 2}},
     };
     for (const Case& rCase : cases)
         EXPECT_EQ(gRunQuorvawiz(rCase.arguments), rCase.run) << rCase.pName;
@@ -249,40 +279,18 @@ TEST(Program, DescribeTellsThePageAsJson)
             "", 0}));
 }
 
-TEST(Program, PagesListsTheTree)
-{
-    const TProgramRun run = gRunQuorvawiz({"pages"});
-    EXPECT_EQ(run.sError, "");
-    EXPECT_EQ(run.nExitCode, 0);
-    EXPECT_TRUE(run.sOut.starts_with(
-        "Analysis                           CAnalysisPage                        ready\n"))
-        << run.sOut;
-    EXPECT_NE(run.sOut.find("Settings/Temperature               "
-                            "CSettingsTemperaturePage             ready\n"),
-              std::string::npos)
-        << run.sOut;
-}
-
-TEST(Program, PagesListsTheSameAsJson)
-{
-    const TProgramRun run = gRunQuorvawiz({"pages", "--json"});
-    EXPECT_EQ(run.sError, "");
-    EXPECT_EQ(run.nExitCode, 0);
-    const auto pages = nlohmann::json::parse(run.sOut);
-    EXPECT_EQ(pages.size(), 55U);
-    EXPECT_EQ(pages[0], nlohmann::json::parse(R"({"path":"Analysis","class":"CAnalysisPage",
-                                                  "category":true,"built":true})"));
-}
-
 TEST(Program, EveryPageThatIsReadyCanBeDescribed)
 {
+    int nReady = 0;
     for (const auto& rPage : nlohmann::json::parse(gRunQuorvawiz({"pages", "--json"}).sOut)) {
         if (!rPage["built"].get<bool>())
             continue;
+        ++nReady;
         const TProgramRun run = gRunQuorvawiz({"describe", rPage["class"].get<std::string>()});
         EXPECT_EQ(run.sError, "") << rPage;
         EXPECT_EQ(run.nExitCode, 0) << rPage;
     }
+    EXPECT_GE(nReady, 9); // the categories at least
 }
 
 TEST(Program, TheVersionIsTold)

@@ -41,6 +41,10 @@ TEST(SessionRequest, SaysWhatIsWrong)
         {"cut off", R"({"op":"state")", "the line isn't JSON from byte 14 on"},
         {"two values", R"({"op":"state"} {})", "the line isn't JSON from byte 16 on"},
         {"a NUL", std::string("{\0}", 3), "the line isn't JSON from byte 2 on"},
+        {"a NUL behind the object", std::string("{\"op\":\"close\"}\0garbage {{", 26),
+         "the line isn't JSON from byte 15 on"},
+        {"a NUL at the end", std::string("{\"op\":\"close\"} \0", 17),
+         "the line isn't JSON from byte 16 on"},
         {"bad UTF-8", "{\"op\":\"\xff\"}", "the line isn't JSON from byte 8 on"},
         {"a lone surrogate", R"({"op":"\ud800"})", "the line isn't JSON from byte 14 on"},
         {"a low surrogate alone", R"({"op":"\udc00x"})", "the line isn't JSON from byte 13 on"},
@@ -57,6 +61,10 @@ TEST(SessionRequest, SaysWhatIsWrong)
         {"unknown member", R"({"op":"set","field":"a","txt":"b"})",
          R"(the request has no member "txt"; did you mean "text"?)"},
         {"a member too many", R"({"op":"state","x":1})", R"(the request has no member "x")"},
+        {"a member twice", R"({"op":"state","op":"close"})",
+         R"(the member "op" stands there twice)"},
+        {"a control character in a name", R"({"op":"a\u0000\u001bb"})",
+         R"(there is no request "a\x00\x1Bb"; did you mean "open"?)"},
         {"no page", R"({"op":"open"})", R"(the member "page" is missing)"},
         {"page is no text", R"({"op":"open","page":null})", R"(the member "page" isn't a text)"},
         {"no field", R"({"op":"set","text":"a"})", R"(the member "field" is missing)"},
@@ -80,9 +88,11 @@ TEST(SessionRequest, SaysWhatIsWrong)
         {"on is a number", R"({"op":"check","field":"a","on":1})",
          R"(the member "on" isn't true or false)"},
         {"unknown key", R"({"op":"key","key":"return"})",
-         R"(there is no key "return"; did you mean "enter"?)"},
+         R"(there is no key "return"; the keys are enter, escape, tab, shift+tab, up, down, )"
+         R"(left, right, space and alt+X)"},
         {"alt and nothing", R"({"op":"key","key":"alt+"})",
-         R"(there is no key "alt+"; did you mean "alt+X"?)"},
+         R"(there is no key "alt+"; the keys are enter, escape, tab, shift+tab, up, down, )"
+         R"(left, right, space and alt+X)"},
         {"answers are no list", R"({"op":"answers","answers":"yes"})",
          R"(the member "answers" isn't a list of "yes" and "no")"},
         {"an answer is neither", R"({"op":"answers","answers":["yes",false]})",
@@ -147,11 +157,27 @@ TEST(SessionRequest, IsReadAsTheStepThatItMeans)
 
 TEST(SessionRequest, EveryKeyIsKnown)
 {
-    for (const char* const pKey :
-         {"enter", "escape", "tab", "shift+tab", "up", "down", "left", "right", "space", "alt+L"})
-        EXPECT_EQ(StepOf(R"({"op":"key","key":")" + std::string(pKey) + "\"}").op, EStep::Key);
-    EXPECT_EQ(StepOf(R"({"op":"key","key":"alt+L"})").key.cMnemonic, 'L');
-    EXPECT_TRUE(StepOf(R"({"op":"key","key":"shift+tab"})").key.bShift);
+    using EKey = TUserKey::EKey;
+    struct Case {
+        const char* pName;
+        EKey key;
+        bool bShift;
+        char cMnemonic;
+    };
+    const std::vector<Case> cases{
+        {"enter", EKey::Enter, false, 0}, {"escape", EKey::Escape, false, 0},
+        {"tab", EKey::Tab, false, 0},     {"shift+tab", EKey::Tab, true, 0},
+        {"up", EKey::Up, false, 0},       {"down", EKey::Down, false, 0},
+        {"left", EKey::Left, false, 0},   {"right", EKey::Right, false, 0},
+        {"space", EKey::Space, false, 0}, {"alt+L", EKey::Mnemonic, false, 'L'},
+    };
+    for (const Case& rCase : cases) {
+        const TStep step = StepOf(R"({"op":"key","key":")" + std::string(rCase.pName) + "\"}");
+        EXPECT_EQ(step.op, EStep::Key) << rCase.pName;
+        EXPECT_EQ(step.key.key, rCase.key) << rCase.pName;
+        EXPECT_EQ(step.key.bShift, rCase.bShift) << rCase.pName;
+        EXPECT_EQ(step.key.cMnemonic, rCase.cMnemonic) << rCase.pName;
+    }
 }
 
 TEST(SessionRequest, AnswersAndFilesAreRead)

@@ -25,6 +25,11 @@ TEST(Suggest, TheNearestIsTheOneWithTheFewestChanges)
         {"letter case", "LIST", {"mist", "list"}, "list"},
         {"a part of the name", "temp", {"step", "temperature-list"}, "temperature-list"},
         {"a short part tells nothing", "te", {"temperature-list", "tea"}, "tea"},
+        {"the part behind the last '/'", "ac", {"a/acs", "b/ac"}, "b/ac"},
+        {"the whole name first", "ac", {"b/ac", "AC"}, "AC"},
+        {"a slip in that part", "tempature", {"stability", "x/temperature"}, "x/temperature"},
+        {"one of the words", "dc", {"x/ac", "x/dc guess"}, "x/dc guess"},
+        {"a word in a word is none", "dc", {"x/ac", "x/dcx-abc"}, "x/ac"},
         {"of equals the first", "b", {"a", "c"}, "a"},
         {"nothing alike", "xyz", {"add", "clear"}, "add"},
         {"empty", "", {"clear", "add"}, "add"},
@@ -46,16 +51,6 @@ TEST(Suggest, TheQuestionNamesTheNearest)
     const std::vector<std::string> candidates{"list", "add"};
     EXPECT_EQ(gDidYouMean("lst", candidates), "; did you mean \"list\"?");
     EXPECT_EQ(gDidYouMean("lst", {}), "");
-}
-
-TEST(Suggest, AQuoteIsCutBetweenCharacters)
-{
-    EXPECT_EQ(gQuoted("a\"b"), "\"a\"b\"");
-    std::string sLong(79, 'x');
-    EXPECT_EQ(gQuoted(sLong + "\u00e9!"), "\"" + sLong + "...\"");
-    sLong += 'x';
-    EXPECT_EQ(gQuoted(sLong), "\"" + sLong + "\"");
-    EXPECT_EQ(gQuoted(sLong + 'x'), "\"" + sLong + "...\"");
 }
 } // namespace
 } // namespace quorvawiz::cli

@@ -176,6 +176,8 @@ public:
             rsCommand += " row=" + mTable.GetItemText(mTable.GetSelectedRow(), 0);
         if (mTabs.GetCurSel() > 0)
             rsCommand += " tab";
+        if (const CString& rsNote = GetDlgItem(kNote)->GetWindowText(); rsNote != "a note")
+            rsCommand += " note=" + rsNote;
         rsCommand += msSweep;
         sRemembered.Set(mFields);
         return true;
@@ -245,8 +247,12 @@ private:
 
 namespace
 {
-constexpr auto kLoneRows =
-    JoinRows(LabelAbove(Row(kName, "name", EControl::Edit, "", At(1)), "&Name:"));
+constexpr auto kLoneRows = JoinRows(
+    LabelAbove(Row(kName, "name", EControl::Edit, "", At(1)), "&Name:"),
+    Row(kList, "empty", EControl::ListBox, "", At(2), kUnlabelled),
+    Row(kAc, "two-lines", EControl::CheckBox, "Two\nlines", At(4)),
+    Row(kNote, "note", EControl::Static,
+        "1234567890 234567890 234567890 2345\u00e7\u00e8\u00e9\n\u00ea and no more", At(5)));
 constexpr DialogTemplate kLoneTemplate{903, "Lone", kPageSize, kLoneRows};
 constexpr std::array kCategoryRows{Row(1, "heading", EControl::Static, "Tests", At(1))};
 constexpr DialogTemplate kCategoryTemplate{904, "Tests", kPageSize, kCategoryRows};
@@ -259,7 +265,7 @@ public:
     bool BuildCommand(CString& rsCommand) override
     {
         rsCommand = ".lone " + GetDlgItem(kName)->GetWindowText();
-        return true;
+        return rsCommand != ".lone nothing"; // a page may refuse without a word
     }
 };
 

@@ -274,7 +274,8 @@ std::vector<std::string> gCompareWindowsWithModels()
 {
     std::vector<std::string> findings;
     for (const TModalRun* pRun : gDesktop().Thread().mModalRuns)
-        for (std::string& rsFinding : gCompareWindowWithModel(dynamic_cast<CDialog&>(*pRun->pWindow)))
+        for (std::string& rsFinding :
+             gCompareWindowWithModel(dynamic_cast<CDialog&>(*pRun->pWindow)))
             findings.push_back(std::move(rsFinding));
     return findings;
 }

@@ -112,7 +112,7 @@ const TCase kCases[] = {
       "cells:double-clicked"}},
     {"tabs by mouse and keys",
      {"click views@1", "press Right", "press Right", "press Left"},
-     {"views:sel-change", "views:sel-change", "views:sel-change", "views:sel-change"},
+     {"views:sel-change", "views:sel-change", "views:sel-change"}, // none at the end
      [](CSampleDialog& rDialog) {
          rDialog.GetDlgItem(kViews)->MoveWindow({60, 138, 135, 24});
      }},

@@ -1,4 +1,4 @@
-#include "cli/SinglePageDlg.h"
+#include "wizard/frame/SinglePageDlg.h"
 
 #include "platform/base/Exceptions.h"
 #include "wizard/frame/CommandPage.h"
