@@ -1,5 +1,5 @@
-// The smallest host: it sees installed headers and the two installed libraries, nothing else. It shows
-// the real wizard on its own widget and closes it as soon as it is up.
+// The smallest host: it sees installed headers and the two installed libraries, nothing else. It
+// shows the real wizard on its own widget and closes it as soon as it is up.
 
 #include "exports/Quorvawiz.h"
 #include "platform/qt/QtDesktop.h"
@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QWidget>
-
 #include <iostream>
 
 int main(int nCount, char** pArguments)
