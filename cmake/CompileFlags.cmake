@@ -10,9 +10,6 @@ target_compile_options(quorvawiz-flags INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow
     $<$<BOOL:${QUORVAWIZ_WERROR}>:-Werror>)
 
-# A unique symbol would keep a shared library in the process after its last dlclose.
-target_compile_options(quorvawiz-flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
-
 # Checks of the standard library's own preconditions cost little and find what a test only brushes.
 target_compile_definitions(quorvawiz-flags INTERFACE
     $<$<NOT:$<CONFIG:Release,MinSizeRel>>:_GLIBCXX_ASSERTIONS>)

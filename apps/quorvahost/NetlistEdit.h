@@ -9,7 +9,7 @@ namespace quorvawiz::host
 class CLineNumbers;
 class CSpiceHighlighter;
 
-/// Up to how many characters a netlist is coloured. Colouring a text of this size takes about a
+/// Up to how many characters a netlist is coloured. Colouring a text of this size takes part of a
 /// second, and it is done at once.
 inline constexpr int kLargestColoured = 4'000'000;
 

@@ -18,7 +18,7 @@ QString ShortestOwnEnd(const QStringList& rFiles, const QString& rsPath)
 {
     const qsizetype nAll = rsPath.count(QLatin1Char('/')) + 1;
     for (qsizetype nParts = 1; nParts < nAll; ++nParts) {
-        const QString sEnd = EndOfPath(rsPath, nParts);
+        QString sEnd = EndOfPath(rsPath, nParts);
         qsizetype nSharers = 0;
         for (const QString& rsOther : rFiles)
             nSharers += EndOfPath(rsOther, nParts) == sEnd ? 1 : 0;

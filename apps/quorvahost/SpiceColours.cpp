@@ -19,7 +19,6 @@ TLook LookOf(EToken kind)
     case EToken::Comment:
         return {.nLight = 0x5F6B76, .nDark = 0x9AA5B1, .bItalic = true};
     case EToken::Directive:
-        return {.nLight = 0x8A1C7C, .nDark = 0xE29BDB, .bBold = true};
     case EToken::Continuation:
         return {.nLight = 0x8A1C7C, .nDark = 0xE29BDB, .bBold = true};
     case EToken::Name:

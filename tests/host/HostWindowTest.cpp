@@ -33,6 +33,13 @@ using ::testing::HasSubstr;
 
 class HostWindow : public testing::Test
 {
+public:
+    ~HostWindow() override
+    {
+        EXPECT_TRUE(mUser.HasMetAll());
+        EXPECT_NO_THROW(mUser.RethrowFailure());
+    }
+
 protected:
     HostWindow()
     {
@@ -41,12 +48,6 @@ protected:
         mpWindow->show();
         mpWindow->activateWindow();
         CUser::Settle();
-    }
-
-    ~HostWindow() override
-    {
-        EXPECT_TRUE(mUser.HasMetAll());
-        EXPECT_NO_THROW(mUser.RethrowFailure());
     }
 
     /// Meets the next box: its text must hold a part, and the answer is a key.

@@ -17,6 +17,13 @@ namespace
 {
 class HostWizard : public testing::Test
 {
+public:
+    ~HostWizard() override
+    {
+        EXPECT_TRUE(mUser.HasMetAll());
+        EXPECT_NO_THROW(mUser.RethrowFailure());
+    }
+
 protected:
     HostWizard()
     {
@@ -24,12 +31,6 @@ protected:
         mpWindow->show();
         mpWindow->activateWindow();
         CUser::Settle();
-    }
-
-    ~HostWizard() override
-    {
-        EXPECT_TRUE(mUser.HasMetAll());
-        EXPECT_NO_THROW(mUser.RethrowFailure());
     }
 
     /// Opens the wizard by its shortcut and acts on its window.
