@@ -39,7 +39,7 @@ constexpr auto kRows = JoinRows(
                      "&Output start time (0):", "sec"),
     Row(kSweepGroup, "sweep-group", EControl::Group, "Sweep", {7, 152, 235, 37}),
     SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2", 14, 168));
-// The texts of two modes are given with the same letter.
+// Two modes share a letter.
 constexpr DialogTemplate kTemplate{117, "Transient", kPageSize, kRows, "r"};
 
 Remembered<CAnalysisTransientPage::TFields> sRemembered;

@@ -39,6 +39,7 @@ const TCase kCases[] = {
     {"trimmed on the left only", " out ", " in2 ", " vin ", {".noise v(out ,in2 ) vin "}, {}},
     {"the first letter is looked at alone", "out", "", "input", {".noise v(out) input"}, {}},
     {"V", "out", "", "Vcc1", {".noise v(out) Vcc1"}, {}},
+    {"v", "out", "", "vcc1", {".noise v(out) vcc1"}, {}},
     {"I", "out", "", "I2", {".noise v(out) I2"}, {}},
     {"another letter", "out", "", "r1", {}, {kIllegalName}},
     {"nothing: the source is missed first",

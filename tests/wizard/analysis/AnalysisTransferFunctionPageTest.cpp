@@ -36,6 +36,7 @@ const TCase kCases[] = {
     {"trimmed on the left only", " v(out) ", " i1 ", {".tf v(out)  i1 "}, {}},
     {"the first letter is looked at alone", "v(out)", "input", {".tf v(out) input"}, {}},
     {"V", "v(out)", "Vcc1", {".tf v(out) Vcc1"}, {}},
+    {"v", "v(out)", "vcc1", {".tf v(out) vcc1"}, {}},
     {"I", "v(out)", "I2", {".tf v(out) I2"}, {}},
     {"another letter", "v(out)", "r1", {}, {kIllegalName}},
     {"nothing: the source is missed first",

@@ -54,6 +54,15 @@ protected:
     }
 };
 
+TEST_F(StepSweepLife, WithoutAResultItStartsAnewEvenIfNotAskedTo)
+{
+    CScript script;
+    for (const CScript::TAction& rLook : Fresh())
+        script.Then(rLook);
+    mpDialog->Prepare("sweep ", false);
+    script.Run(mDesktop, [this] { mpDialog->DoModal(); });
+}
+
 TEST_F(StepSweepLife, AFreshDialogHasNoResult)
 {
     EXPECT_EQ(mpDialog->GetResult(), "");
