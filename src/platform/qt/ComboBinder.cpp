@@ -33,7 +33,8 @@ public:
         connect(&Widget(), &QComboBox::highlighted, this, [this](int nIndex) { OnMark(nIndex); });
         mpList = Widget().view();
         mpList->installEventFilter(this);
-        mpList->viewport()->installEventFilter(this);
+        mpViewport = Widget().view()->viewport();
+        mpViewport->installEventFilter(this);
     }
 
     ~CComboPeer() override
@@ -46,7 +47,7 @@ public:
     {
         if (mpList && pObject == mpList)
             OnListEvent(*pEvent);
-        else if (mpList && pObject == mpList->viewport() && pEvent->type() == QEvent::MouseMove)
+        else if (mpViewport && pObject == mpViewport && pEvent->type() == QEvent::MouseMove)
             mbMarkByKey = false;
         return CQtPeer::eventFilter(pObject, pEvent);
     }
@@ -119,8 +120,10 @@ private:
     }
 
     QPointer<CItemListModel> mpItems;
-    QPointer<QAbstractItemView> mpList; ///< that opens; set when it is whole
-    int mnChoiceBefore = -1;            ///< when the list was opened
+    // As plain objects: the last events come when no more than that is left of them.
+    QPointer<QObject> mpList;     ///< that opens; set when it is whole
+    QPointer<QObject> mpViewport; ///< of the list
+    int mnChoiceBefore = -1;      ///< when the list was opened
     bool mbMarkByKey = false;
 };
 } // namespace
