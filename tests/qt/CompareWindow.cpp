@@ -151,8 +151,9 @@ private:
     /// The widget's own `toPlainText` shows no-break blanks as plain ones.
     static QString LinesOf(const QPlainTextEdit& rEdit)
     {
-        return rEdit.document()->toRawText().replace(QChar(QChar::ParagraphSeparator),
-                                                     QLatin1Char('\n'));
+        QString sText = rEdit.document()->toRawText();
+        sText.replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
+        return sText.replace(QChar(QChar::ParagraphSeparator), QLatin1Char('\n'));
     }
 
     void CompareEntries(int nShown, const std::function<QString(int)>& getShown,
@@ -223,7 +224,6 @@ private:
             const TListColumn& rColumn = rTable.GetColumns()[static_cast<std::size_t>(c)];
             Expect("heading", rCells.headerData(c, Qt::Horizontal).toString(),
                    gToQString(rColumn.sHeading));
-            Expect("width", rWidget.columnWidth(c), rColumn.nWidth);
             for (int r = 0; r < rTable.GetItemCount(); ++r)
                 Expect("cell", rCells.index(r, c).data().toString(),
                        gToQString(rTable.GetItemText(r, c)));

@@ -18,6 +18,7 @@
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTableView>
 
 // Every kind of control in a real window. The player compares window and model after each input.
 
@@ -245,6 +246,10 @@ TEST(ControlWindow, WhatHandlersWriteShowsAtOnce)
             rDialog.CheckRadioButton(kLow, kHigh, kHigh);
         });
         rPlayer.Do({"click name", "type a", "type b"});
+        rPlayer.Then("look", [&] {
+            EXPECT_EQ(WidgetOf<QTableView>(rDialog, kCells).columnWidth(0), 30);
+            EXPECT_EQ(WidgetOf<QTableView>(rDialog, kCells).columnWidth(1), 60);
+        });
     });
 }
 

@@ -34,12 +34,22 @@ void CPlayer::Play(const std::function<void()>& rRun)
 {
     mWaiting = QDeadlineTimer(kLongestWait);
     mnTimer = startTimer(0);
+    qApp->installEventFilter(this);
     rRun();
+    qApp->removeEventFilter(this);
     killTimer(mnTimer);
     EXPECT_EQ(mnNext, mTurns.size())
         << "the run ended before '" << (mnNext < mTurns.size() ? mTurns[mnNext].sName : "") << "'";
     // What was left to the event loop ends now.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+bool CPlayer::eventFilter(QObject* pObject, QEvent* pEvent)
+{
+    const auto* const pWidget = qobject_cast<const QWidget*>(pObject);
+    if (pEvent->type() == QEvent::Show && pWidget && pWidget->windowType() == Qt::Popup)
+        mbHadPopup = true;
+    return false;
 }
 
 void CPlayer::timerEvent(QTimerEvent*)
@@ -62,6 +72,11 @@ void CPlayer::timerEvent(QTimerEvent*)
 /// A window that has just been opened takes keys only when the window system has said so.
 bool CPlayer::IsWindowReady()
 {
+    QWidget* const pFront = QApplication::activeModalWidget();
+    // A window system gives the keyboard back when a menu closes; without a screen nobody does.
+    if (!QGuiApplication::focusWindow() && !QApplication::activePopupWidget() && pFront &&
+        std::exchange(mbHadPopup, false))
+        pFront->activateWindow();
     if (QGuiApplication::focusWindow()) {
         if (mnNext < mTurns.size())
             mWaiting = QDeadlineTimer(kLongestWait);

@@ -30,6 +30,7 @@ public:
     void Play(const std::function<void()>& rRun);
 
 protected:
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
     void timerEvent(QTimerEvent* pEvent) override;
 
 private:
@@ -47,6 +48,7 @@ private:
     std::size_t mnNext = 0;
     int mnTimer = 0;
     QDeadlineTimer mWaiting;
+    bool mbHadPopup = false;
     int mnBusyLevel = -1; ///< the level of the event loop in which a turn is under way
 };
 

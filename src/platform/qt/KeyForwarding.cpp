@@ -70,6 +70,9 @@ std::optional<TUserKey> gUserKeyOf(const QKeyEvent& rEvent)
     const bool bDigit = nKey >= Qt::Key_0 && nKey <= Qt::Key_9;
     if (modifiers == Qt::AltModifier && (bLetter || bDigit))
         return TUserKey{EKey::Mnemonic, false, static_cast<char>(nKey)};
+    const bool bEnter = nKey == Qt::Key_Return || nKey == Qt::Key_Enter;
+    if (bEnter && modifiers == Qt::ShiftModifier)
+        return TUserKey{EKey::Enter, true};
     return modifiers == Qt::NoModifier ? PlainKeyOf(nKey) : std::nullopt;
 }
 

@@ -28,7 +28,11 @@ void PlaceOver(QWidget& rWindow, const QWidget& rOwner)
 
 QWidget* gOwnerWidgetOf(const CWnd* pOwner)
 {
-    return pOwner ? gWidgetOf(*pOwner) : QApplication::activeWindow();
+    if (pOwner)
+        return gWidgetOf(*pOwner);
+    // Who has become active is told a moment later; what is modal is in front at once.
+    QWidget* const pModal = QApplication::activeModalWidget();
+    return pModal ? pModal : QApplication::activeWindow();
 }
 
 void gTieToOwner(QWidget& rWindow, const QWidget* pOwner)

@@ -140,6 +140,8 @@ void CQtPeer::PullFocus()
     // With the reason "Tab" an edit marks its text, so that what is typed next replaces it.
     if (QWidget* const pWindow = mpWidget->window(); pWindow->focusWidget() != mpFocusWidget)
         mpFocusWidget->setFocus(mrDesktop.IsInKey() ? Qt::TabFocusReason : Qt::OtherFocusReason);
+    // A list that gets the keyboard puts its mark on the first entry of its own accord.
+    PullSelection();
 }
 
 TDialogUnits CQtPeer::GetUnits() const
