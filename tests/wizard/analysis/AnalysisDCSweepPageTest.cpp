@@ -121,13 +121,13 @@ TEST(OlderDCSweepPage, AllTwelveAreTrimmedBeforeTheFirstCheck)
 {
     // Seen once the members go back into the controls.
     const auto showMembers = [](CDialog& rDialog) { gCurrentPane(rDialog).UpdateData(false); };
-    gRunSinglePage(kClass, CScript()
-                               .Do(Direction(1, "r1", "0", "5", "1"))
-                               .Do(Direction(3, " v3 ", " 1 ", " 2 ", " 3 "))
-                               .Do({Insert()})
-                               .Then(showMembers)
-                               .Look({look::Text("source-name-3", "v3"),
-                                      look::Text("increment-3", "3")}));
+    gRunSinglePage(kClass,
+                   CScript()
+                       .Do(Direction(1, "r1", "0", "5", "1"))
+                       .Do(Direction(3, " v3 ", " 1 ", " 2 ", " 3 "))
+                       .Do({Insert()})
+                       .Then(showMembers)
+                       .Look({look::Text("source-name-3", "v3"), look::Text("increment-3", "3")}));
 }
 
 TEST(OlderDCSweepPage, NothingIsRemembered)

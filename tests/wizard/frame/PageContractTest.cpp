@@ -125,6 +125,13 @@ TEST_F(PageContract, AValueOfOnlyBlanksIsPresentOnAPageThatDoesNotTrim)
     EXPECT_EQ(mTarget.mCommands, std::vector<std::string>{".sample     "});
 }
 
+TEST_F(PageContract, ASecondPressWithUnchangedFieldsInsertsTheSameTextAgain)
+{
+    Run(CScript().Do(
+        {Open("C/Sample"), Set("first", "a"), Set("second", "b"), Insert(), Insert()}));
+    EXPECT_EQ(mTarget.mCommands, (std::vector<std::string>{".sample a b", ".sample a b"}));
+}
+
 TEST_F(PageContract, AFailedCheckLeavesTheRememberedValuesOfAllFieldsEvenOfThoseThatPassed)
 {
     Run(CScript().Do({Open("C/Sample"), Set("first", "a"), Set("second", "b"), Insert(),
