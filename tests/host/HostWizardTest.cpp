@@ -1,9 +1,9 @@
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
-#include "host/WizardUser.h"
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/HostWindow.h"
 #include "quorvahost/NetlistEdit.h"
+#include "quorvahost/tour/WizardUser.h"
 
 #include <gtest/gtest.h>
 

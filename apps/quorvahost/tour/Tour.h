@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quorvahost/tour/User.h"
+#include "quorvahost/tour/WizardUser.h"
 
 #include <QString>
 
@@ -25,6 +25,10 @@ private:
     void VisitEditor();
     void VisitToolsMenu();
     void VisitWizard(QWidget& rWizard);
+    void InsertTemperature(QWidget& rWizard);
+    void InsertTransient(QWidget& rWizard);
+    void InsertAC(QWidget& rWizard);
+    void InsertDC(QWidget& rWizard);
     void VisitFindBar();
     void VisitFileDialogs();
     void Leave();
@@ -35,7 +39,7 @@ private:
     CHostWindow& mrWindow;
     QString msFile;
     QString msFolder;
-    CUser mUser;
+    CWizardUser mUser;
     int mnPictures = 0;
 };
 
