@@ -41,6 +41,7 @@ endfunction()
 # display.<suite>, which run them once more, on a virtual X display, with Qt's platform of real ones.
 # Without Xvfb, or without the suite, they fail.
 function(quorvawiz_add_display_tests target)
+    set(leaks "print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/cmake/SystemLeaks.txt")
     foreach(suite IN LISTS ARGN)
         add_test(NAME display.${suite}
             COMMAND xvfb-run --auto-servernum "--server-args=-screen 0 1280x1024x24"
@@ -49,7 +50,7 @@ function(quorvawiz_add_display_tests target)
         set_tests_properties(display.${suite} PROPERTIES
             LABELS display
             RESOURCE_LOCK display
-            ENVIRONMENT QT_QPA_PLATFORM=xcb
+            ENVIRONMENT "QT_QPA_PLATFORM=xcb;LSAN_OPTIONS=${leaks}"
             FAIL_REGULAR_EXPRESSION "Running 0 tests|\\[  SKIPPED \\]|YOU HAVE [0-9]+ DISABLED")
     endforeach()
 endfunction()

@@ -85,6 +85,7 @@ TEST_F(EndToEnd, ATemperatureGoesIntoTheFile)
     InWizard([this](QWidget& rWizard) {
         mUser.OpenPage(rWizard, QStringLiteral("Settings"), QStringLiteral("Temperature"));
         mUser.Press(QKeySequence(Qt::ALT | Qt::Key_L));
+        mUser.Press(QKeySequence::SelectAll); // of an earlier run
         mUser.Type(QStringLiteral("0 27 85"));
         // Enter starts a new line in the field. The button takes the keyboard with its letter, and
         // Enter presses it once more.
