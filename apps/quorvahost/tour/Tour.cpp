@@ -40,6 +40,7 @@ void CTour::Run()
     VisitToolsMenu();
     VisitFindBar();
     VisitFileDialogs();
+    VisitAbout();
     Leave();
 }
 
@@ -185,6 +186,21 @@ void CTour::VisitFileDialogs()
     mUser.Press(QKeySequence::New);
     mUser.RethrowFailure();
     Expect(mUser.HasMetAll(), "a dialog for a file, and a question about unsaved work");
+}
+
+void CTour::VisitAbout()
+{
+    mUser.Meet([this](QWidget&) {
+        mUser.Meet([this](QWidget& rBox) {
+            Picture(rBox, "about");
+            mUser.Press(QKeySequence(Qt::Key_Escape));
+        });
+        mUser.Press(QKeySequence(Qt::Key_A));
+    });
+    mUser.Press(QKeySequence(Qt::ALT | Qt::Key_H));
+    CUser::Settle();
+    mUser.RethrowFailure();
+    Expect(mUser.HasMetAll(), "Help > About");
 }
 
 void CTour::Leave()

@@ -31,6 +31,7 @@ private:
     void InsertDC(QWidget& rWizard);
     void VisitFindBar();
     void VisitFileDialogs();
+    void VisitAbout();
     void Leave();
 
     /// Keeps a picture of a window, with another one in front of it if there is one.
