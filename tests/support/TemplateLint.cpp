@@ -229,15 +229,32 @@ bool IsRotation(TRows order, const TRows& rWanted)
     return order == rWanted;
 }
 
-void LintTabOrder(const DialogTemplate& rTemplate, TFindings& rFindings)
+bool IsInReadingOrder(const DialogTemplate& rTemplate)
 {
     TRows order;
     for (const TControlRow& rRow : rTemplate.rows)
         if (IsTabStop(rRow.kind))
             order.push_back(&rRow);
-    if (!IsRotation(order, ReadingOrder(rTemplate, false)) &&
-        !IsRotation(order, ReadingOrder(rTemplate, true)))
-        rFindings.push_back("the tab order isn't the reading order");
+    return IsRotation(order, ReadingOrder(rTemplate, false)) ||
+           IsRotation(order, ReadingOrder(rTemplate, true));
+}
+
+void LintTabOrder(const DialogTemplate& rTemplate, TFindings& rFindings)
+{
+    unsigned nLayers = 0;
+    for (const TControlRow& rRow : rTemplate.rows)
+        nLayers |= rRow.nLayers;
+    // Layer by layer: what is never seen together has no order.
+    for (unsigned nLayer = 1; nLayer != 0 && (nLayer == 1 || nLayer <= nLayers); nLayer <<= 1) {
+        std::vector<TControlRow> rows;
+        for (const TControlRow& rRow : rTemplate.rows)
+            if (rRow.nLayers == 0 || (rRow.nLayers & nLayer) != 0)
+                rows.push_back(rRow);
+        if (!IsInReadingOrder({rTemplate.pCaption, rTemplate.size, rows})) {
+            rFindings.push_back("the tab order isn't the reading order");
+            return;
+        }
+    }
 }
 } // namespace
 

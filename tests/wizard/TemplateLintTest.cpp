@@ -14,8 +14,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 namespace
 {
 using TTemplates = std::vector<const DialogTemplate*>;
@@ -57,15 +55,7 @@ TTemplates AllTemplates()
 TEST(TemplateLint, FindsNothingInTheTemplatesOfTheWizard)
 {
     for (const DialogTemplate* pTemplate : AllTemplates())
-        EXPECT_EQ(gLintTemplate(*pTemplate), std::vector<std::string>{})
-            << "template " << pTemplate->nId << ", " << pTemplate->pCaption;
-}
-
-TEST(TemplateLint, TheNumbersOfTheTemplatesAreUnique)
-{
-    std::map<int, const DialogTemplate*> seen;
-    for (const DialogTemplate* pTemplate : AllTemplates())
-        EXPECT_TRUE(seen.emplace(pTemplate->nId, pTemplate).second) << pTemplate->nId;
+        EXPECT_EQ(gLintTemplate(*pTemplate), std::vector<std::string>{}) << pTemplate->pCaption;
 }
 
 TEST(TemplateLint, EveryPageFillsThePane)
@@ -108,7 +98,7 @@ TEST(WizardMnemonics, ASharedOneIsFoundUnlessItIsNamed)
     const auto rows = JoinRows(Row(1, "a", EControl::PushButton, "&Xa", {0, 0, 20, 14}),
                                Row(2, "b", EControl::PushButton, "&Xb", {0, 20, 20, 14}));
     for (const auto& [pNamed, pFound] : {std::pair{"", "x"}, {"x", ""}, {"y", "x"}}) {
-        const DialogTemplate sample{1, "Sample", {60, 60}, rows, pNamed};
+        const DialogTemplate sample{"Sample", {60, 60}, rows, pNamed};
         HeadlessDesktop desktop;
         CDialog dialog(sample);
         CScript()
@@ -215,6 +205,15 @@ const TCase kCases[] = {
      {Button(1, "a", {0, 20, 20, 14}), Button(2, "b", {0, 0, 20, 14}),
       Button(3, "c", {0, 40, 20, 14})},
      {"the tab order isn't the reading order"}},
+    {"an upper one behind a lower one of another layer",
+     {Row(1, "a", EControl::PushButton, "&A", {0, 20, 20, 14}, kNoFlags, kOneLayer),
+      Row(2, "b", EControl::PushButton, "&B", {0, 0, 20, 14}, kNoFlags, kOtherLayer)},
+     {}},
+    {"an upper one behind a lower one of the same layer",
+     {Row(1, "a", EControl::PushButton, "&A", {0, 20, 20, 14}, kNoFlags, kOtherLayer),
+      Row(2, "b", EControl::PushButton, "&B", {0, 0, 20, 14}, kNoFlags, kOtherLayer),
+      Row(3, "c", EControl::PushButton, "&C", {0, 40, 20, 14})},
+     {"the tab order isn't the reading order"}},
     {"one group beside another",
      {Row(1, "g", EControl::Group, "Left", {0, 0, 40, 60}), Button(2, "a", {5, 10, 20, 14}),
       Button(3, "b", {5, 30, 20, 14}), Row(4, "h", EControl::Group, "Right", {50, 0, 40, 60}),
@@ -225,7 +224,6 @@ const TCase kCases[] = {
 TEST(TemplateLint, FindsWhatIsWrongAndNothingElse)
 {
     for (const TCase& rCase : kCases)
-        EXPECT_EQ(gLintTemplate({1, "Sample", {100, 100}, rCase.rows}), rCase.findings)
-            << rCase.pName;
+        EXPECT_EQ(gLintTemplate({"Sample", {100, 100}, rCase.rows}), rCase.findings) << rCase.pName;
 }
 } // namespace

@@ -66,7 +66,6 @@ constexpr TControlRow Row(int nId, const char* pKey, EControl kind, const char* 
 /// A dialog or a pane as data. Every desktop gives a dialog a fixed frame with a caption and a
 /// system menu, without minimise and maximise boxes.
 struct DialogTemplate {
-    int nId; ///< the template's number, unique among all templates
     const char* pCaption;
     TSize size;
     std::span<const TControlRow> rows; ///< in tab order

@@ -3,8 +3,8 @@
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/Fields.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
 #include "platform/ui/Translate.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
@@ -32,29 +32,30 @@ constexpr unsigned kRangeLayer = 1;
 constexpr unsigned kListLayer = 2;
 constexpr unsigned kPoiLayer = 4;
 
-constexpr TGrid kFrom{14, 24, 42, 74, 0, 0, 86, 0};
-constexpr TGrid kTo{133, 16, 153, 74, 0, 0, 86, 0};
-constexpr TGrid kCount{7, 126, 137, 60, 0, 0, 127, 0};
-constexpr TControlRow kTypeRow = Row(kSamplingType, "sampling-type", EControl::DropDownList, "",
-                                     {107, 7, 90, kEditHeight}, kNoFlags, 0, kSamplingTypes);
-constexpr auto kRows = JoinRows(
-    LabelFor(kTypeRow, "&Frequency sampling type:", {7, 9, 96, kLabelHeight}), kTypeRow,
-    Row(kSamplesGroup, "samples-group", EControl::Group, "Fr&equencies per linear",
-        {7, 28, 235, 36}, kNoFlags, kRangeLayer),
-    Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "", {42, 44, 74, kEditHeight},
-        kUnlabelled, kRangeLayer),
-    LabelAbove(Row(kListOfValues, "list-of-values", EControl::MultilineEdit, "", {7, 41, 235, 78},
-                   kWantReturn, kListLayer | kPoiLayer),
-               "&List frequency values, separated by spaces:"),
-    Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 70, 235, 36}, kNoFlags,
-        kRangeLayer),
-    EditLine(kFrom, 0, kStartFrequency, "start-frequency", "F&rom:", kNoFlags, kRangeLayer),
-    EditLine(kTo, 0, kFinalFrequency, "final-frequency", "&To:", kNoFlags, kRangeLayer),
-    EditLine(kCount, 0, kCountOfListedValues, "count-of-listed-values",
-             "&Number of frequency values listed:", kNoFlags, kPoiLayer),
-    Row(kSweepGroup, "sweep-group", EControl::Group, "Sweep", {7, 152, 235, 37}),
-    SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2", 14, 168));
-constexpr DialogTemplate kTemplate{110, "AC", kPageSize, kRows};
+constexpr TColumns kType{.nField = 107};
+constexpr TColumns kFrom{.nField = 42};
+constexpr TColumns kTo{.nField = 153};
+constexpr TColumns kCount{.nField = 137};
+constexpr auto kRanges = OnLayers(
+    kRangeLayer,
+    Lines(GroupBox(kSamplesGroup, "samples-group", "Fr&equencies per linear",
+                   At(Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "",
+                          {42, 0, 82, kEditHeight}, kUnlabelled))),
+          GroupBox(kRangeGroup, "range-group", "Frequency range",
+                   Beside(130, EditLine(kFrom, kStartFrequency, "start-frequency", "F&rom:"),
+                          EditLine(kTo, kFinalFrequency, "final-frequency", "&To:")))));
+constexpr auto kListing = Lines(
+    OnLayers(kListLayer | kPoiLayer, TextBox(kListOfValues, "list-of-values",
+                                             "&List frequency values, separated by spaces:", 78)),
+    OnLayers(kPoiLayer, EditLine(kCount, kCountOfListedValues, "count-of-listed-values",
+                                 "&Number of frequency values listed:")));
+constexpr auto kRows =
+    PageRows(DropDownLine(kType, kSamplingType, "sampling-type",
+                          "&Frequency sampling type:", kSamplingTypes),
+             SameTop(kRanges, kListing),
+             GroupBox(kSweepGroup, "sweep-group", "Sweep",
+                      SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2")));
+constexpr DialogTemplate kTemplate{"AC", kPageSize, kRows};
 
 Remembered<CAnalysisAC1Page::TFields> sRemembered;
 
@@ -147,10 +148,8 @@ bool CAnalysisAC1Page::BuildCommand(CString& rsCommand)
 {
     UpdateData(true);
     mFields.mnSamplingType = mSamplingType.GetCurSel();
-    for (CString* pField :
-         {&mFields.msNumberOfSamples, &mFields.msStartFrequency, &mFields.msListOfValues,
-          &mFields.msFinalFrequency, &mFields.msCountOfListedValues})
-        pField->TrimLeft();
+    gTrimLeft(mFields.msNumberOfSamples, mFields.msStartFrequency, mFields.msListOfValues,
+              mFields.msFinalFrequency, mFields.msCountOfListedValues);
     rsCommand = ".ac "; // meant: before the checks, so that a failed one leaves it there
     if (!AppendFrequencies(rsCommand))
         return false;

@@ -2,8 +2,8 @@
 
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
 #include "platform/ui/Translate.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 
 namespace
@@ -17,26 +17,19 @@ enum EControlId {
     kFinalFrequency,
 };
 
-constexpr TControlRow SamplingType(int nId, const char* pLabel, unsigned nFlags = kNoFlags)
-{
-    return Row(nId, "sampling-type", EControl::RadioButton, pLabel,
-               {7, 7 + (nId - CAnalysisACPage::kDecade) * 14, 100, 12}, nFlags);
-}
-
-constexpr TGrid kFrom{14, 24, 42, 74, 0, 0, 113, 0};
-constexpr TGrid kTo{133, 16, 153, 74, 0, 0, 113, 0};
-constexpr auto kRows =
-    JoinRows(SamplingType(CAnalysisACPage::kDecade, "&DEC  (by decades)", kFirstOfGroup),
-             SamplingType(CAnalysisACPage::kOctave, "&OCT  (by octaves)"),
-             SamplingType(CAnalysisACPage::kLinear, "&LIN  (linear sweep)"),
-             Row(kSamplesGroup, "samples-group", EControl::Group, "Frequencies per decade",
-                 {7, 55, 235, 36}),
-             Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "",
-                 {42, 71, 74, kEditHeight}, kUnlabelled),
-             Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 97, 235, 36}),
-             EditLine(kFrom, 0, kStartFrequency, "start-frequency", "F&rom:"),
-             EditLine(kTo, 0, kFinalFrequency, "final-frequency", "&To:"));
-constexpr DialogTemplate kTemplate{119, "AC analysis", kPageSize, kRows};
+constexpr TColumns kFrom{.nField = 42};
+constexpr TColumns kTo{.nField = 153};
+constexpr auto kRows = PageRows(
+    RadioLine(CAnalysisACPage::kDecade, "sampling-type", "&DEC  (by decades)", kFirstOfGroup),
+    RadioLine(CAnalysisACPage::kOctave, "sampling-type", "&OCT  (by octaves)"),
+    RadioLine(CAnalysisACPage::kLinear, "sampling-type", "&LIN  (linear sweep)"),
+    GroupBox(kSamplesGroup, "samples-group", "Frequencies per decade",
+             At(Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "",
+                    {42, 0, 82, kEditHeight}, kUnlabelled))),
+    GroupBox(kRangeGroup, "range-group", "Frequency range",
+             Beside(130, EditLine(kFrom, kStartFrequency, "start-frequency", "F&rom:"),
+                    EditLine(kTo, kFinalFrequency, "final-frequency", "&To:"))));
+constexpr DialogTemplate kTemplate{"AC analysis", kPageSize, kRows};
 
 const char* SamplesLabel(int nSamplingType)
 {
@@ -99,8 +92,7 @@ void CAnalysisACPage::OnSamplingType(int nId)
 bool CAnalysisACPage::BuildCommand(CString& rsCommand)
 {
     UpdateData(true);
-    for (CString* pField : {&msNumberOfSamples, &msStartFrequency, &msFinalFrequency})
-        gTrim(*pField);
+    gTrim(msNumberOfSamples, msStartFrequency, msFinalFrequency);
     if (msNumberOfSamples.IsEmpty())
         return gReportFailure(*this, msMessage,
                               "__$$Translatable$$_Missing number of frequency samples.");

@@ -2,30 +2,23 @@
 
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/Remembered.h"
 
 namespace
 {
 enum EControlId { kFrame = 1001, kNote, kSuppress };
 
-constexpr auto kRows = JoinRows(
-    Row(kFrame, "frame", EControl::Group, "", {7, 7, 235, 56}, kUnlabelled),
-    Row(kNote, "note", EControl::Static, "DC Operating Point Calculation.",
-        {11, 20, 227, kLabelHeight}),
-    Row(kSuppress, "suppress", EControl::CheckBox,
-        "&Suppress automatic output of node voltages and source currents", {11, 40, 229, 12}));
-constexpr DialogTemplate kTemplate{111, "DC operating point", kPageSize, kRows};
+constexpr auto kRows = PageRows(
+    GroupBox(kFrame, "frame", "", NoteLine(kNote, "note", "DC Operating Point Calculation."),
+             CheckLine(kSuppress, "suppress",
+                       "&Suppress automatic output of node voltages and source currents")));
+constexpr DialogTemplate kTemplate{"DC operating point", kPageSize, kRows};
 
 Remembered<CAnalysisDCOpPage::TFields> sRemembered;
 } // namespace
 
 CAnalysisDCOpPage::CAnalysisDCOpPage() : CCommandPage(kTemplate) {}
-
-TMessageMap CAnalysisDCOpPage::GetMessageMap() const
-{
-    return {};
-}
 
 void CAnalysisDCOpPage::DoDataExchange(CDataExchange* pDX)
 {

@@ -4,7 +4,7 @@
 
 namespace
 {
-constexpr DialogTemplate kTemplate{112, "DC transfer sweep", kPageSize, kSweepRows};
+constexpr DialogTemplate kTemplate{"DC transfer sweep", kPageSize, kSweepRows};
 } // namespace
 
 CAnalysisDCTransferSweepPage::CAnalysisDCTransferSweepPage()

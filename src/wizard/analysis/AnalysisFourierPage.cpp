@@ -2,7 +2,7 @@
 
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
@@ -16,27 +16,20 @@ enum EControlId {
     kInterpolate,
 };
 
-constexpr TGrid kGrid{7, 144, 155, 87, 0, 0, 7, 19};
-constexpr auto kRows = JoinRows(
-    EditLine(kGrid, 0, kBaseFrequency, "base-frequency", "&Base frequency:"),
-    EditLine(kGrid, 1, kNumberOfFrequencies, "number-of-frequencies",
+constexpr TColumns kFields{.nField = 155};
+constexpr auto kRows = PageRows(
+    EditLine(kFields, kBaseFrequency, "base-frequency", "&Base frequency:"),
+    EditLine(kFields, kNumberOfFrequencies, "number-of-frequencies",
              "&Number of frequencies (default is 9):"),
-    EditLine(kGrid, 2, kNumberOfPoints, "number-of-points", "N&umber of points (default is 100):"),
-    LabelAbove(Row(kSignals, "signals", EControl::Edit, "", {7, 80, 235, kEditHeight}),
-               "&Signals to be transformed:"),
-    Row(kInterpolate, "interpolate", EControl::CheckBox, "In&terpolate time domain data",
-        {7, 102, 235, 12}));
-constexpr DialogTemplate kTemplate{113, "Fourier", kPageSize, kRows};
+    EditLine(kFields, kNumberOfPoints, "number-of-points", "N&umber of points (default is 100):"),
+    WideEdit(kSignals, "signals", "&Signals to be transformed:"),
+    CheckLine(kInterpolate, "interpolate", "In&terpolate time domain data"));
+constexpr DialogTemplate kTemplate{"Fourier", kPageSize, kRows};
 
 Remembered<CAnalysisFourierPage::TFields> sRemembered;
 } // namespace
 
 CAnalysisFourierPage::CAnalysisFourierPage() : CCommandPage(kTemplate) {}
-
-TMessageMap CAnalysisFourierPage::GetMessageMap() const
-{
-    return {};
-}
 
 void CAnalysisFourierPage::DoDataExchange(CDataExchange* pDX)
 {
@@ -61,9 +54,8 @@ bool CAnalysisFourierPage::OnInitDialog()
 bool CAnalysisFourierPage::BuildCommand(CString& rsCommand)
 {
     UpdateData(true);
-    for (CString* pField : {&mFields.msBaseFrequency, &mFields.msNumberOfFrequencies,
-                            &mFields.msNumberOfPoints, &mFields.msSignals})
-        pField->TrimLeft();
+    gTrimLeft(mFields.msBaseFrequency, mFields.msNumberOfFrequencies, mFields.msNumberOfPoints,
+              mFields.msSignals);
     if (mFields.msBaseFrequency.IsEmpty())
         return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing base frequency.");
     if (mFields.msSignals.IsEmpty())

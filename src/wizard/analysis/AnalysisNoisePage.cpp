@@ -2,8 +2,8 @@
 
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
 #include "wizard/analysis/SourceName.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
@@ -18,27 +18,20 @@ enum EControlId {
     kInputSource,
 };
 
-constexpr TGrid kGrid{21, 112, 137, 91, 0, 0, 38, 19};
-constexpr TGrid kInputGrid{21, 112, 137, 91, 0, 0, 101, 0};
-constexpr auto kRows = JoinRows(
-    Row(kFrame, "frame", EControl::Group, "Noise analysis", {7, 7, 235, 122}),
-    Row(kOutputGroup, "output-group", EControl::Group, "Circuit output terminals",
-        {14, 22, 221, 56}),
-    EditLine(kGrid, 0, kOutputNode, "output-node", "&Output node:"),
-    EditLine(kGrid, 1, kReferenceNode, "reference-node", "&Reference node (GND):"),
-    Row(kInputGroup, "input-group", EControl::Group, "Circuit input", {14, 85, 221, 37}),
-    EditLine(kInputGrid, 0, kInputSource, "input-source", "&Voltage or current source name:"));
-constexpr DialogTemplate kTemplate{114, "Noise", kPageSize, kRows};
+constexpr TColumns kFields{.nField = 137};
+constexpr auto kRows = PageRows(GroupBox(
+    kFrame, "frame", "Noise analysis",
+    GroupBox(kOutputGroup, "output-group", "Circuit output terminals",
+             EditLine(kFields, kOutputNode, "output-node", "&Output node:"),
+             EditLine(kFields, kReferenceNode, "reference-node", "&Reference node (GND):")),
+    GroupBox(kInputGroup, "input-group", "Circuit input",
+             EditLine(kFields, kInputSource, "input-source", "&Voltage or current source name:"))));
+constexpr DialogTemplate kTemplate{"Noise", kPageSize, kRows};
 
 Remembered<CAnalysisNoisePage::TFields> sRemembered;
 } // namespace
 
 CAnalysisNoisePage::CAnalysisNoisePage() : CCommandPage(kTemplate) {}
-
-TMessageMap CAnalysisNoisePage::GetMessageMap() const
-{
-    return {};
-}
 
 void CAnalysisNoisePage::DoDataExchange(CDataExchange* pDX)
 {
@@ -59,9 +52,7 @@ bool CAnalysisNoisePage::OnInitDialog()
 bool CAnalysisNoisePage::BuildCommand(CString& rsCommand)
 {
     UpdateData(true);
-    for (CString* pField :
-         {&mFields.msOutputNode, &mFields.msReferenceNode, &mFields.msInputSource})
-        pField->TrimLeft();
+    gTrimLeft(mFields.msOutputNode, mFields.msReferenceNode, mFields.msInputSource);
     if (mFields.msInputSource.IsEmpty())
         return gReportFailure(*this, msMessage,
                               "__$$Translatable$$_Missing input voltage or current source name.");

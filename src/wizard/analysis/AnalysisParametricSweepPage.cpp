@@ -4,7 +4,7 @@
 
 namespace
 {
-constexpr DialogTemplate kTemplate{118, "Parametric sweep", kPageSize, kSweepRows};
+constexpr DialogTemplate kTemplate{"Parametric sweep", kPageSize, kSweepRows};
 } // namespace
 
 CAnalysisParametricSweepPage::CAnalysisParametricSweepPage()

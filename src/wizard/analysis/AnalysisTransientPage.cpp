@@ -2,7 +2,7 @@
 
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
@@ -18,29 +18,24 @@ enum EControlId {
     kSweep,
 };
 
-constexpr TControlRow Mode(int nId, const char* pLabel, unsigned nFlags = kNoFlags)
-{
-    const int nLine = nId - CAnalysisTransientPage::kStandard;
-    return Row(nId, "mode", EControl::RadioButton, pLabel, {14, 21 + nLine * 14, 221, 12}, nFlags);
-}
-
-constexpr TGrid kGrid{7, 84, 96, 90, 191, 20, 91, 19};
-constexpr auto kRows = JoinRows(
-    Row(kModes, "mode-group", EControl::Group, "Modes", {7, 7, 235, 76}),
-    Mode(CAnalysisTransientPage::kStandard, "S&tandard (from DC op. point)", kFirstOfGroup),
-    Mode(CAnalysisTransientPage::kRampup,
-         "&Rampup simulation (pre-ramp DC sources to final values)"),
-    Mode(CAnalysisTransientPage::kPowerup, "&Powerup simulation (ramp DC sources to final values)"),
-    Mode(CAnalysisTransientPage::kPreview, "P&review mode (view input signals)"),
-    EditLineWithUnit(kGrid, 0, kMaximumTimeStep, "maximum-time-step", "&Maximum time step:", "sec"),
-    EditLineWithUnit(kGrid, 1, kSimulationLength, "simulation-length",
-                     "Sim&ulation length:", "sec"),
-    EditLineWithUnit(kGrid, 2, kOutputStartTime, "output-start-time",
-                     "&Output start time (0):", "sec"),
-    Row(kSweepGroup, "sweep-group", EControl::Group, "Sweep", {7, 152, 235, 37}),
-    SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2", 14, 168));
+constexpr TColumns kTimes{.nField = 96, .nUnit = 191};
+constexpr auto kRows = PageRows(
+    GroupBox(
+        kModes, "mode-group", "Modes",
+        RadioLine(CAnalysisTransientPage::kStandard, "mode", "S&tandard (from DC op. point)",
+                  kFirstOfGroup),
+        RadioLine(CAnalysisTransientPage::kRampup, "mode",
+                  "&Rampup simulation (pre-ramp DC sources to final values)"),
+        RadioLine(CAnalysisTransientPage::kPowerup, "mode",
+                  "&Powerup simulation (ramp DC sources to final values)"),
+        RadioLine(CAnalysisTransientPage::kPreview, "mode", "P&review mode (view input signals)")),
+    EditLine(kTimes, kMaximumTimeStep, "maximum-time-step", "&Maximum time step:", "sec"),
+    EditLine(kTimes, kSimulationLength, "simulation-length", "Sim&ulation length:", "sec"),
+    EditLine(kTimes, kOutputStartTime, "output-start-time", "&Output start time (0):", "sec"),
+    GroupBox(kSweepGroup, "sweep-group", "Sweep",
+             SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2")));
 // Two modes share a letter.
-constexpr DialogTemplate kTemplate{117, "Transient", kPageSize, kRows, "r"};
+constexpr DialogTemplate kTemplate{"Transient", kPageSize, kRows, "r"};
 
 Remembered<CAnalysisTransientPage::TFields> sRemembered;
 

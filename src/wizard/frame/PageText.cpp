@@ -5,12 +5,6 @@
 
 #include <string_view>
 
-void gTrim(CString& rsField)
-{
-    rsField.TrimLeft();
-    rsField.TrimRight();
-}
-
 CString gJoinLines(const CString& rsText)
 {
     // Meant to stay as they are: a lone LF is dropped; a lone CR is kept; what follows a run of CR

@@ -2,10 +2,22 @@
 
 #include "platform/base/StringA.h"
 
+#include <concepts>
+
 class CWnd;
 
-/// Takes the white space away at both ends of a field.
-void gTrim(CString& rsField);
+/// Takes the white space away at the left end of each field.
+template <std::same_as<CString>... TFields> void gTrimLeft(TFields&... rsFields)
+{
+    (rsFields.TrimLeft(), ...);
+}
+
+/// Takes the white space away at both ends of each field.
+template <std::same_as<CString>... TFields> void gTrim(TFields&... rsFields)
+{
+    gTrimLeft(rsFields...);
+    (rsFields.TrimRight(), ...);
+}
 
 /// The text of a multi-line field as it stands in a one-line command: each CR LF inside becomes a
 /// blank, and one at the end vanishes. `rsText` is trimmed by then.

@@ -2,7 +2,7 @@
 
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
@@ -10,23 +10,16 @@ namespace
 {
 enum EControlId { kTemperatures = 1001, kNote };
 
-constexpr auto kRows =
-    JoinRows(LabelAbove(Row(kTemperatures, "temperature-list", EControl::MultilineEdit, "",
-                            {7, 27, 235, 60}, kWantReturn),
-                        "&List circuit temperatures, separated by spaces (in degrees Celsius):",
-                        2 * kLabelHeight),
-             Row(kNote, "note", EControl::Static, "(default is 27)", {7, 92, 235, kLabelHeight}));
-constexpr DialogTemplate kTemplate{150, "Temperature", kPageSize, kRows};
+constexpr auto kRows = PageRows(
+    TextBox(kTemperatures, "temperature-list",
+            "&List circuit temperatures, separated by spaces (in degrees Celsius):", 60, 2),
+    NoteLine(kNote, "note", "(default is 27)"));
+constexpr DialogTemplate kTemplate{"Temperature", kPageSize, kRows};
 
 Remembered<CSettingsTemperaturePage::TFields> sRemembered;
 } // namespace
 
 CSettingsTemperaturePage::CSettingsTemperaturePage() : CCommandPage(kTemplate) {}
-
-TMessageMap CSettingsTemperaturePage::GetMessageMap() const
-{
-    return {};
-}
 
 void CSettingsTemperaturePage::DoDataExchange(CDataExchange* pDX)
 {

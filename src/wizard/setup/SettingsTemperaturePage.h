@@ -16,7 +16,7 @@ public:
     };
 
 protected:
-    TMessageMap GetMessageMap() const override;
+    TMessageMap GetMessageMap() const override { return {}; }
     void DoDataExchange(CDataExchange* pDX) override;
 
 private:

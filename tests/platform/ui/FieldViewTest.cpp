@@ -9,15 +9,15 @@
 
 namespace
 {
-constexpr TGrid kGrid{7, 60, 70, 80, 155, 30, 10, 18};
+constexpr TControlRow kDelay = Row(1, "delay", EControl::Edit, "", {70, 10, 80, 13}, kHidden);
 constexpr auto kPaneRows =
-    JoinRows(EditLineWithUnit(kGrid, 0, 1, "delay", "&Delay:", "seconds", kHidden),
-             Row(2, "place", EControl::Frame, "", {}),
+    JoinRows(LabelFor(kDelay, "&Delay:", {7, 12, 60, 9}), kDelay,
+             UnitFor(kDelay, "seconds", {155, 12, 30, 9}), Row(2, "place", EControl::Frame, "", {}),
              Row(3, "first", EControl::RadioButton, "a", {}, kFirstOfGroup),
              Row(4, "first", EControl::RadioButton, "b", {}),
              Row(5, "second", EControl::RadioButton, "c", {}, kFirstOfGroup),
              Row(6, "name", EControl::Edit, "", {}));
-constexpr DialogTemplate kPaneTemplate{916, "Pane", {200, 110}, kPaneRows};
+constexpr DialogTemplate kPaneTemplate{"Pane", {200, 110}, kPaneRows};
 
 TLog KeysOf(const std::vector<TFieldView>& rFields)
 {

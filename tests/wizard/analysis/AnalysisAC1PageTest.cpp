@@ -223,6 +223,21 @@ TEST_F(ACPage, BuildsTheAcCommand)
     }
 }
 
+TEST_F(ACPage, WithAllFieldsEmptyARangeReportsTheSamplesAndPoiTheList)
+{
+    for (const auto& [pType, pMessage] :
+         {std::pair{"linear", "Missing number of frequency samples."},
+          {"decade", "Missing number of frequency samples."},
+          {"octave", "Missing number of frequency samples."},
+          {"list", "Missing list of frequency values."},
+          {"poi", "Missing list of frequency values."}}) {
+        const auto outcome =
+            gRunWizard({Open("Analysis/AC"), Select("sampling-type", pType), Insert()});
+        EXPECT_TRUE(outcome.inserted.empty()) << pType;
+        EXPECT_EQ(outcome.messages, std::vector<std::string>{pMessage}) << pType;
+    }
+}
+
 TEST_F(ACPage, ASweepIsAppendedWhicheverSamplingTypeIsChosen)
 {
     const auto outcome = gRunWizard(

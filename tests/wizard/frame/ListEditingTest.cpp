@@ -22,7 +22,7 @@ constexpr auto kRows = JoinRows(
     Row(kAdd, "add", EControl::PushButton, "&Add", {100, 50, 50, 14}),
     Row(kDelete, "delete", EControl::PushButton, "&Delete", {100, 70, 50, 14}, kDisabled),
     Row(kClear, "clear", EControl::PushButton, "&Clear", {100, 90, 50, 14}, kDisabled));
-constexpr DialogTemplate kTemplate{9005, "List", {160, 120}, kRows};
+constexpr DialogTemplate kTemplate{"List", {160, 120}, kRows};
 
 constexpr TListEditingTexts kTexts{kDelete, kClear,
                                    "__$$Translatable$$_This entry is already in the list.",
