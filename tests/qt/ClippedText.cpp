@@ -1,6 +1,7 @@
 #include "qt/ClippedText.h"
 
-#include <QAbstractItemView>
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -10,6 +11,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOptionButton>
 #include <QTreeView>
 #include <QWidget>
 
@@ -60,9 +62,10 @@ private:
             LookAtLabel(*pLabel);
         else if (const auto* const pButton = qobject_cast<const QPushButton*>(&rWidget))
             LookAtButton(*pButton);
-        else if (qobject_cast<const QRadioButton*>(&rWidget) ||
-                 qobject_cast<const QCheckBox*>(&rWidget))
-            Need(rWidget, rWidget.sizeHint());
+        else if (const auto* const pRadio = qobject_cast<const QRadioButton*>(&rWidget))
+            LookAtMark(*pRadio, QStyle::SE_RadioButtonContents);
+        else if (const auto* const pCheck = qobject_cast<const QCheckBox*>(&rWidget))
+            LookAtMark(*pCheck, QStyle::SE_CheckBoxContents);
         else if (const auto* const pGroup = qobject_cast<const QGroupBox*>(&rWidget))
             Need(rWidget, {pGroup->minimumSizeHint().width(), 0});
         else if (qobject_cast<const QComboBox*>(&rWidget))
@@ -84,6 +87,17 @@ private:
             Need(rLabel, {0, rLabel.heightForWidth(rLabel.width())});
         else
             Need(rLabel, rLabel.sizeHint());
+    }
+
+    /// A mark with a text beside it.
+    void LookAtMark(const QAbstractButton& rButton, QStyle::SubElement contents)
+    {
+        QStyleOptionButton option;
+        option.initFrom(&rButton);
+        const QRect room = rButton.style()->subElementRect(contents, &option, &rButton);
+        const QSize text = rButton.fontMetrics().size(Qt::TextShowMnemonic, rButton.text());
+        if (room.width() < text.width() || rButton.height() < text.height())
+            Tell(rButton, "is too small", room.size(), text);
     }
 
     /// The least width that a style hints at is a matter of taste; that of the text is not.

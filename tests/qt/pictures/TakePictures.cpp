@@ -34,6 +34,7 @@ void TakePicture(const std::string& rsName, QWidget& rWindow)
 QPalette DarkPalette()
 {
     QPalette palette(QColor(53, 53, 53), QColor(42, 42, 42));
+    palette.setColor(QPalette::Base, QColor(30, 31, 34));
     palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
     return palette;
 }
