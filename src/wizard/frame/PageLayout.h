@@ -297,21 +297,44 @@ template <class... TBlocks> constexpr auto Tight(TBlocks... blocks)
     return Lines(blocks...);
 }
 
+namespace PageLayout
+{
+/// The buttons beside a list, the last two disabled as an empty list has them.
+constexpr auto ListButtons(const TChoice& rAdd, const TChoice& rDelete, const TChoice& rClear,
+                           unsigned nAddFlags)
+{
+    const auto button = [](const TChoice& rButton, const char* pKey, unsigned nFlags) {
+        return At(Row(rButton.nId, pKey, EControl::PushButton, rButton.pLabel,
+                      {kRight - kListButtonWidth, 0, kListButtonWidth, 14}, nFlags));
+    };
+    return Lines(button(rAdd, "add", nAddFlags), button(rDelete, "delete", kDisabled),
+                 button(rClear, "clear", kDisabled));
+}
+
+constexpr TRect ListRect(int nHeight)
+{
+    return {kLeft, 0, kRight - kListButtonWidth - kGroupGap - kLeft, nHeight};
+}
+} // namespace PageLayout
+
 /// A list box with the buttons "add", "delete" and "clear" beside it, the last two disabled as an
 /// empty list has them. `nHeight`: the list's, at least that of the buttons, 50.
 constexpr auto ListLines(int nList, const char* pKey, int nHeight, const TChoice& rAdd,
                          const TChoice& rDelete, const TChoice& rClear)
 {
     using namespace PageLayout;
-    constexpr int nButtonX = kRight - kListButtonWidth;
-    const auto button = [](const TChoice& rButton, const char* pButtonKey, unsigned nFlags) {
-        return At(Row(rButton.nId, pButtonKey, EControl::PushButton, rButton.pLabel,
-                      {nButtonX, 0, kListButtonWidth, 14}, nFlags));
-    };
-    return SameTop(At(Row(nList, pKey, EControl::ListBox, "",
-                          {kLeft, 0, nButtonX - kGroupGap - kLeft, nHeight}, kUnlabelled)),
-                   Lines(button(rAdd, "add", kNoFlags), button(rDelete, "delete", kDisabled),
-                         button(rClear, "clear", kDisabled)));
+    return SameTop(At(Row(nList, pKey, EControl::ListBox, "", ListRect(nHeight), kUnlabelled)),
+                   ListButtons(rAdd, rDelete, rClear, kNoFlags));
+}
+
+/// The same with a label above the list and all three buttons disabled, for a page that enables
+/// "add" when there is something to be added.
+constexpr auto LabelledListLines(int nList, const char* pKey, const char* pLabel, int nHeight,
+                                 const TChoice& rAdd, const TChoice& rDelete, const TChoice& rClear)
+{
+    using namespace PageLayout;
+    return SameTop(LabelledAt(Row(nList, pKey, EControl::ListBox, "", ListRect(nHeight)), pLabel),
+                   Moved(ListButtons(rAdd, rDelete, rClear, kDisabled), 0, kAboveField, 0));
 }
 
 /// The block with these flags added to all its controls.

@@ -56,8 +56,8 @@ const TTreeRow kTree[] = {
     NotBuilt(2, "__$$Translatable$$_Delete library file", "CFilesDeleteLibraryPage"),
 
     Category<class CInitializationPage>("__$$Translatable$$_Initialization"),
-    NotBuilt(0, "__$$Translatable$$_DC guess", "CInitializationDCGuessPage"),
-    NotBuilt(1, "__$$Translatable$$_Initial condition", "CInitializationInitialConditionPage"),
+    Page<class CInitializationDCGuessPage>(0, "__$$Translatable$$_DC guess"),
+    Page<class CInitializationInitialConditionPage>(1, "__$$Translatable$$_Initial condition"),
 
     Category<class COutputPage>("__$$Translatable$$_Output"),
     NotBuilt(0, "__$$Translatable$$_AC results", "COutputACResultsPage"),
@@ -69,9 +69,9 @@ const TTreeRow kTree[] = {
     NotBuilt(6, "__$$Translatable$$_Measure", "COutputMeasurePage"),
 
     Category<class CSettingsPage>("__$$Translatable$$_Settings"),
-    NotBuilt(0, "__$$Translatable$$_Bus definition", "CSettingsBusDefinitionPage"),
-    NotBuilt(1, "__$$Translatable$$_Global nodes", "CSettingsGlobalNodesPage"),
-    NotBuilt(2, "__$$Translatable$$_Parameters", "CSettingsParametersPage"),
+    Page<class CSettingsBusDefinitionPage>(0, "__$$Translatable$$_Bus definition"),
+    Page<class CSettingsGlobalNodesPage>(1, "__$$Translatable$$_Global nodes"),
+    Page<class CSettingsParametersPage>(2, "__$$Translatable$$_Parameters"),
     NotBuilt(3, "__$$Translatable$$_Simulation options", "CSettingsSimulationOptionsPage"),
     Page<class CSettingsTemperaturePage>(4, "__$$Translatable$$_Temperature"),
 

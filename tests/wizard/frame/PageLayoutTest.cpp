@@ -194,6 +194,20 @@ TEST(PageLayoutTest, AListHasItsButtonsBesideIt)
     EXPECT_EQ(kRows[3].nFlags, kDisabled);
 }
 
+TEST(PageLayoutTest, AListWithALabelHasAllItsButtonsDisabled)
+{
+    constexpr auto kRows = PageRows(
+        LabelledListLines(1, "list", "&List:", 80, {2, "&Add"}, {3, "&Delete"}, {4, "&Clear"}));
+    ExpectPlaces(kRows, {{LabelOf(1), {7, 7, 179, 9}},
+                         {1, {7, 18, 179, 80}},
+                         {2, {192, 18, 50, 14}},
+                         {3, {192, 36, 50, 14}},
+                         {4, {192, 54, 50, 14}}});
+    EXPECT_EQ(kRows[1].nFlags, kNoFlags) << "its label is its own";
+    for (const std::size_t nButton : {2U, 3U, 4U})
+        EXPECT_EQ(kRows[nButton].nFlags, kDisabled);
+}
+
 TEST(PageLayoutTest, TheFirstOfTheRadioLinesBeginsTheGroup)
 {
     constexpr auto kRows =
