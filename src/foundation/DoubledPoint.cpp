@@ -1,0 +1,11 @@
+#include "foundation/DoubledPoint.h"
+
+#include <cstddef>
+
+std::string gRepairDoubledPoints(std::string sNumber)
+{
+    for (std::size_t nAt = 0; (nAt = sNumber.find("..", nAt)) != std::string::npos; ++nAt) {
+        sNumber.replace(nAt, 2, "0");
+    }
+    return sNumber;
+}
