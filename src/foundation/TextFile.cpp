@@ -2,7 +2,10 @@
 
 #include "foundation/TextFile.h"
 
+#include "foundation/FileChecks.h"
 #include "foundation/Paths.h"
+#include "foundation/SystemPaths.h"
+#include "foundation/UnixSide.h"
 
 #include <array>
 #include <cerrno>
