@@ -91,6 +91,24 @@ CStringU CStringU::FromWideBigEndian(std::u16string_view sText)
     return {gSwapUnitBytes(sText)};
 }
 
+void CStringU::Assign(std::string_view sText, TTextKind kind)
+{
+    if (kind != TTextKind::CodePage && kind != TTextKind::Utf8 && gIsAscii(sText)) {
+        Bytes() = sText;
+    } else {
+        *this = CStringU(sText, kind);
+    }
+}
+
+void CStringU::AppendUtf8(std::string_view sBytes)
+{
+    const bool bUtf8 = IsUtf8() || !gIsAscii(sBytes);
+    Bytes() += sBytes;
+    if (bUtf8 && !IsUtf8()) {
+        Bytes().insert(0, 1, kUtf8Marker);
+    }
+}
+
 CStringA CStringU::ToUtf8() const
 {
     return {Text()};

@@ -70,6 +70,14 @@ public:
     /// @param sText the units as they stand in such a source; up to the length or the first zero
     [[nodiscard]] static CStringU FromWideBigEndian(std::u16string_view sText);
 
+    /// Becomes what a construction from the same gives, and keeps its room where it can.
+    /// @param sText the bytes, none of them of this text
+    /// @param kind how to read them
+    void Assign(std::string_view sText, TTextKind kind);
+
+    /// Appends bytes of UTF-8, perhaps cut inside a character, by the marker rule.
+    void AppendUtf8(std::string_view sBytes);
+
     /// A text with its values filled in, as printf does; the result is taken as
     /// TTextKind::Utf8IfNeeded. For "%s" give the text of a CStringU by Data. Not for floating
     /// point values, whose text would depend on the locale.

@@ -2,7 +2,7 @@
 
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
-#include "host/Unprivileged.h"
+#include "support/Unprivileged.h"
 #include "host/WizardUser.h"
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/WizardAlone.h"

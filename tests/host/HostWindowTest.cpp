@@ -2,7 +2,7 @@
 
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
-#include "host/Unprivileged.h"
+#include "support/Unprivileged.h"
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/NetlistEdit.h"
 #include "quorvahost/RecentFiles.h"
