@@ -10,6 +10,11 @@ namespace quorvawiz::cli
 {
 namespace
 {
+TBytes BytesOf(const CStringA& rText)
+{
+    return {std::string(std::string_view(rText))};
+}
+
 std::vector<TCallFunction> Constructions()
 {
     return {
@@ -30,14 +35,12 @@ std::vector<TCallFunction> Conversions()
     return {
         gCallable("CStringU.Stored",
                   [](const CStringU& rText) { return TBytes{std::string(rText.Stored())}; }),
-        gCallable("CStringU.ToUtf8",
-                  [](const CStringU& rText) { return TBytes{rText.ToUtf8().GetString()}; }),
+        gCallable("CStringU.ToUtf8", [](const CStringU& rText) { return BytesOf(rText.ToUtf8()); }),
         gCallable("CStringU.ToCodePage",
                   [](const CStringU& rText, unsigned nCodePage) {
-                      return TBytes{rText.ToCodePage(nCodePage).GetString()};
+                      return BytesOf(rText.ToCodePage(nCodePage));
                   }),
-        gCallable("CStringU.ToAnsi",
-                  [](const CStringU& rText) { return TBytes{rText.ToAnsi().GetString()}; }),
+        gCallable("CStringU.ToAnsi", [](const CStringU& rText) { return BytesOf(rText.ToAnsi()); }),
         gCallable("CStringU.ToWide", [](const CStringU& rText) { return rText.ToWide(); }),
         gCallable("CStringU.ToWideBigEndian",
                   [](const CStringU& rText) { return rText.ToWideBigEndian(); }),
