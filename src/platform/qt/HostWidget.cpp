@@ -1,4 +1,5 @@
-#include "platform/qt/QtDesktop.h"
+#include "platform/qt/HostWidget.h"
+
 #include "platform/qt/QtPeer.h"
 #include "platform/ui/Wnd.h"
 
