@@ -1,9 +1,13 @@
 #pragma once
 
+#include "platform/base/ByteBlock.h"
+
 #include <cstddef>
-#include <cstdint>
-#include <cstring>
 #include <string_view>
+
+/// A zero, a line feed and a carriage return are below this, and of what stands in texts only the
+/// tab.
+inline constexpr signed char kLineEndLimit = 0x0E;
 
 /// Tells whether a byte or unit means something to the line end rule.
 template <class TUnit> [[nodiscard]] constexpr bool gIsLineEndUnit(TUnit unit) noexcept
@@ -18,17 +22,37 @@ template <class TUnit>
 {
     std::size_t nAt = 0;
     if constexpr (sizeof(TUnit) == 1) {
-        // Eight bytes at once: the top bit of each byte that is below 0x10 and has its own clear.
-        constexpr std::uint64_t ones = 0x0101010101010101U;
-        for (; nAt + sizeof(std::uint64_t) <= sText.size(); nAt += sizeof(std::uint64_t)) {
-            std::uint64_t nWord = 0;
-            std::memcpy(&nWord, sText.data() + nAt, sizeof(nWord));
-            if (((nWord - 0x10 * ones) & ~nWord & (0x80 * ones)) != 0) {
+        for (; nAt + kByteBlock <= sText.size(); nAt += kByteBlock) {
+            const TByteBlock block = gLoadBlock(sText.data() + nAt);
+            if (gAnySet((block >= 0) & (block < kLineEndLimit))) {
                 break;
             }
         }
     }
     while (nAt < sText.size() && !gIsLineEndUnit(sText[nAt])) {
+        ++nAt;
+    }
+    return nAt;
+}
+
+/// Finds the first byte that a line of plain text doesn't have: a zero, a line feed, a carriage
+/// return, or a high byte.
+/// @return its index, or sText.size()
+[[nodiscard]] inline std::size_t gFindNotPlain(std::string_view sText) noexcept
+{
+    const auto isSpecial = [](char ch) { return ch < 0 || gIsLineEndUnit(ch); };
+    std::size_t nAt = 0;
+    for (; nAt + kByteBlock <= sText.size(); nAt += kByteBlock) {
+        const TByteBlock mayBeSpecial = gLoadBlock(sText.data() + nAt) < kLineEndLimit;
+        if (gAnySet(mayBeSpecial)) {
+            const std::size_t nFound = nAt + gFindSet(mayBeSpecial);
+            if (isSpecial(sText[nFound])) {
+                return nFound;
+            }
+            break;
+        }
+    }
+    while (nAt < sText.size() && !isSpecial(sText[nAt])) {
         ++nAt;
     }
     return nAt;

@@ -18,7 +18,7 @@ std::string gStoreMarked(std::string_view sText)
 
 std::string gStoreWide(std::u16string_view sText)
 {
-    const std::u16string_view sUnits = sText.substr(0, sText.find(u'\0'));
+    const std::u16string_view sUnits = gCutAtZero(sText);
     const std::size_t nBytes = gMeasureUnits(sUnits);
     const bool bMarker = nBytes > sUnits.size() && sUnits.front() < 0x80;
     std::string sStored(nBytes + (bMarker ? 1 : 0), kUtf8Marker);

@@ -1,5 +1,6 @@
 #include "foundation/StringU.h"
 
+#include "foundation/FromCodePage.h"
 #include "foundation/MarkerRule.h"
 #include "foundation/Utf8Units.h"
 #include "platform/base/Ascii.h"
@@ -18,35 +19,38 @@ struct CStringU::TStored {
 namespace
 {
 
-std::string StoreCodePage(std::string_view sText)
-{
-    return gStoreWide(gMultiByteToWide(sText, gGetSystemCodePage()));
-}
-
-std::string StoreUtf8(std::string_view sText)
+void StoreUtf8(std::string_view sText, std::string& rsStored)
 {
     const bool bMarker = !sText.empty() && sText.front() != '\0' && gIsAscii(sText.substr(0, 1));
-    std::string sStored;
-    sStored.reserve(sText.size() + 1);
-    sStored.append(bMarker ? 1 : 0, kUtf8Marker);
-    return sStored += sText;
+    rsStored.clear();
+    rsStored.reserve(sText.size() + 1);
+    rsStored.append(bMarker ? 1 : 0, kUtf8Marker);
+    rsStored += sText;
 }
 
-std::string StoreKind(std::string_view sText, TTextKind kind)
+void StoreKind(std::string_view sText, TTextKind kind, std::string& rsStored)
 {
     switch (kind) {
     case TTextKind::Plain:
         break;
     case TTextKind::CodePageIfNeeded:
-        return gIsAscii(sText) ? std::string(sText) : StoreCodePage(sText);
+        if (gIsAscii(sText)) {
+            break;
+        }
+        [[fallthrough]];
     case TTextKind::CodePage:
-        return StoreCodePage(sText);
+        gStoreCodePage(sText, rsStored);
+        return;
     case TTextKind::Utf8IfNeeded:
-        return gIsAscii(sText) ? std::string(sText) : StoreUtf8(sText);
+        if (gIsAscii(sText)) {
+            break;
+        }
+        [[fallthrough]];
     case TTextKind::Utf8:
-        return StoreUtf8(sText);
+        StoreUtf8(sText, rsStored);
+        return;
     }
-    return std::string(sText);
+    rsStored = sText;
 }
 
 std::u16string_view ViewOf(const char16_t* pText) noexcept
@@ -74,7 +78,10 @@ CStringU::CStringU(const std::string& rsText) : CStringU(std::string_view(rsText
 
 CStringU::CStringU(const CStringA& rsText) : CStringU(std::string_view(rsText)) {}
 
-CStringU::CStringU(std::string_view sText, TTextKind kind) : CStringA(StoreKind(sText, kind)) {}
+CStringU::CStringU(std::string_view sText, TTextKind kind)
+{
+    StoreKind(sText, kind, Bytes());
+}
 
 CStringU::CStringU(const char* pText, TTextKind kind) : CStringU(gOperandView(pText), kind) {}
 
@@ -93,11 +100,7 @@ CStringU CStringU::FromWideBigEndian(std::u16string_view sText)
 
 void CStringU::Assign(std::string_view sText, TTextKind kind)
 {
-    if (kind != TTextKind::CodePage && kind != TTextKind::Utf8 && gIsAscii(sText)) {
-        Bytes() = sText;
-    } else {
-        *this = CStringU(sText, kind);
-    }
+    StoreKind(sText, kind, Bytes());
 }
 
 void CStringU::AppendUtf8(std::string_view sBytes)
@@ -132,8 +135,9 @@ std::u16string CStringU::ToWide() const
     if (IsUtf8()) {
         return gDecodeUnits(Text());
     }
-    std::u16string sWide(Text().size(), u'\0');
-    gWidenBytes(Text(), sWide.data());
+    std::u16string sWide;
+    sWide.reserve(Text().size());
+    gAppendWidened(Text(), sWide);
     return sWide;
 }
 

@@ -1,3 +1,4 @@
+#include "foundation/LineEnds.h"
 #include "foundation/TextFile.h"
 #include "foundation/Utf8Units.h"
 
@@ -31,9 +32,17 @@ bool TTextFile::ReadLineOfBytes(CStringU& rsLine)
     if (!FillIfEmpty()) {
         return false;
     }
-    // Nearly every line stands whole in the buffer and is read from there.
+    // Nearly every line stands whole in the buffer and is read from there, and nearly every one is
+    // plain: the first byte of another kind is its end.
     const std::string_view sBuffered = Buffered();
-    const std::size_t nEnd = sBuffered.find('\n');
+    const std::size_t nPlain = gFindNotPlain(sBuffered);
+    const std::string_view sBehind = sBuffered.substr(nPlain, 2);
+    if (sBehind.starts_with('\n') || sBehind == "\r\n") {
+        rsLine.Assign(sBuffered.substr(0, nPlain), TTextKind::Plain);
+        mnIndex += nPlain + (sBehind.front() == '\n' ? 1 : 2);
+        return true;
+    }
+    const std::size_t nEnd = sBuffered.find('\n', nPlain);
     if (nEnd != std::string_view::npos) {
         SetLine(rsLine, sBuffered.substr(0, nEnd));
         mnIndex += nEnd + 1;

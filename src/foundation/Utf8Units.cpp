@@ -77,32 +77,34 @@ std::size_t gCharacterStart(std::string_view sText, std::size_t nIndex) noexcept
 
 std::u16string gDecodeUnits(std::string_view sText)
 {
-    std::u16string sUnits(sText.size(), u'\0'); // a sequence gives one unit and has at least a byte
-    char16_t* pOut = sUnits.data();
+    std::u16string sUnits;
+    sUnits.reserve(sText.size()); // a sequence gives one unit and has at least a byte
     std::size_t nIndex = 0;
     while (nIndex < sText.size()) {
         const std::string_view sRest = sText.substr(nIndex);
         const std::string_view sAscii = sRest.substr(0, gFindNonAscii(sRest));
         const std::string_view sRun = sAscii.substr(0, sAscii.find('\0'));
-        gWidenBytes(sRun, pOut);
-        pOut += sRun.size();
+        gAppendWidened(sRun, sUnits);
         nIndex += sRun.size();
         if (sRun.size() < sAscii.size()) {
             break; // a zero ends the text
         }
-        while (nIndex < sText.size() && !gIsAscii(sText.substr(nIndex, 1))) {
-            *pOut++ = gDecodeUnit(sText, nIndex);
+        while (nIndex < sText.size() && static_cast<unsigned char>(sText[nIndex]) >= 0x80) {
+            sUnits += gDecodeUnit(sText, nIndex);
         }
     }
-    sUnits.resize(static_cast<std::size_t>(pOut - sUnits.data()));
     return sUnits;
 }
 
 std::size_t gMeasureUnits(std::u16string_view sText) noexcept
 {
     std::size_t nBytes = sText.size();
-    for (std::size_t nAt = gFindNonAscii(sText); nAt < sText.size(); ++nAt) {
-        nBytes += (sText[nAt] >= 0x80 ? 1U : 0U) + (sText[nAt] >= 0x800 ? 1U : 0U);
+    std::size_t nAt = gFindNonAscii(sText);
+    while (nAt < sText.size()) {
+        for (; nAt < sText.size() && sText[nAt] >= 0x80; ++nAt) {
+            nBytes += sText[nAt] < 0x800 ? 1U : 2U;
+        }
+        nAt += gFindNonAscii(sText.substr(nAt));
     }
     return nBytes;
 }

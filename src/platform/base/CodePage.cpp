@@ -30,9 +30,7 @@ const ICodec& CodecOf(unsigned nCodePage)
 void MoveAscii(std::string_view& rsRest, std::u16string& rsOut)
 {
     const std::size_t nCount = gFindNonAscii(rsRest);
-    const std::size_t nOld = rsOut.size();
-    rsOut.resize(nOld + nCount);
-    gWidenBytes(rsRest.substr(0, nCount), rsOut.data() + nOld);
+    gAppendWidened(rsRest.substr(0, nCount), rsOut);
     rsRest.remove_prefix(nCount);
 }
 
