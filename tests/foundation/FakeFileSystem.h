@@ -69,6 +69,12 @@ public:
 
     std::u16string GetCurrentFolder() override { return msCurrentFolder; }
 
+    bool SetCurrentFolder(std::u16string_view sFolder) override
+    {
+        msCurrentFolder = sFolder;
+        return true;
+    }
+
     std::int64_t GetModificationTime(std::string_view sName) override
     {
         mCalls.push_back("time " + std::string(sName));

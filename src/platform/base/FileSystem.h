@@ -63,6 +63,10 @@ public:
     /// The current folder of the process; empty if there is none.
     [[nodiscard]] virtual std::u16string GetCurrentFolder() = 0;
 
+    /// Makes a folder the current one of the process.
+    /// @return false if it can't be, and the current one stays
+    virtual bool SetCurrentFolder(std::u16string_view sFolder) = 0;
+
     /// When a file was last written.
     /// @param sName its path in the system's code page
     /// @return seconds since 1970 in UTC; -1 if it can't be told

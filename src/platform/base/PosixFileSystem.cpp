@@ -110,6 +110,11 @@ std::u16string CPosixFileSystem::GetCurrentFolder()
     return gMultiByteToWide(std::filesystem::current_path(error).native(), kCodePageUtf8);
 }
 
+bool CPosixFileSystem::SetCurrentFolder(std::u16string_view sFolder)
+{
+    return ::chdir(gToSystemPath(sFolder).c_str()) == 0;
+}
+
 std::int64_t CPosixFileSystem::GetModificationTime(std::string_view sName)
 {
     struct stat status {

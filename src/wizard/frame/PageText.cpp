@@ -54,3 +54,8 @@ bool gReportFailure(CWnd& rPage, CString& rsMessage, const char* pLiteral)
     rsMessage = gShownText(pLiteral);
     return gReportMessage(rPage, rsMessage);
 }
+
+bool gReportFailure(CWnd& rPage, const char* pLiteral)
+{
+    return gReportMessage(rPage, gShownText(pLiteral));
+}

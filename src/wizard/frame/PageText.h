@@ -41,3 +41,6 @@ bool gReportMessage(CWnd& rOwner, CString sMessage); // NOLINT(performance-unnec
 /// The same with a literal as `gShownText` takes it. `rsMessage`: the page's message string, which
 /// holds the last message that the page has shown, takes the text first. Result: false.
 bool gReportFailure(CWnd& rPage, CString& rsMessage, const char* pLiteral);
+
+/// The same for a page without a message string.
+bool gReportFailure(CWnd& rPage, const char* pLiteral);

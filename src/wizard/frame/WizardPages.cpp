@@ -51,9 +51,9 @@ const TTreeRow kTree[] = {
     NotBuilt(9, "__$$Translatable$$_Voltage-controlled", "CCurrentSourceVoltageControlledPage"),
 
     Category<class CFilesPage>("__$$Translatable$$_Files"),
-    NotBuilt(0, "__$$Translatable$$_Include file", "CFilesIncludePage"),
-    NotBuilt(1, "__$$Translatable$$_Library file", "CFilesLibraryPage"),
-    NotBuilt(2, "__$$Translatable$$_Delete library file", "CFilesDeleteLibraryPage"),
+    Page<class CFilesIncludePage>(0, "__$$Translatable$$_Include file"),
+    Page<class CFilesLibraryPage>(1, "__$$Translatable$$_Library file"),
+    Page<class CFilesDeleteLibraryPage>(2, "__$$Translatable$$_Delete library file"),
 
     Category<class CInitializationPage>("__$$Translatable$$_Initialization"),
     Page<class CInitializationDCGuessPage>(0, "__$$Translatable$$_DC guess"),

@@ -175,14 +175,12 @@ public:
         if (mList.GetCount() > 0)
             rsCommand = ".param" + mEditing.OldestFirst(" ");
         else if (const char* pFailure = gDefineParameter(mFields, kDirectCommand, rsCommand))
-            return Refuse(pFailure);
+            return gReportFailure(*this, pFailure);
         sRemembered.Set(mFields);
         return true;
     }
 
 private:
-    bool Refuse(const char* pLiteral) { return gReportMessage(*this, gShownText(pLiteral)); }
-
     void ReadFields()
     {
         UpdateData(true);
@@ -247,7 +245,7 @@ private:
         ReadTrimmed();
         CString sEntry;
         if (const char* pFailure = gDefineParameter(mFields, kListEntry, sEntry)) {
-            Refuse(pFailure);
+            gReportFailure(*this, pFailure);
             return;
         }
         CString sMessage;

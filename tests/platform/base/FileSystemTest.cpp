@@ -99,6 +99,18 @@ TEST_F(FileSystem, FoldersAreMadeOneByOne)
     EXPECT_EQ(errno, EEXIST);
 }
 
+TEST_F(FileSystem, AFolderBecomesTheCurrentOne)
+{
+    const auto before = std::filesystem::current_path();
+    EXPECT_TRUE(mpFiles->SetCurrentFolder(Name(u"sub")));
+    EXPECT_EQ(std::filesystem::current_path(), std::filesystem::canonical(mFolder / "sub"));
+    for (const std::u16string& rsNone : {Name(u"none"), Name(u"file"), std::u16string()}) {
+        EXPECT_FALSE(mpFiles->SetCurrentFolder(rsNone));
+        EXPECT_EQ(std::filesystem::current_path(), std::filesystem::canonical(mFolder / "sub"));
+    }
+    std::filesystem::current_path(before);
+}
+
 TEST_F(FileSystem, ARemovedCurrentFolderIsNone)
 {
     const auto before = std::filesystem::current_path();

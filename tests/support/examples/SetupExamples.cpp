@@ -11,6 +11,13 @@ TExampleLine Refused(std::string sPage, std::vector<std::string> arguments, std:
 const TExampleLines& gSetupExamples()
 {
     static const TExampleLines sExamples{
+        {"Files/Include file", {"file=C:\\models\\nmos.md"}, ".include \"C:\\models\\nmos.md\""},
+        {"Files/Library file", {"file=lib/tech.lib", "section=TT"}, ".lib \"lib/tech.lib\" TT"},
+        {"Files/Library file", {"file=lib/tech.lib"}, ".lib \"lib/tech.lib\""},
+        {"Files/Delete library file",
+         {"file=lib/tech.lib", "section=TT"},
+         ".del lib \"lib/tech.lib\" TT"},
+
         {"Initialization/DC guess", {"node-1=a", "value-1=1"}, ".nodeset v(a)=1"},
         {"Initialization/DC guess",
          {"node-1=a", "reference-1=b", "value-1=1.5", "node-2=c", "value-2=0", "node-3=d",
@@ -72,6 +79,10 @@ const TExampleLines& gSetupExamples()
          ".param a=1 b=unif(1,0.1)"},
 
         // --- what is refused
+        Refused("Files/Include file", {"file=  "}, "Missing include file name."),
+        Refused("Files/Library file", {"section=TT"}, "Missing library file name."),
+        Refused("Files/Delete library file", {}, "Missing library file name."),
+        Refused("Files/Delete library file", {"file=a.lib"}, "Missing library section."),
         Refused("Initialization/DC guess", {}, "No initial guesses specified."),
         Refused("Initialization/DC guess",
                 {"node-1=a", "value-1=1", "node-2=b", "value-2=2", "value-1="},

@@ -1,3 +1,4 @@
+#include "platform/ui/Button.h"
 #include "platform/ui/FieldView.h"
 #include "support/Look.h"
 #include "support/PageTest.h"
