@@ -34,7 +34,7 @@ constexpr auto kRows =
                       EditLine(kColumns, kValue, "value", "Ini&tial condition:", "V")),
              LabelledListLines(kList, "list", "&List of nodes:", 90, {kAdd, "&Add"},
                                {kDelete, "&Delete"}, {kClear, "&Clear"}));
-constexpr DialogTemplate kTemplate{"Initial condition", kPageSize, kRows, "cil"};
+constexpr DialogTemplate kTemplate{"Initial condition", kPageSize, kRows, "ci"};
 
 constexpr TListEditingParts kListParts{
     kDelete, kClear, "__$$Translatable$$_This entry is already in the list.",
