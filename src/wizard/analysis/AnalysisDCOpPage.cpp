@@ -1,7 +1,6 @@
-#include "wizard/analysis/AnalysisDCOpPage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
+#include "wizard/frame/CommandPage.h"
 #include "wizard/frame/PageLayout.h"
 #include "wizard/frame/Remembered.h"
 
@@ -15,33 +14,47 @@ constexpr auto kRows = PageRows(
                        "&Suppress automatic output of node voltages and source currents")));
 constexpr DialogTemplate kTemplate{"DC operating point", kPageSize, kRows};
 
-Remembered<CAnalysisDCOpPage::TFields> sRemembered;
+struct TFields {
+    int mnSuppress = 0;
+};
+
+Remembered<TFields> sRemembered;
 } // namespace
 
-CAnalysisDCOpPage::CAnalysisDCOpPage() : CCommandPage(kTemplate) {}
-
-void CAnalysisDCOpPage::DoDataExchange(CDataExchange* pDX)
+/// Builds ".op", the calculation of the DC operating point.
+class CAnalysisDCOpPage : public CCommandPage
 {
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Check(pDX, kSuppress, mFields.mnSuppress);
-}
+public:
+    CAnalysisDCOpPage() : CCommandPage(kTemplate) {}
 
-bool CAnalysisDCOpPage::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    mFields = sRemembered.Get();
-    UpdateData(false);
-    return true;
-}
+    TMessageMap GetMessageMap() const override { return {}; }
 
-bool CAnalysisDCOpPage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    rsCommand = ".op";
-    if (mFields.mnSuppress != 0)
-        rsCommand += " noprint";
-    sRemembered.Set(mFields);
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Check(pDX, kSuppress, mFields.mnSuppress);
+    }
+
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        mFields = sRemembered.Get();
+        UpdateData(false);
+        return true;
+    }
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        rsCommand = ".op";
+        if (mFields.mnSuppress != 0)
+            rsCommand += " noprint";
+        sRemembered.Set(mFields);
+        return true;
+    }
+
+private:
+    TFields mFields;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisDCOpPage>();

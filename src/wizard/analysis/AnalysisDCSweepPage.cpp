@@ -1,10 +1,11 @@
-#include "wizard/analysis/AnalysisDCSweepPage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
 #include "wizard/analysis/SourceName.h"
+#include "wizard/frame/CommandPage.h"
 #include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
+
+#include <array>
 
 namespace
 {
@@ -19,10 +20,9 @@ constexpr int IdOf(int nDirection, EPart part)
 /// One of the four fields of a direction, which stand side by side.
 constexpr TBlock<2> Field(int nDirection, EPart part, const char* pKey, const char* pLabel)
 {
-    const TRect rect{14 + (part - kSourceName) * 57, kLabelHeight + 2, 50, kEditHeight};
-    const auto rows =
-        LabelAbove(Row(IdOf(nDirection, part), pKey, EControl::Edit, "", rect), pLabel);
-    return SameTop(At(rows[0]), At(rows[1]));
+    return LabelledAt(Row(IdOf(nDirection, part), pKey, EControl::Edit, "",
+                          {14 + (part - kSourceName) * 57, 0, 50, kEditHeight}),
+                      pLabel);
 }
 
 constexpr auto Direction(int nDirection, const char* pTitle, const char* pGroupKey,
@@ -44,6 +44,13 @@ constexpr auto kRows = PageRows(Direction(0, "Sweep direction 1", "direction-1",
                                           "start-3", "end-3", "increment-3"));
 constexpr DialogTemplate kTemplate{"DC sweep", kPageSize, kRows};
 
+struct TDirection {
+    CString msSourceName;
+    CString msStart;
+    CString msEnd;
+    CString msIncrement;
+};
+
 // Meant as they are: the last one, and the messages of the names, are never translated.
 constexpr const char* kIncomplete[] = {
     "__$$Translatable$$_Incomplete specification for sweep direction 1.",
@@ -62,7 +69,7 @@ constexpr const char* kIllegalName[] = {
     "with 'V' and current source names must start with 'I'.",
 };
 
-int FilledFields(const CAnalysisDCSweepPage::TDirection& rDirection)
+int FilledFields(const TDirection& rDirection)
 {
     int nFilled = 0;
     for (const CString* pField : {&rDirection.msSourceName, &rDirection.msStart, &rDirection.msEnd,
@@ -72,48 +79,60 @@ int FilledFields(const CAnalysisDCSweepPage::TDirection& rDirection)
 }
 } // namespace
 
-CAnalysisDCSweepPage::CAnalysisDCSweepPage() : CCommandPage(kTemplate) {}
-
-void CAnalysisDCSweepPage::DoDataExchange(CDataExchange* pDX)
+/// Builds ".dc" and up to three directions, each a source with a start, an end and an increment.
+/// No node of the wizard's tree leads here.
+class CAnalysisDCSweepPage : public CCommandPage
 {
-    CCommandPage::DoDataExchange(pDX);
-    for (int n = 0; n < 3; ++n) {
-        TDirection& rDirection = mDirections[static_cast<std::size_t>(n)];
-        DDX_Text(pDX, IdOf(n, kSourceName), rDirection.msSourceName);
-        DDX_Text(pDX, IdOf(n, kStart), rDirection.msStart);
-        DDX_Text(pDX, IdOf(n, kEnd), rDirection.msEnd);
-        DDX_Text(pDX, IdOf(n, kIncrement), rDirection.msIncrement);
-    }
-}
+public:
+    CAnalysisDCSweepPage() : CCommandPage(kTemplate) {}
 
-bool CAnalysisDCSweepPage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    for (TDirection& rDirection : mDirections)
-        gTrim(rDirection.msSourceName, rDirection.msStart, rDirection.msEnd,
-              rDirection.msIncrement);
-    CString sCommand = ".dc";
-    bool bUsed = false;
-    for (std::size_t n = 0; n < mDirections.size(); ++n) {
-        const TDirection& rDirection = mDirections[n];
-        const int nFilled = FilledFields(rDirection);
-        if (nFilled == 0)
-            continue;
-        if (nFilled < 4)
-            return gReportFailure(*this, msMessage, kIncomplete[n]);
-        if (!gIsSourceName(rDirection.msSourceName))
-            return gReportFailure(*this, msMessage, kIllegalName[n]);
-        sCommand += " " + rDirection.msSourceName + " " + rDirection.msStart + " " +
-                    rDirection.msEnd + " " + rDirection.msIncrement;
-        bUsed = true;
+    TMessageMap GetMessageMap() const override { return {}; }
+
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        for (int n = 0; n < 3; ++n) {
+            TDirection& rDirection = mDirections[static_cast<std::size_t>(n)];
+            DDX_Text(pDX, IdOf(n, kSourceName), rDirection.msSourceName);
+            DDX_Text(pDX, IdOf(n, kStart), rDirection.msStart);
+            DDX_Text(pDX, IdOf(n, kEnd), rDirection.msEnd);
+            DDX_Text(pDX, IdOf(n, kIncrement), rDirection.msIncrement);
+        }
     }
-    if (!bUsed)
-        return gReportFailure(
-            *this, msMessage,
-            "__$$Translatable$$_At least one sweep must be specified before inserting the "
-            "command");
-    rsCommand = sCommand;
-    return true;
-}
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        for (TDirection& rDirection : mDirections)
+            gTrim(rDirection.msSourceName, rDirection.msStart, rDirection.msEnd,
+                  rDirection.msIncrement);
+        CString sCommand = ".dc";
+        bool bUsed = false;
+        for (std::size_t n = 0; n < mDirections.size(); ++n) {
+            const TDirection& rDirection = mDirections[n];
+            const int nFilled = FilledFields(rDirection);
+            if (nFilled == 0)
+                continue;
+            if (nFilled < 4)
+                return gReportFailure(*this, msMessage, kIncomplete[n]);
+            if (!gIsSourceName(rDirection.msSourceName))
+                return gReportFailure(*this, msMessage, kIllegalName[n]);
+            sCommand += " " + rDirection.msSourceName + " " + rDirection.msStart + " " +
+                        rDirection.msEnd + " " + rDirection.msIncrement;
+            bUsed = true;
+        }
+        if (!bUsed)
+            return gReportFailure(
+                *this, msMessage,
+                "__$$Translatable$$_At least one sweep must be specified before inserting the "
+                "command");
+        rsCommand = sCommand;
+        return true;
+    }
+
+private:
+    CString msMessage;
+    std::array<TDirection, 3> mDirections;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisDCSweepPage>();

@@ -1,7 +1,6 @@
-#include "wizard/analysis/AnalysisStabilityPage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
+#include "wizard/frame/CommandPage.h"
 #include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
@@ -16,34 +15,48 @@ constexpr auto kRows = PageRows(GroupBox(
     EditLine(kFields, kSourceOrProbe, "source-or-probe", "&Voltage source or Probe name:")));
 constexpr DialogTemplate kTemplate{"Stability", kPageSize, kRows};
 
-Remembered<CAnalysisStabilityPage::TFields> sRemembered;
+struct TFields {
+    CString msSourceOrProbe;
+};
+
+Remembered<TFields> sRemembered;
 } // namespace
 
-CAnalysisStabilityPage::CAnalysisStabilityPage() : CCommandPage(kTemplate) {}
-
-void CAnalysisStabilityPage::DoDataExchange(CDataExchange* pDX)
+/// Builds ".lstb " and the source or probe in the loop whose stability is analysed.
+class CAnalysisStabilityPage : public CCommandPage
 {
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Text(pDX, kSourceOrProbe, mFields.msSourceOrProbe);
-}
+public:
+    CAnalysisStabilityPage() : CCommandPage(kTemplate) {}
 
-bool CAnalysisStabilityPage::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    mFields = sRemembered.Get();
-    UpdateData(false);
-    return true;
-}
+    TMessageMap GetMessageMap() const override { return {}; }
 
-bool CAnalysisStabilityPage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    gTrimLeft(mFields.msSourceOrProbe);
-    // Meant: without a name it succeeds, and the text of the last page is inserted again.
-    if (!mFields.msSourceOrProbe.IsEmpty())
-        rsCommand = ".lstb " + mFields.msSourceOrProbe;
-    sRemembered.Set(mFields);
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Text(pDX, kSourceOrProbe, mFields.msSourceOrProbe);
+    }
+
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        mFields = sRemembered.Get();
+        UpdateData(false);
+        return true;
+    }
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        gTrimLeft(mFields.msSourceOrProbe);
+        // Meant: without a name it succeeds, and the text of the last page is inserted again.
+        if (!mFields.msSourceOrProbe.IsEmpty())
+            rsCommand = ".lstb " + mFields.msSourceOrProbe;
+        sRemembered.Set(mFields);
+        return true;
+    }
+
+private:
+    TFields mFields;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisStabilityPage>();

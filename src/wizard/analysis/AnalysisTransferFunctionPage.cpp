@@ -1,8 +1,7 @@
-#include "wizard/analysis/AnalysisTransferFunctionPage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
 #include "wizard/analysis/SourceName.h"
+#include "wizard/frame/CommandPage.h"
 #include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
@@ -39,41 +38,58 @@ constexpr auto kRows = PageRows(GroupBox(
              EditLine(kFields, kInputSource, "input-source", "&Voltage or current source:"))));
 constexpr DialogTemplate kTemplate{"Transfer function", kPageSize, kRows};
 
-Remembered<CAnalysisTransferFunctionPage::TFields> sRemembered;
+struct TFields {
+    CString msOutput;
+    CString msInputSource;
+};
+
+Remembered<TFields> sRemembered;
 } // namespace
 
-CAnalysisTransferFunctionPage::CAnalysisTransferFunctionPage() : CCommandPage(kTemplate) {}
-
-void CAnalysisTransferFunctionPage::DoDataExchange(CDataExchange* pDX)
+/// Builds ".tf ", an output of the circuit and its input source.
+class CAnalysisTransferFunctionPage : public CCommandPage
 {
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Text(pDX, kOutput, mFields.msOutput);
-    DDX_Text(pDX, kInputSource, mFields.msInputSource);
-}
+public:
+    CAnalysisTransferFunctionPage() : CCommandPage(kTemplate) {}
 
-bool CAnalysisTransferFunctionPage::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    mFields = sRemembered.Get();
-    UpdateData(false);
-    return true;
-}
+    TMessageMap GetMessageMap() const override { return {}; }
 
-bool CAnalysisTransferFunctionPage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    gTrimLeft(mFields.msOutput, mFields.msInputSource);
-    if (mFields.msInputSource.IsEmpty())
-        return gReportFailure(*this, msMessage,
-                              "__$$Translatable$$_Missing input voltage or current source name.");
-    if (!gIsSourceName(mFields.msInputSource))
-        return gReportFailure(*this, msMessage, kIllegalSourceName);
-    if (mFields.msOutput.IsEmpty())
-        return gReportFailure(*this, msMessage,
-                              "__$$Translatable$$_Missing circuit output specification.");
-    rsCommand = ".tf " + mFields.msOutput + " " + mFields.msInputSource;
-    sRemembered.Set(mFields);
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Text(pDX, kOutput, mFields.msOutput);
+        DDX_Text(pDX, kInputSource, mFields.msInputSource);
+    }
+
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        mFields = sRemembered.Get();
+        UpdateData(false);
+        return true;
+    }
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        gTrimLeft(mFields.msOutput, mFields.msInputSource);
+        if (mFields.msInputSource.IsEmpty())
+            return gReportFailure(
+                *this, msMessage,
+                "__$$Translatable$$_Missing input voltage or current source name.");
+        if (!gIsSourceName(mFields.msInputSource))
+            return gReportFailure(*this, msMessage, kIllegalSourceName);
+        if (mFields.msOutput.IsEmpty())
+            return gReportFailure(*this, msMessage,
+                                  "__$$Translatable$$_Missing circuit output specification.");
+        rsCommand = ".tf " + mFields.msOutput + " " + mFields.msInputSource;
+        sRemembered.Set(mFields);
+        return true;
+    }
+
+private:
+    CString msMessage;
+    TFields mFields;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisTransferFunctionPage>();

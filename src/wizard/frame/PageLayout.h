@@ -7,7 +7,6 @@
 #include <array>
 #include <cstddef>
 #include <span>
-#include <stdexcept>
 
 // A page as a list of lines from top to bottom, from which the places of its controls follow. A
 // block is one line or several; blocks are stacked, framed, set side by side or laid over each
@@ -46,12 +45,13 @@ inline constexpr int kChoiceHeight = 12;
 inline constexpr int kLineGap = 4;
 inline constexpr int kChoiceGap = 2;
 inline constexpr int kGroupGap = 6;
+inline constexpr int kListButtonWidth = 50;
 inline constexpr int kAboveField = kLabelHeight + 2; ///< from the top of a label above its field
 
 // Inside a group box, from its frame.
-inline constexpr int kGroupTop = 13;
+inline constexpr int kGroupTop = 12;
 inline constexpr int kGroupSide = 7;
-inline constexpr int kGroupBottom = 6;
+inline constexpr int kGroupBottom = 5;
 
 /// A control that reaches from edge to edge.
 constexpr TBlock<1> Whole(int nId, const char* pKey, EControl kind, const char* pLabel, int nHeight,
@@ -99,7 +99,30 @@ constexpr std::array<TPlacedRow, N + M> Joined(const std::array<TPlacedRow, N>& 
               std::copy(rFirst.begin(), rFirst.end(), rows.begin()));
     return rows;
 }
+/// Lets a group box at the block's end reach down to `nHeight`.
+template <std::size_t N> constexpr void StretchFrames(TBlock<N>& rBlock, int nHeight)
+{
+    for (TPlacedRow& rPlaced : rBlock.rows)
+        if (rPlaced.row.kind == EControl::Group && rPlaced.row.rect.Bottom() == rBlock.nHeight)
+            rPlaced.row.rect.h = nHeight - rPlaced.row.rect.y;
+}
 } // namespace PageLayout
+
+/// Blocks one above the other.
+template <std::size_t N> constexpr TBlock<N> Lines(const TBlock<N>& rOnly)
+{
+    return rOnly;
+}
+template <std::size_t N, std::size_t M, class... TMore>
+constexpr auto Lines(const TBlock<N>& rUpper, const TBlock<M>& rLower, const TMore&... rMore)
+{
+    using namespace PageLayout;
+    const int nTop = rUpper.nHeight + std::max(rUpper.nGap, rLower.nGap);
+    // The gap below is the lower block's; the one above is not asked for again.
+    const TBlock<N + M> both{Joined(rUpper.rows, Moved(rLower, 0, nTop, 0).rows),
+                             nTop + rLower.nHeight, rLower.nGap};
+    return Lines(both, rMore...);
+}
 
 /// A one-line edit with its label to the left.
 constexpr TBlock<2> EditLine(const TColumns& rColumns, int nId, const char* pKey,
@@ -165,12 +188,29 @@ constexpr TBlock<1> CheckLine(int nId, const char* pKey, const char* pLabel)
     return Whole(nId, pKey, EControl::CheckBox, pLabel, kChoiceHeight, kChoiceGap);
 }
 
-/// A radio button. `nFlags`: `kFirstOfGroup` for the first of its group.
-constexpr TBlock<1> RadioLine(int nId, const char* pKey, const char* pLabel,
-                              unsigned nFlags = kNoFlags)
+/// An edit without a label of its own: the title of the group box around it is its label.
+constexpr TBlock<1> BareEdit(int nId, const char* pKey)
 {
     using namespace PageLayout;
-    return Whole(nId, pKey, EControl::RadioButton, pLabel, kChoiceHeight, kChoiceGap, nFlags);
+    return Whole(nId, pKey, EControl::Edit, "", kEditHeight, kLineGap, kUnlabelled);
+}
+
+/// A button among others: its id and its label.
+struct TChoice {
+    int nId;
+    const char* pLabel;
+};
+
+/// A radio group, one button to a line; the ids stand in this order.
+template <class... TChoices>
+constexpr auto RadioLines(const char* pKey, const TChoice& rFirst, const TChoices&... rMore)
+{
+    using namespace PageLayout;
+    const auto button = [pKey](const TChoice& rChoice, unsigned nFlags) {
+        return Whole(rChoice.nId, pKey, EControl::RadioButton, rChoice.pLabel, kChoiceHeight,
+                     kChoiceGap, nFlags);
+    };
+    return Lines(button(rFirst, kFirstOfGroup), button(rMore, kNoFlags)...);
 }
 
 /// A text of its own, `nLines` lines high.
@@ -187,26 +227,21 @@ constexpr TBlock<0> Space(int nHeight)
 }
 
 /// A control of any kind on a line of its own, at the place that its row says, measured from the
-/// line's top.
+/// line's top. It keeps to the edges of the pane that it reaches.
 constexpr TBlock<1> At(const TControlRow& rRow)
 {
-    return {{{{rRow}}}, rRow.rect.Bottom(), PageLayout::kLineGap};
+    using namespace PageLayout;
+    return {{{{rRow, rRow.rect.x == kLeft, rRow.rect.Right() == kRight}}},
+            rRow.rect.Bottom(),
+            kLineGap};
 }
 
-/// Blocks one above the other.
-template <std::size_t N> constexpr TBlock<N> Lines(const TBlock<N>& rOnly)
+/// The same with a label right above it; the row's top says where the label's line ends.
+constexpr TBlock<2> LabelledAt(TControlRow row, const char* pLabel)
 {
-    return rOnly;
-}
-template <std::size_t N, std::size_t M, class... TMore>
-constexpr auto Lines(const TBlock<N>& rUpper, const TBlock<M>& rLower, const TMore&... rMore)
-{
-    using namespace PageLayout;
-    const int nTop = rUpper.nHeight + std::max(rUpper.nGap, rLower.nGap);
-    // The gap below is the lower block's; the one above is not asked for again.
-    const TBlock<N + M> both{Joined(rUpper.rows, Moved(rLower, 0, nTop, 0).rows),
-                             nTop + rLower.nHeight, rLower.nGap};
-    return Lines(both, rMore...);
+    row.rect.y += PageLayout::kAboveField;
+    const auto rows = LabelAbove(row, pLabel);
+    return {{{At(rows[0]).rows[0], At(rows[1]).rows[0]}}, row.rect.Bottom(), PageLayout::kLineGap};
 }
 
 /// Blocks that begin at the same height: those of which only one is shown at a time, and those
@@ -231,6 +266,10 @@ constexpr TBlock<N + M> Beside(int nX, const TBlock<N>& rLeft, const TBlock<M>& 
     using namespace PageLayout;
     auto left = Moved(rLeft, 0, 0, kRight - nX + kGroupGap);
     auto right = Moved(rRight, nX - kLeft, 0, 0);
+    // Frames that end together look like one row of them.
+    const int nHeight = std::max(left.nHeight, right.nHeight);
+    StretchFrames(left, nHeight);
+    StretchFrames(right, nHeight);
     // Where they meet is no edge of the pane.
     for (TPlacedRow& rPlaced : left.rows)
         rPlaced.bToRight = false;
@@ -251,6 +290,30 @@ constexpr auto GroupBox(int nId, const char* pKey, const char* pTitle, const TBl
     return TBlock<1 + inner.rows.size()>{Joined(frame.rows, inner.rows), nHeight, kGroupGap};
 }
 
+/// Blocks one above the other with half the distance, for a page that has much to show.
+template <class... TBlocks> constexpr auto Tight(TBlocks... blocks)
+{
+    ((blocks.nGap /= 2), ...);
+    return Lines(blocks...);
+}
+
+/// A list box with the buttons "add", "delete" and "clear" beside it, the last two disabled as an
+/// empty list has them. `nHeight`: the list's, at least that of the buttons, 50.
+constexpr auto ListLines(int nList, const char* pKey, int nHeight, const TChoice& rAdd,
+                         const TChoice& rDelete, const TChoice& rClear)
+{
+    using namespace PageLayout;
+    constexpr int nButtonX = kRight - kListButtonWidth;
+    const auto button = [](const TChoice& rButton, const char* pButtonKey, unsigned nFlags) {
+        return At(Row(rButton.nId, pButtonKey, EControl::PushButton, rButton.pLabel,
+                      {nButtonX, 0, kListButtonWidth, 14}, nFlags));
+    };
+    return SameTop(At(Row(nList, pKey, EControl::ListBox, "",
+                          {kLeft, 0, nButtonX - kGroupGap - kLeft, nHeight}, kUnlabelled)),
+                   Lines(button(rAdd, "add", kNoFlags), button(rDelete, "delete", kDisabled),
+                         button(rClear, "clear", kDisabled)));
+}
+
 /// The block with these flags added to all its controls.
 template <std::size_t N> constexpr TBlock<N> WithFlags(unsigned nFlags, TBlock<N> block)
 {
@@ -267,13 +330,11 @@ template <std::size_t N> constexpr TBlock<N> OnLayers(unsigned nLayers, TBlock<N
     return block;
 }
 
-/// The rows of a page: its blocks from top to bottom. A page that is too high doesn't compile.
+/// The rows of a page: its blocks from top to bottom.
 template <class... TBlocks> constexpr auto PageRows(const TBlocks&... rBlocks)
 {
     using namespace PageLayout;
     const auto page = Moved(Lines(rBlocks...), 0, kTop, 0);
-    if (kTop + page.nHeight > kPageSize.cy)
-        throw std::length_error("the page is too high");
     std::array<TControlRow, page.rows.size()> rows{};
     std::ranges::transform(page.rows, rows.begin(), &TPlacedRow::row);
     return rows;

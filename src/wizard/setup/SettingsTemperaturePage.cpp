@@ -1,7 +1,6 @@
-#include "wizard/setup/SettingsTemperaturePage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
+#include "wizard/frame/CommandPage.h"
 #include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
@@ -16,34 +15,50 @@ constexpr auto kRows = PageRows(
     NoteLine(kNote, "note", "(default is 27)"));
 constexpr DialogTemplate kTemplate{"Temperature", kPageSize, kRows};
 
-Remembered<CSettingsTemperaturePage::TFields> sRemembered;
+struct TFields {
+    CString msTemperatures;
+};
+
+Remembered<TFields> sRemembered;
 } // namespace
 
-CSettingsTemperaturePage::CSettingsTemperaturePage() : CCommandPage(kTemplate) {}
-
-void CSettingsTemperaturePage::DoDataExchange(CDataExchange* pDX)
+/// Builds ".temp " and the temperatures, in degrees Celsius, at which the circuit is analysed.
+class CSettingsTemperaturePage : public CCommandPage
 {
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Text(pDX, kTemperatures, mFields.msTemperatures);
-}
+public:
+    CSettingsTemperaturePage() : CCommandPage(kTemplate) {}
 
-bool CSettingsTemperaturePage::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    mFields = sRemembered.Get();
-    UpdateData(false);
-    return true;
-}
+    TMessageMap GetMessageMap() const override { return {}; }
 
-bool CSettingsTemperaturePage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    gTrim(mFields.msTemperatures);
-    if (mFields.msTemperatures.IsEmpty())
-        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing temperature value.");
-    rsCommand = ".temp " + gJoinLines(mFields.msTemperatures);
-    sRemembered.Set(mFields);
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Text(pDX, kTemperatures, mFields.msTemperatures);
+    }
+
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        mFields = sRemembered.Get();
+        UpdateData(false);
+        return true;
+    }
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        gTrim(mFields.msTemperatures);
+        if (mFields.msTemperatures.IsEmpty())
+            return gReportFailure(*this, msMessage,
+                                  "__$$Translatable$$_Missing temperature value.");
+        rsCommand = ".temp " + gJoinLines(mFields.msTemperatures);
+        sRemembered.Set(mFields);
+        return true;
+    }
+
+private:
+    CString msMessage;
+    TFields mFields;
+};
 
 template const CRuntimeClass& gRuntimeClass<CSettingsTemperaturePage>();

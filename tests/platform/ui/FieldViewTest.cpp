@@ -62,6 +62,24 @@ TEST(FieldViewTest, AFieldHasWhatBelongsToIt)
     });
 }
 
+TEST(FieldViewTest, AFieldWithoutALabelHasTheTitleOfTheGroupThatBeginsBeforeIt)
+{
+    static constexpr auto kRows = JoinRows(
+        Row(1, "group", EControl::Group, "Values", {}), Row(2, "bare", EControl::Edit, "", {}),
+        Row(3, "next", EControl::Edit, "", {}), Row(4, "empty", EControl::Group, "", {}),
+        Row(5, "box", EControl::CheckBox, "Box", {}));
+    static constexpr DialogTemplate kTemplate{"Groups", {50, 50}, kRows};
+    CSampleDialog dialog;
+    CPropertyPage pane(kTemplate);
+    gLookInto(dialog, [&] {
+        ASSERT_TRUE(pane.CreatePane(dialog));
+        EXPECT_EQ(gFindField(pane, "bare").pLabel, pane.GetDlgItem(1));
+        EXPECT_EQ(gFindField(pane, "next").pLabel, nullptr);
+        EXPECT_EQ(gFindField(pane, "box").pLabel, nullptr);
+        EXPECT_EQ(gFindField(pane, "group").pLabel, nullptr);
+    });
+}
+
 TEST(FieldViewTest, TheCurrentPaneIsTheVisibleOne)
 {
     CSampleDialog dialog;

@@ -1,5 +1,3 @@
-#include "wizard/analysis/AnalysisAC1Page.h"
-
 #include "platform/ui/ComboBox.h"
 #include "platform/ui/FieldView.h"
 #include "support/Look.h"

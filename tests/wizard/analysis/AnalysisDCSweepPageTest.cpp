@@ -1,5 +1,3 @@
-#include "wizard/analysis/AnalysisDCSweepPage.h"
-
 #include "platform/ui/FieldView.h"
 #include "support/Look.h"
 #include "support/Steps.h"

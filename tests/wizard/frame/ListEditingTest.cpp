@@ -24,7 +24,7 @@ constexpr auto kRows = JoinRows(
     Row(kClear, "clear", EControl::PushButton, "&Clear", {100, 90, 50, 14}, kDisabled));
 constexpr DialogTemplate kTemplate{"List", {160, 120}, kRows};
 
-constexpr TListEditingTexts kTexts{kDelete, kClear,
+constexpr TListEditingParts kTexts{kDelete, kClear,
                                    "__$$Translatable$$_This entry is already in the list.",
                                    "__$$Translatable$$_Delete it?", "Clear all?"};
 
@@ -168,7 +168,7 @@ TEST(ListEditing, QuestionsAreTheApplicationsBoxesAndTheRefusalIsThePages)
 
 TEST(ListEditing, AButtonThatThePageDoesNotHaveIsAnError)
 {
-    static constexpr TListEditingTexts kWrong{9998, 9999, "", "", ""};
+    static constexpr TListEditingParts kWrong{9998, 9999, "", "", ""};
     HeadlessDesktop desktop;
     CListDlg dialog;
     CScript()

@@ -57,15 +57,15 @@ TEST(PageLayoutTest, WideFieldsHaveTheirLabelAbove)
 
 TEST(PageLayoutTest, TheLargerGapOfTwoNeighboursCounts)
 {
-    ExpectPlaces(PageRows(RadioLine(1, "r", "A", kFirstOfGroup), RadioLine(2, "r", "B"),
+    ExpectPlaces(PageRows(RadioLines("r", TChoice{1, "A"}, TChoice{2, "B"}),
                           EditLine(kPlain, 3, "e", "E:"), GroupBox(4, "g", "G", Space(10)),
                           CheckLine(5, "c", "C")),
                  {{1, {7, 7, 235, 12}},
                   {2, {7, 21, 235, 12}},
                   {LabelOf(3), {7, 39, 90, 9}},
                   {3, {100, 37, 142, 13}},
-                  {4, {7, 56, 235, 29}},
-                  {5, {7, 91, 235, 12}}});
+                  {4, {7, 56, 235, 27}},
+                  {5, {7, 89, 235, 12}}});
 }
 
 TEST(PageLayoutTest, AGroupBoxMovesEdgesInwardsAndLeavesColumnsWhereTheyAre)
@@ -73,13 +73,13 @@ TEST(PageLayoutTest, AGroupBoxMovesEdgesInwardsAndLeavesColumnsWhereTheyAre)
     ExpectPlaces(PageRows(GroupBox(1, "g", "G",
                                    GroupBox(2, "h", "H", EditLine(kPlain, 3, "a", "A:"),
                                             EditLine(kUnits, 4, "b", "B:", "V")))),
-                 {{1, {7, 7, 235, 68}},
-                  {2, {14, 20, 221, 49}},
-                  {LabelOf(3), {21, 35, 76, 9}},
-                  {3, {100, 33, 128, 13}},
-                  {LabelOf(4), {21, 52, 76, 9}},
-                  {4, {100, 50, 96, 13}},
-                  {UnitOf(4), {200, 52, 28, 9}}});
+                 {{1, {7, 7, 235, 64}},
+                  {2, {14, 19, 221, 47}},
+                  {LabelOf(3), {21, 33, 76, 9}},
+                  {3, {100, 31, 128, 13}},
+                  {LabelOf(4), {21, 50, 76, 9}},
+                  {4, {100, 48, 96, 13}},
+                  {UnitOf(4), {200, 50, 28, 9}}});
 }
 
 TEST(PageLayoutTest, BlocksBesideEachOtherMeetAtTheGivenPlace)
@@ -91,16 +91,16 @@ TEST(PageLayoutTest, BlocksBesideEachOtherMeetAtTheGivenPlace)
                                           EditLine(kRight, 3, "b", "B:"))),
                           Beside(120, GroupBox(4, "h", "H", EditLine(kLeft, 5, "c", "C:")),
                                  EditLine(kRight, 6, "d", "D:"))),
-                 {{1, {7, 7, 235, 32}},
-                  {LabelOf(2), {14, 22, 23, 9}},
-                  {2, {40, 20, 74, 13}},
-                  {LabelOf(3), {120, 22, 37, 9}},
-                  {3, {160, 20, 75, 13}},
-                  {4, {7, 45, 107, 32}},
-                  {LabelOf(5), {14, 60, 23, 9}},
-                  {5, {40, 58, 67, 13}},
-                  {LabelOf(6), {120, 47, 37, 9}},
-                  {6, {160, 45, 82, 13}}});
+                 {{1, {7, 7, 235, 30}},
+                  {LabelOf(2), {14, 21, 23, 9}},
+                  {2, {40, 19, 74, 13}},
+                  {LabelOf(3), {120, 21, 37, 9}},
+                  {3, {160, 19, 75, 13}},
+                  {4, {7, 43, 107, 30}},
+                  {LabelOf(5), {14, 57, 23, 9}},
+                  {5, {40, 55, 67, 13}},
+                  {LabelOf(6), {120, 45, 37, 9}},
+                  {6, {160, 43, 82, 13}}});
 }
 
 TEST(PageLayoutTest, BlocksOfTheSameTopTakeTheHeightOfTheHighest)
@@ -133,10 +133,74 @@ TEST(PageLayoutTest, AGroupBoxWithoutATitleSaysSo)
     EXPECT_EQ(kRows[1].nFlags, kNoFlags);
 }
 
-TEST(PageLayoutTest, APageThatIsTooHighIsRefused)
+TEST(PageLayoutTest, TightHalvesTheDistances)
 {
-    EXPECT_NO_THROW(PageRows(TextBox(1, "a", "A:", 202)));
-    EXPECT_THROW(PageRows(TextBox(1, "a", "A:", 203)), std::length_error);
+    ExpectPlaces(
+        PageRows(Tight(EditLine(kPlain, 1, "a", "A:"), EditLine(kPlain, 2, "b", "B:"),
+                       GroupBox(3, "g", "G", Space(10)), GroupBox(4, "h", "H", Space(10)))),
+        {{LabelOf(1), {7, 9, 90, 9}},
+         {1, {100, 7, 142, 13}},
+         {LabelOf(2), {7, 24, 90, 9}},
+         {2, {100, 22, 142, 13}},
+         {3, {7, 38, 235, 27}},
+         {4, {7, 68, 235, 27}}});
+}
+
+TEST(PageLayoutTest, FramesBesideEachOtherEndTogether)
+{
+    ExpectPlaces(
+        PageRows(Beside(120, GroupBox(1, "g", "G", Space(10)), GroupBox(2, "h", "H", Space(30))),
+                 NoteLine(3, "n", "N")),
+        {{1, {7, 7, 107, 47}}, {2, {120, 7, 122, 47}}, {3, {7, 60, 235, 9}}});
+}
+
+TEST(PageLayoutTest, AGroupBoxIsTheLabelOfABareEdit)
+{
+    constexpr auto kRows = PageRows(GroupBox(1, "g", "&G", BareEdit(2, "e")));
+    ExpectPlaces(kRows, {{1, {7, 7, 235, 30}}, {2, {14, 19, 221, 13}}});
+    EXPECT_EQ(kRows[1].nFlags, kUnlabelled);
+}
+
+TEST(PageLayoutTest, WhatIsPlacedByHandKeepsToTheEdgesItReaches)
+{
+    constexpr auto at = [](int nId, const TRect& rRect) {
+        return At(Row(nId, "k", EControl::PushButton, "K", rRect));
+    };
+    ExpectPlaces(PageRows(GroupBox(1, "g", "G",
+                                   SameTop(at(2, {7, 0, 20, 14}), at(3, {100, 0, 20, 14}),
+                                           at(4, {200, 0, 42, 14}))),
+                          LabelledAt(Row(5, "e", EControl::Edit, "", {60, 0, 50, 13}), "E:")),
+                 {{1, {7, 7, 235, 31}},
+                  {2, {14, 19, 13, 14}},
+                  {3, {100, 19, 20, 14}},
+                  {4, {200, 19, 35, 14}},
+                  {LabelOf(5), {60, 44, 50, 9}},
+                  {5, {60, 55, 50, 13}}});
+}
+
+TEST(PageLayoutTest, AListHasItsButtonsBesideIt)
+{
+    constexpr auto kRows =
+        PageRows(ListLines(1, "list", 80, {2, "&Add"}, {3, "&Delete"}, {4, "&Clear"}));
+    ExpectPlaces(kRows, {{1, {7, 7, 179, 80}},
+                         {2, {192, 7, 50, 14}},
+                         {3, {192, 25, 50, 14}},
+                         {4, {192, 43, 50, 14}}});
+    EXPECT_EQ(std::string_view(kRows[1].pKey), "add");
+    EXPECT_EQ(std::string_view(kRows[2].pKey), "delete");
+    EXPECT_EQ(std::string_view(kRows[3].pKey), "clear");
+    EXPECT_EQ(kRows[1].nFlags, kNoFlags);
+    EXPECT_EQ(kRows[2].nFlags, kDisabled);
+    EXPECT_EQ(kRows[3].nFlags, kDisabled);
+}
+
+TEST(PageLayoutTest, TheFirstOfTheRadioLinesBeginsTheGroup)
+{
+    constexpr auto kRows =
+        PageRows(RadioLines("r", TChoice{1, "A"}, TChoice{2, "B"}, TChoice{3, "C"}));
+    EXPECT_EQ(kRows[0].nFlags, kFirstOfGroup);
+    EXPECT_EQ(kRows[1].nFlags, kNoFlags);
+    EXPECT_EQ(kRows[2].rect, (TRect{7, 35, 235, 12}));
 }
 
 TEST(PageLayoutTest, RowsKeepKindKeyLabelAndEntries)
