@@ -78,6 +78,8 @@ const TExampleLines& gSetupExamples()
           "third=0.1", "add"},
          ".param a=1 b=unif(1,0.1)"},
 
+        {"Settings/Temperature", {"temperature-list= 0 27\n85 "}, ".temp 0 27 85"},
+
         // --- what is refused
         Refused("Files/Include file", {"file=  "}, "Missing include file name."),
         Refused("Files/Library file", {"section=TT"}, "Missing library file name."),
@@ -101,6 +103,7 @@ const TExampleLines& gSetupExamples()
                 "Missing nominal value."),
         Refused("Settings/Parameters", {"parameter-type=Optimization", "first=w"},
                 "Missing optimization run name."),
+        Refused("Settings/Temperature", {"temperature-list=   "}, "Missing temperature value."),
     };
     return sExamples;
 }
