@@ -25,7 +25,7 @@ constexpr TTwin kVoltage{kVoltageSource, kMissingVoltageSourceName, "Vo&ltage of
 
 constexpr auto Rows(const TTwin& rTwin)
 {
-    constexpr TColumns kColumns{.nField = 113, .nUnit = 151};
+    constexpr TColumns kColumns{.nField = 112, .nUnit = 145};
     const char* const pUnit = rTwin.source.pUnit;
     return PageRows(GroupBox(
         kWholeGroup, "single-frequency-fm-source-group", "Single frequency FM source",

@@ -47,7 +47,7 @@ constexpr TTwin kVoltage{kVoltageSource,
 
 constexpr auto Rows(const TTwin& rTwin)
 {
-    constexpr TColumns kColumns{.nField = 89, .nUnit = 142};
+    constexpr TColumns kColumns{.nField = 89, .nUnit = 136};
     const char* const pUnit = rTwin.source.pUnit;
     return PageRows(GroupBox(
         kWholeGroup, "sinusoidal-waveform-group", "Sinusoidal waveform",

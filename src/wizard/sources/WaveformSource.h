@@ -49,8 +49,8 @@ enum EWaveformSourceId {
 };
 
 /// Where a group box around the whole page begins its inner ones, and where there is no such box.
-inline constexpr int kDCInFrame = 164;
-inline constexpr int kDCWithoutFrame = 171;
+inline constexpr int kDCInFrame = 167;
+inline constexpr int kDCWithoutFrame = 174;
 
 /// The group of the head fields, and beside it, from `nDC` on, the one of the DC value.
 constexpr auto NameBesideDC(int nDC, const TSourceTwin& rTwin)
@@ -88,7 +88,7 @@ constexpr auto ACLine(const TSourceTwin& rTwin)
 /// The narrow group of the AC values of a page that names no defaults for them.
 constexpr auto ACColumn(const TSourceTwin& rTwin)
 {
-    constexpr int kUnit = 215;
+    constexpr int kUnit = 212;
     return GroupBox(kACGroup, "ac-values-group", "AC values",
                     WideEdit(kACMagnitude, "ac-magnitude", "&Magnitude:", rTwin.pUnit, kUnit),
                     WideEdit(kACPhase, "ac-phase", "P&hase:", "deg", kUnit));

@@ -13,8 +13,9 @@ struct TExampleLine {
 
 using TExampleLines = std::vector<TExampleLine>;
 
-/// The examples of the pages of a category.
+/// The examples of the pages of a category, or of a family of sources.
 const TExampleLines& gAnalysisExamples();
+const TExampleLines& gWaveformExamples();
 
 /// All of them.
 TExampleLines gAllExamples();
