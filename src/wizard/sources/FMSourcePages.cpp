@@ -31,7 +31,7 @@ constexpr auto Rows(const TTwin& rTwin)
         kWholeGroup, "single-frequency-fm-source-group", "Single frequency FM source",
         NameBesideDC(kDCInFrame, rTwin.source),
         Beside(
-            173,
+            kDCInFrame,
             GroupBox(
                 kSignalGroup, "signal-group", "Signal",
                 EditLine(kColumns, kOffset, "offset", rTwin.pOffsetLabel, pUnit),

@@ -53,7 +53,7 @@ constexpr auto Rows(const TTwin& rTwin)
         kWholeGroup, "sinusoidal-waveform-group", "Sinusoidal waveform",
         NameBesideDC(kDCInFrame, rTwin.source),
         Beside(
-            173,
+            kDCInFrame,
             GroupBox(
                 kWaveformGroup, "waveform-group", "Waveform",
                 EditLine(kColumns, kOffset, "offset", rTwin.pOffsetLabel, pUnit),
