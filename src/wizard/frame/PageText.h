@@ -3,6 +3,7 @@
 #include "platform/base/StringA.h"
 
 #include <concepts>
+#include <initializer_list>
 
 class CWnd;
 
@@ -44,3 +45,13 @@ bool gReportFailure(CWnd& rPage, CString& rsMessage, const char* pLiteral);
 
 /// The same for a page without a message string.
 bool gReportFailure(CWnd& rPage, const char* pLiteral);
+
+/// A field that must have a text, and the literal of its message, as `gShownText` takes it.
+struct TRequiredField {
+    const CString& rsField;
+    const char* pMissing;
+};
+
+/// Reports the first of these fields that is empty, as `gReportFailure` does.
+/// Result: whether all have a text.
+bool gAreFilled(CWnd& rPage, CString& rsMessage, std::initializer_list<TRequiredField> required);
