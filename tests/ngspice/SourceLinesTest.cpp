@@ -1,8 +1,8 @@
 // A second opinion on the lines of the source pages: another simulator reads them. Each line of the
 // examples stands in a small circuit that ngspice simulates.
 
+#include "ngspice/Ngspice.h"
 #include "support/PageTest.h"
-#include "support/RunProgram.h"
 #include "support/WizardRun.h"
 #include "support/examples/ExampleLines.h"
 
@@ -63,29 +63,14 @@ std::string CircuitOf(const std::string& rsLine)
     return sCircuit + ".tran 1n 30n\n.print tran v(" + sPositive + ")\n.end\n";
 }
 
-TProgramRun Simulate(const std::string& rsCircuit)
-{
-    return gRunProgram("ngspice", {"--batch", "--no-spiceinit"}, rsCircuit);
-}
-
-/// Without an error or a warning, and with a table of results.
-bool IsAccepted(const TProgramRun& rRun)
-{
-    const auto says = [&rRun](const char* pWord) {
-        return rRun.sError.find(pWord) != std::string::npos ||
-               rRun.sOut.find(pWord) != std::string::npos;
-    };
-    return rRun.nExitCode == 0 && !says("rror") && !says("arning") && says("Transient Analysis");
-}
-
 TEST_F(SourceLines, NgspiceSimulatesThoseOfTheFormsThatItKnows)
 {
     int nSimulated = 0;
     for (const std::string& rsLine : ComposedLines()) {
         if (UnknownFormIn(rsLine))
             continue;
-        const TProgramRun run = Simulate(CircuitOf(rsLine));
-        EXPECT_TRUE(IsAccepted(run)) << rsLine << '\n' << testing::PrintToString(run);
+        const TProgramRun run = gSimulate(CircuitOf(rsLine));
+        EXPECT_TRUE(gIsAccepted(run)) << rsLine << '\n' << testing::PrintToString(run);
         ++nSimulated;
     }
     for (const char* pWaveform : {"PULSE", "PWL", "SIN", "EXP", "SFFM"})
@@ -104,15 +89,15 @@ TEST_F(SourceLines, NgspiceRefusesThoseOfTheFormsThatItDoesNotKnow)
             lines, [&rForm](const std::string& rsLine) { return UnknownFormIn(rsLine) != &rForm; });
         EXPECT_FALSE(lines.empty()) << rForm.pPart;
         for (const std::string& rsLine : lines)
-            EXPECT_FALSE(IsAccepted(Simulate(CircuitOf(rsLine)))) << rsLine;
+            EXPECT_FALSE(gIsAccepted(gSimulate(CircuitOf(rsLine)))) << rsLine;
     }
 }
 
 TEST_F(SourceLines, NgspiceIsAStrictJudge)
 {
-    EXPECT_TRUE(IsAccepted(Simulate(CircuitOf("V1 a GND PULSE (0 5)"))));
-    EXPECT_FALSE(IsAccepted(Simulate(CircuitOf("V1 a GND PLSE (0 5)"))));
-    EXPECT_FALSE(IsAccepted(Simulate(CircuitOf("V1 a GND PULSE (0 5) AD 1"))));
-    EXPECT_FALSE(IsAccepted(Simulate(CircuitOf("V1 a"))));
+    EXPECT_TRUE(gIsAccepted(gSimulate(CircuitOf("V1 a GND PULSE (0 5)"))));
+    EXPECT_FALSE(gIsAccepted(gSimulate(CircuitOf("V1 a GND PLSE (0 5)"))));
+    EXPECT_FALSE(gIsAccepted(gSimulate(CircuitOf("V1 a GND PULSE (0 5) AD 1"))));
+    EXPECT_FALSE(gIsAccepted(gSimulate(CircuitOf("V1 a"))));
 }
 } // namespace
