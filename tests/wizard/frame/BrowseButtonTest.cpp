@@ -140,6 +140,18 @@ protected:
     std::vector<TFileDialog> mShown;
 };
 
+TEST_F(BrowseButton, TheSharedFiltersAreThese)
+{
+    EXPECT_STREQ(kOutputFilesFilter, "Output Files (*.out)|*.out|Model Files (*.md)|*.md|All "
+                                     "Files (*.*)|*.*||");
+    EXPECT_STREQ(kLibraryFilesFilter,
+                 "Library Files (*.lib)|*.lib|SPICE Files (*.sp;*.spc;*.cir)|*.sp; *.spc; "
+                 "*.cir|Model Files (*.md)|*.md|All Files (*.*)|*.*||");
+    EXPECT_STREQ(kProgramsFilter, "Executable Files (*.exe)|*.exe|All Files (*.*)|*.*||");
+    EXPECT_STREQ(kCodeLibrariesFilter,
+                 "Dynamic-Link Library Files (*.dll)|*.dll|All Files (*.*)|*.*||");
+}
+
 TEST_F(BrowseButton, AFirstBrowseWithoutAProfileValueStartsInTheCurrentFolder)
 {
     Click(mDialog, {kCancelled}, "typed");
