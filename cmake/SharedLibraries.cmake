@@ -36,7 +36,7 @@ function(quorvawiz_add_shared name)
 endfunction()
 
 quorvawiz_add_shared(quorvaplatform platform foundation qt)
-target_link_libraries(quorvaplatform PUBLIC Qt6::Widgets PRIVATE ICU::uc)
+target_link_libraries(quorvaplatform PUBLIC Qt6::Widgets Boost::headers PRIVATE ICU::uc)
 
 quorvawiz_add_shared(quorvawiz params wizard browser exports)
 target_link_libraries(quorvawiz PUBLIC quorvaplatform PRIVATE ICU::uc)

@@ -2,10 +2,10 @@
 
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
-#include "host/Unprivileged.h"
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/WizardAlone.h"
 #include "quorvahost/tour/WizardUser.h"
+#include "support/Unprivileged.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
-#include "host/Unprivileged.h"
+#include "support/Unprivileged.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

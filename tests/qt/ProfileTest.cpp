@@ -21,10 +21,12 @@ TEST(Profile, ValuesLive)
         QtDesktop desktop(sFile);
         for (const auto& [pEntry, pValue] : kValues)
             EXPECT_TRUE(desktop.WriteProfile("Section", pEntry, pValue)) << pEntry;
+        EXPECT_TRUE(desktop.WriteProfile("", "Path", "/of/no/section"));
     }
     QtDesktop desktop(sFile);
     for (const auto& [pEntry, pValue] : kValues)
         EXPECT_EQ(desktop.ReadProfile("Section", pEntry), CString(pValue)) << pEntry;
+    EXPECT_EQ(desktop.ReadProfile("", "Path"), CString("/of/no/section"));
     EXPECT_EQ(desktop.ReadProfile("Section", "Never"), std::nullopt);
     EXPECT_EQ(desktop.ReadProfile("Other", "Path"), std::nullopt);
 }

@@ -13,8 +13,10 @@
 #include "wizard/frame/WizardPages.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <deque>
 #include <utility>
+#include <vector>
 
 namespace
 {
@@ -59,12 +61,33 @@ private:
     std::deque<CPlayer::TTurn> mTurns;
 };
 
-/// Looks at a drop-down list's window with each of its entries.
+/// The drop-down lists that the user sees in the dialog in front.
+std::vector<CComboBox*> ShownCombos()
+{
+    std::vector<CComboBox*> combos;
+    for (const TFieldView& rField : gCollectFields(gCurrentPane(gFrontDialog())))
+        if (auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl);
+            pCombo && pCombo->IsWindowVisible())
+            combos.push_back(pCombo);
+    return combos;
+}
+
+/// Looks at a drop-down list's window with each of its entries, and with those of the lists that an
+/// entry brings forth.
 void AddEntries(CVisit& rVisit, const std::string& rsName, CComboBox& rCombo)
 {
     for (int i = 0; i < rCombo.GetCount(); ++i) {
-        rVisit.Add([&rCombo, i] { rCombo.UserSelect(i); });
-        rVisit.AddLook(rsName + "-" + rCombo.GetLBText(i).GetString());
+        const std::string sName = rsName + "-" + rCombo.GetLBText(i).GetString();
+        rVisit.Add([&rVisit, sName, &rCombo, i] {
+            const auto before = ShownCombos();
+            rCombo.UserSelect(i);
+            rVisit.Insert([&] {
+                for (CComboBox* const pCombo : ShownCombos())
+                    if (std::ranges::find(before, pCombo) == before.end())
+                        AddEntries(rVisit, sName, *pCombo);
+            });
+        });
+        rVisit.AddLook(sName);
     }
     rVisit.Add([&rCombo] { rCombo.UserSelect(0); });
 }
@@ -73,7 +96,8 @@ void AddEntries(CVisit& rVisit, const std::string& rsName, CComboBox& rCombo)
 void AddChoices(CVisit& rVisit, const std::string& rsName)
 {
     for (const TFieldView& rField : gCollectFields(gCurrentPane(gFrontDialog()))) {
-        if (auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl))
+        auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl);
+        if (pCombo && pCombo->IsWindowVisible())
             AddEntries(rVisit, rsName, *pCombo);
         for (CButton* const pRadio : rField.radios) {
             rVisit.Add([pRadio] { pRadio->UserClick(); });

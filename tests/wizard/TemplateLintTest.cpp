@@ -11,6 +11,7 @@
 #include "wizard/frame/CommandPage.h"
 #include "wizard/frame/TreeDlg.h"
 #include "wizard/frame/WizardPages.h"
+#include "wizard/setup/BrowseLibraryAndSectionDialog.h"
 
 #include <gtest/gtest.h>
 
@@ -49,6 +50,7 @@ TTemplates AllTemplates()
     TTemplates templates = PageTemplates();
     templates.push_back(&CFrame().GetTemplate());
     templates.push_back(&CStepSweepPage().GetTemplate());
+    templates.push_back(&CBrowseLibraryAndSectionDialog("", "").GetTemplate());
     return templates;
 }
 

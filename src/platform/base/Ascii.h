@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/base/ByteBlock.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <string>
 #include <string_view>
 
 /// Finds the first byte whose top bit is set.
@@ -10,19 +13,90 @@
 /// @return its index in bytes, or sText.size() where all bytes are 7-bit
 [[nodiscard]] inline std::size_t gFindNonAscii(std::string_view sText) noexcept
 {
-    constexpr std::uint64_t topBits = 0x8080808080808080U;
     std::size_t nAt = 0;
-    for (; nAt + sizeof(std::uint64_t) <= sText.size(); nAt += sizeof(std::uint64_t)) {
-        std::uint64_t nWord = 0;
-        std::memcpy(&nWord, sText.data() + nAt, sizeof(nWord));
-        if ((nWord & topBits) != 0) {
-            break;
+    for (; nAt + kByteBlock <= sText.size(); nAt += kByteBlock) {
+        const TByteBlock isHigh = gLoadBlock(sText.data() + nAt) < 0;
+        if (gAnySet(isHigh)) {
+            return nAt + gFindSet(isHigh);
         }
     }
     while (nAt < sText.size() && (static_cast<unsigned char>(sText[nAt]) & 0x80U) == 0) {
         ++nAt;
     }
     return nAt;
+}
+
+/// Finds the first 16-bit unit that is no ASCII character.
+/// @param sText 16-bit text of any length
+/// @return its index in units, or sText.size() where all units are below 0x80
+[[nodiscard]] inline std::size_t gFindNonAscii(std::u16string_view sText) noexcept
+{
+    std::size_t nAt = 0;
+    while (nAt + kUnitBlock <= sText.size() && !gAnySet(gLoadBlock(sText.data() + nAt) >= 0x80)) {
+        nAt += kUnitBlock;
+    }
+    while (nAt < sText.size() && sText[nAt] < 0x80) {
+        ++nAt;
+    }
+    return nAt;
+}
+
+/// Cuts 16-bit text at its first zero.
+/// @param sText 16-bit text of any length
+/// @return what stands in front of the zero, or all of it
+[[nodiscard]] inline std::u16string_view gCutAtZero(std::u16string_view sText) noexcept
+{
+    std::size_t nAt = 0;
+    while (nAt + kUnitBlock <= sText.size() && !gAnySet(gLoadBlock(sText.data() + nAt) == 0)) {
+        nAt += kUnitBlock;
+    }
+    while (nAt < sText.size() && sText[nAt] != 0) {
+        ++nAt;
+    }
+    return sText.substr(0, nAt);
+}
+
+/// Appends each byte as one 16-bit unit, high bytes as unsigned.
+/// @param sText the bytes
+/// @param rsOut the text to append to
+inline void gAppendWidened(std::string_view sText, std::u16string& rsOut)
+{
+    // By way of room of its own, which spares the text the filling of new room with zeros.
+    constexpr std::size_t room = 16 * kByteBlock;
+    char16_t units[room];
+    for (std::size_t nDone = 0; nDone < sText.size(); nDone += room) {
+        const std::string_view sPart = sText.substr(nDone, room);
+        std::size_t nAt = 0;
+        for (; nAt + kByteBlock <= sPart.size(); nAt += kByteBlock) {
+            for (std::size_t i = nAt; i < nAt + kByteBlock; ++i) {
+                units[i] = static_cast<unsigned char>(sPart[i]);
+            }
+        }
+        for (; nAt < sPart.size(); ++nAt) {
+            units[nAt] = static_cast<unsigned char>(sPart[nAt]);
+        }
+        rsOut.append(units, sPart.size());
+    }
+}
+
+/// Narrows ASCII text from 16-bit units to bytes.
+/// @param sText units below 0x80; of any other only the low byte is kept
+/// @param pOut room for as many bytes as there are units
+inline void gNarrowAscii(std::u16string_view sText, char* pOut) noexcept
+{
+    std::size_t nAt = 0;
+    for (; nAt + kByteBlock <= sText.size(); nAt += kByteBlock) {
+        char16_t units[kByteBlock];
+        unsigned char bytes[kByteBlock];
+        std::memcpy(units, sText.data() + nAt, sizeof(units));
+        for (std::size_t i = 0; i < kByteBlock; ++i) {
+            bytes[i] = static_cast<unsigned char>(units[i]);
+        }
+        std::memcpy(pOut + nAt, bytes, sizeof(bytes));
+    }
+    for (; nAt < sText.size(); ++nAt) {
+        pOut[nAt] = static_cast<char>(sText[nAt]);
+    }
 }
 
 /// Tells whether every byte of the text is 7-bit.

@@ -6,7 +6,6 @@
 
 #include <unicode/uchar.h>
 
-#include <algorithm>
 #include <atomic>
 #include <cstddef>
 #include <utility>
@@ -31,23 +30,16 @@ const ICodec& CodecOf(unsigned nCodePage)
 void MoveAscii(std::string_view& rsRest, std::u16string& rsOut)
 {
     const std::size_t nCount = gFindNonAscii(rsRest);
-    const std::size_t nOld = rsOut.size();
-    rsOut.resize(nOld + nCount);
-    std::transform(rsRest.begin(), rsRest.begin() + static_cast<std::ptrdiff_t>(nCount),
-                   rsOut.begin() + static_cast<std::ptrdiff_t>(nOld),
-                   [](char ch) { return static_cast<char16_t>(static_cast<unsigned char>(ch)); });
+    gAppendWidened(rsRest.substr(0, nCount), rsOut);
     rsRest.remove_prefix(nCount);
 }
 
 void MoveAscii(std::u16string_view& rsRest, std::string& rsOut)
 {
-    const auto itEnd =
-        std::find_if(rsRest.begin(), rsRest.end(), [](char16_t ch) { return ch >= 0x80; });
-    const auto nCount = static_cast<std::size_t>(itEnd - rsRest.begin());
+    const std::size_t nCount = gFindNonAscii(rsRest);
     const std::size_t nOld = rsOut.size();
     rsOut.resize(nOld + nCount);
-    std::transform(rsRest.begin(), itEnd, rsOut.begin() + static_cast<std::ptrdiff_t>(nOld),
-                   [](char16_t ch) { return static_cast<char>(ch); });
+    gNarrowAscii(rsRest.substr(0, nCount), rsOut.data() + nOld);
     rsRest.remove_prefix(nCount);
 }
 

@@ -3,7 +3,8 @@
 TExampleLines gAllExamples()
 {
     TExampleLines all;
-    for (const TExampleLines* pExamples : {&gAnalysisExamples(), &gSetupExamples()})
+    for (const TExampleLines* pExamples :
+         {&gAnalysisExamples(), &gSetupExamples(), &gWaveformExamples()})
         all.insert(all.end(), pExamples->begin(), pExamples->end());
     return all;
 }

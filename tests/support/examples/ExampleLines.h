@@ -13,9 +13,10 @@ struct TExampleLine {
 
 using TExampleLines = std::vector<TExampleLine>;
 
-/// The examples of the pages of a category.
+/// The examples of the pages of a category, or of a family of sources.
 const TExampleLines& gAnalysisExamples();
 const TExampleLines& gSetupExamples();
+const TExampleLines& gWaveformExamples();
 
 /// All of them.
 TExampleLines gAllExamples();

@@ -1,0 +1,43 @@
+#include "foundation/PathLog.h"
+#include "foundation/PathRules.h"
+#include "foundation/PathText.h"
+#include "foundation/Paths.h"
+
+bool gIsAbsoluteText(std::u16string_view sPath, TExpandedNames& rNames)
+{
+    const std::u16string sCanonical = gCanonicalForm(std::u16string(sPath), rNames);
+    if (gHasSlashAt(sCanonical, 0)) {
+        // One that begins with "/" is absolute under every system.
+        return !sPath.starts_with(u'\\') || gHasSlashAt(sCanonical, 1);
+    }
+    return gHasDrive(sCanonical) && gHasSlashAt(sCanonical, 2);
+}
+
+bool gIsAbsoluteText(std::u16string_view sPath)
+{
+    TExpandedNames names;
+    return gIsAbsoluteText(sPath, names);
+}
+
+bool gIsAbsolutePath(const CStringU& rPath)
+{
+    const bool bAbsolute = gIsAbsoluteText(rPath.ToWide());
+    gLogPathCall("gIsAbsolutePath", {{"Path", rPath}}, bAbsolute ? "true" : "false");
+    return bAbsolute;
+}
+
+bool gIsUnixStyleText(std::u16string_view sPath)
+{
+    const auto isQuoted = [&sPath](char16_t chQuote) {
+        return sPath.size() >= 3 && sPath.front() == chQuote && sPath.back() == chQuote;
+    };
+    while (isQuoted(u'"') || isQuoted(u'\'')) {
+        sPath = sPath.substr(1, sPath.size() - 2);
+    }
+    return sPath.starts_with(u'/') || sPath.starts_with(u"../") || sPath.starts_with(u"./");
+}
+
+bool gIsUnixStylePath(const CStringU& rPath)
+{
+    return gIsUnixStyleText(rPath.ToWide());
+}

@@ -1,0 +1,117 @@
+#include "foundation/PathLog.h"
+#include "foundation/PathRules.h"
+#include "foundation/PathText.h"
+#include "foundation/Paths.h"
+#include "platform/base/IsWine.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+namespace
+{
+
+/// The length of the root of a path that has "/" only: a share with something behind it, or a
+/// drive.
+std::size_t RootLength(std::u16string_view sPath)
+{
+    if (gHasTwoSlashes(sPath)) {
+        const std::size_t nShareEnd = gFindShareEnd(sPath);
+        return nShareEnd != kNowhere ? nShareEnd : 0; // kept: a bare share is a rooted path
+    }
+    return gHasDrive(sPath) ? 2 : 0;
+}
+
+/// The components of a path behind its root, resolved.
+class CComponents
+{
+public:
+    explicit CComponents(bool bRooted) : mbRooted(bRooted)
+    {
+        constexpr std::size_t usual = 16;
+        mList.reserve(usual);
+    }
+
+    void Add(std::u16string_view sComponent)
+    {
+        if (sComponent.empty() || sComponent == u".") {
+            return;
+        }
+        if (sComponent != u"..") {
+            mList.push_back(sComponent);
+            ++mnDepth;
+        } else if (mnDepth > 0) {
+            mList.pop_back();
+            --mnDepth;
+        } else if (!mbRooted) {
+            mList.push_back(sComponent);
+        }
+    }
+
+    const std::vector<std::u16string_view>& List() const { return mList; }
+
+private:
+    bool mbRooted;
+    int mnDepth = 0; ///< how many of the last components can be undone
+    std::vector<std::u16string_view> mList;
+};
+
+std::u16string Clean(std::u16string_view sPath)
+{
+    const std::size_t nRoot = RootLength(sPath);
+    std::u16string_view sRest = sPath.substr(nRoot);
+    const bool bRooted = sRest.starts_with(u'/');
+    CComponents components(bRooted);
+    while (!sRest.empty()) {
+        const std::size_t nEnd = std::min(sRest.find(u'/'), sRest.size());
+        components.Add(sRest.substr(0, nEnd));
+        sRest.remove_prefix(std::min(nEnd + 1, sRest.size()));
+    }
+    std::u16string sClean;
+    sClean.reserve(sPath.size());
+    sClean += sPath.substr(0, nRoot);
+    sClean.append(bRooted ? 1 : 0, u'/');
+    std::u16string_view sSeparator;
+    for (const std::u16string_view sComponent : components.List()) {
+        sClean += sSeparator;
+        sClean += sComponent;
+        sSeparator = u"/";
+    }
+    return sClean;
+}
+
+/// Whether a path keeps its backslashes on the Unix side, too.
+bool IsOfTheOtherSide(std::u16string_view sPath)
+{
+    return (gHasDrive(sPath) && gHasSlashAt(sPath, 2)) || gHasTwoSlashes(sPath);
+}
+
+} // namespace
+
+std::u16string gCanonicalForm(std::u16string sPath, TExpandedNames& rNames)
+{
+    gReplaceAll(sPath, u'\\', u'/');
+    std::u16string sText = Clean(sPath);
+    gReplaceAll(sText, u'/', u'\\');
+    if (gMayHaveReferences(sText)) {
+        sText = gExpandEnvironment(sText, rNames);
+    }
+    if (gIsWine() && !IsOfTheOtherSide(sText)) {
+        gReplaceAll(sText, u'\\', u'/');
+    }
+    return sText;
+}
+
+std::u16string gCanonicalForm(std::u16string sPath)
+{
+    TExpandedNames names;
+    return gCanonicalForm(std::move(sPath), names);
+}
+
+CStringU gCanonicalizePath(const CStringU& rPath)
+{
+    CStringU result = gCanonicalForm(rPath.ToWide());
+    gLogPathCall("gCanonicalizePath", {{"Path", rPath}}, result);
+    return result;
+}

@@ -1,0 +1,212 @@
+#include "foundation/StringU.h"
+
+#include "foundation/FromCodePage.h"
+#include "foundation/MarkerRule.h"
+#include "foundation/Utf8Units.h"
+#include "platform/base/Ascii.h"
+#include "platform/base/CodePage.h"
+
+#include <algorithm>
+#include <type_traits>
+#include <utility>
+
+static_assert(sizeof(CStringU) == sizeof(CStringA));
+static_assert(std::is_nothrow_move_constructible_v<CStringU>);
+
+struct CStringU::TStored {
+};
+
+namespace
+{
+
+void StoreUtf8(std::string_view sText, std::string& rsStored)
+{
+    const bool bMarker = !sText.empty() && sText.front() != '\0' && gIsAscii(sText.substr(0, 1));
+    rsStored.clear();
+    rsStored.reserve(sText.size() + 1);
+    rsStored.append(bMarker ? 1 : 0, kUtf8Marker);
+    rsStored += sText;
+}
+
+void StoreKind(std::string_view sText, TTextKind kind, std::string& rsStored)
+{
+    switch (kind) {
+    case TTextKind::Plain:
+        break;
+    case TTextKind::CodePageIfNeeded:
+        if (gIsAscii(sText)) {
+            break;
+        }
+        [[fallthrough]];
+    case TTextKind::CodePage:
+        gStoreCodePage(sText, rsStored);
+        return;
+    case TTextKind::Utf8IfNeeded:
+        if (gIsAscii(sText)) {
+            break;
+        }
+        [[fallthrough]];
+    case TTextKind::Utf8:
+        StoreUtf8(sText, rsStored);
+        return;
+    }
+    rsStored = sText;
+}
+
+std::u16string_view ViewOf(const char16_t* pText) noexcept
+{
+    return pText != nullptr ? std::u16string_view(pText) : std::u16string_view();
+}
+
+std::size_t Clamp(int nValue, std::size_t nMost) noexcept
+{
+    return nValue < 0 ? 0 : std::min(static_cast<std::size_t>(nValue), nMost);
+}
+
+} // namespace
+
+CStringU::CStringU(std::string sStored, const TStored& /*rTag*/) noexcept
+    : CStringA(std::move(sStored))
+{
+}
+
+CStringU::CStringU(const char* pText) : CStringU(gOperandView(pText)) {}
+
+CStringU::CStringU(std::string_view sText) : CStringU(sText, TTextKind::CodePageIfNeeded) {}
+
+CStringU::CStringU(const std::string& rsText) : CStringU(std::string_view(rsText)) {}
+
+CStringU::CStringU(const CStringA& rsText) : CStringU(std::string_view(rsText)) {}
+
+CStringU::CStringU(std::string_view sText, TTextKind kind)
+{
+    StoreKind(sText, kind, Bytes());
+}
+
+CStringU::CStringU(const char* pText, TTextKind kind) : CStringU(gOperandView(pText), kind) {}
+
+CStringU::CStringU(const char16_t* pText) : CStringU(ViewOf(pText)) {}
+
+CStringU::CStringU(std::u16string_view sText) : CStringA(gStoreWide(sText)) {}
+
+CStringU::CStringU(const std::u16string& rsText) : CStringU(std::u16string_view(rsText)) {}
+
+CStringU::CStringU(char16_t chChar) : CStringU(std::u16string_view(&chChar, 1)) {}
+
+CStringU CStringU::FromWideBigEndian(std::u16string_view sText)
+{
+    return {gSwapUnitBytes(sText)};
+}
+
+void CStringU::Assign(std::string_view sText, TTextKind kind)
+{
+    StoreKind(sText, kind, Bytes());
+}
+
+void CStringU::AppendUtf8(std::string_view sBytes)
+{
+    const bool bUtf8 = IsUtf8() || !gIsAscii(sBytes);
+    Bytes() += sBytes;
+    if (bUtf8 && !IsUtf8()) {
+        Bytes().insert(0, 1, kUtf8Marker);
+    }
+}
+
+CStringA CStringU::ToUtf8() const
+{
+    return {Text()};
+}
+
+CStringA CStringU::ToCodePage(unsigned nCodePage) const
+{
+    if (!IsUtf8() || gIsAscii(Text())) {
+        return {Text()};
+    }
+    return {gWideToMultiByte(gDecodeUnits(Text()), nCodePage)};
+}
+
+CStringA CStringU::ToAnsi() const
+{
+    return ToCodePage(gGetSystemCodePage());
+}
+
+std::u16string CStringU::ToWide() const
+{
+    if (IsUtf8()) {
+        return gDecodeUnits(Text());
+    }
+    std::u16string sWide;
+    sWide.reserve(Text().size());
+    gAppendWidened(Text(), sWide);
+    return sWide;
+}
+
+std::u16string CStringU::ToWideBigEndian() const
+{
+    return gSwapUnitBytes(ToWide());
+}
+
+int CStringU::GetCharCount() const noexcept
+{
+    const std::string_view sText = Text();
+    if (!IsUtf8()) {
+        return GetByteLength();
+    }
+    int nCount = 0;
+    for (std::size_t nAt = 0; nAt < sText.size(); nAt += gSequenceLength(sText[nAt])) {
+        ++nCount;
+    }
+    return nCount;
+}
+
+CStringU CStringU::Piece(std::size_t nFirst, std::size_t nCount) const
+{
+    const std::string_view sPiece = Text().substr(nFirst, nCount);
+    return {IsUtf8() ? gStoreMarked(sPiece) : std::string(sPiece), TStored()};
+}
+
+CStringU CStringU::Left(int nCount) const
+{
+    return Piece(0, Clamp(nCount, Text().size()));
+}
+
+CStringU CStringU::Right(int nCount) const
+{
+    const std::size_t nClamped = Clamp(nCount, Text().size());
+    return Piece(Text().size() - nClamped, nClamped);
+}
+
+CStringU CStringU::Mid(int nFirst) const
+{
+    return Piece(Clamp(nFirst, Text().size()), std::string_view::npos);
+}
+
+CStringU CStringU::Mid(int nFirst, int nCount) const
+{
+    const std::size_t nAt = Clamp(nFirst, Text().size());
+    return Piece(nAt, Clamp(nCount, Text().size() - nAt));
+}
+
+CStringU& CStringU::operator+=(const CStringU& rsText)
+{
+    const bool bUtf8 = rsText.IsUtf8();
+    Bytes() += rsText.Text();
+    if (bUtf8 && !IsUtf8()) {
+        Bytes().insert(0, 1, kUtf8Marker);
+    }
+    return *this;
+}
+
+CStringU& CStringU::operator+=(char16_t chChar)
+{
+    if (chChar != 0 && chChar < 0x80) {
+        Bytes() += static_cast<char>(chChar);
+        return *this;
+    }
+    return *this += CStringU(chChar);
+}
+
+CStringU& CStringU::operator+=(char chChar)
+{
+    return *this += CStringU(std::string_view(&chChar, 1));
+}

@@ -1,0 +1,210 @@
+// Opening and closing, the mark, and what is kept of errors.
+
+#include "foundation/TextFile.h"
+
+#include "foundation/FileChecks.h"
+#include "foundation/Paths.h"
+#include "foundation/SystemPaths.h"
+#include "foundation/UnixSide.h"
+
+#include <array>
+#include <cerrno>
+
+namespace
+{
+
+constexpr unsigned kModeMask = 3;
+constexpr unsigned kExportFlags = CFile::modeCreate | CFile::modeWrite | CFile::shareDenyRead;
+
+} // namespace
+
+TTextFile::TTextFile(const CStringU& rsFileName, unsigned nOpenFlags)
+{
+    TTextFile::Open(rsFileName, nOpenFlags, nullptr);
+}
+
+TTextFile::TTextFile(const CStringU& rsFileName)
+{
+    TTextFile::Open(rsFileName, EncodingAnsi, kExportFlags, nullptr);
+}
+
+TTextFile::TTextFile(TTextEncoding encoding, const CStringU& rsText, const CStringU& rsName)
+    : msOwnText(rsText), mpText(&msOwnText)
+{
+    StartInMemory(encoding, rsName);
+}
+
+TTextFile::TTextFile(TTextEncoding encoding, CStringU* pText, const CStringU& rsName)
+    : mpText(pText)
+{
+    StartInMemory(encoding, rsName);
+}
+
+TTextFile::~TTextFile()
+{
+    TTextFile::Close();
+}
+
+void TTextFile::StartInMemory(TTextEncoding encoding, const CStringU& rsName)
+{
+    mbInMemory = true;
+    mnOpenFlags = modeReadWrite;
+    msFileName = gToDosPath(rsName);
+    ApplyMarkRule(encoding);
+    TTextFile::Seek(0, begin);
+}
+
+void TTextFile::SetFilePath(const char* pFileName)
+{
+    CFile::SetFilePath(pFileName);
+    msFileName = pFileName;
+}
+
+bool TTextFile::Open(const CStringU& rsFileName, unsigned nOpenFlags, CFileException* pError)
+{
+    if (!OpenOnDisk(rsFileName, nOpenFlags, pError)) {
+        return false;
+    }
+    DetectEncoding(EncodingAnsi);
+    TTextFile::Seek(0, begin);
+    return true;
+}
+
+bool TTextFile::Open(const CStringU& rsFileName, TTextEncoding encoding, unsigned nOpenFlags,
+                     CFileException* pError)
+{
+    if (!OpenOnDisk(rsFileName, nOpenFlags, pError)) {
+        return false;
+    }
+    if (!ApplyMarkRule(encoding)) {
+        Close();
+        return false;
+    }
+    TTextFile::Seek(0, begin);
+    return true;
+}
+
+bool TTextFile::OpenOnDisk(const CStringU& rsFileName, unsigned nOpenFlags, CFileException* pError)
+{
+    Close();
+    mbInMemory = false;
+    mnLine = 0;
+    msError.Empty();
+    msFileName = rsFileName;
+    mnOpenFlags = nOpenFlags;
+    if ((nOpenFlags & modeCreate) != 0 && !MakeFolder(rsFileName)) {
+        return false;
+    }
+    if (!CFile::Open(rsFileName.ToAnsi().GetString(), nOpenFlags, pError)) {
+        CStringU sMessage;
+        const CStringU sShown = gToUnixPath(rsFileName);
+        if (pError != nullptr) {
+            std::array<char, 1024> reason{};
+            pError->GetErrorMessage(reason.data(), static_cast<unsigned>(reason.size()));
+            sMessage.Format("Can't open file \"%s\": %s", sShown.Data(),
+                            CStringU(reason.data()).Data());
+        } else {
+            sMessage.Format("Can't open file \"%s\".", sShown.Data());
+        }
+        KeepError(sMessage);
+        return false;
+    }
+    AllocateBuffer();
+    return true;
+}
+
+bool TTextFile::MakeFolder(const CStringU& rsFileName)
+{
+    const CStringU sFolder = gGetPathWithoutFileName(rsFileName);
+    CStringU sReason;
+    if (sFolder.IsEmpty() || gDirectoryExists(sFolder) || gCreateDirectories(sFolder, sReason)) {
+        return true;
+    }
+    CStringU sMessage;
+    sMessage.Format("Can't create directory \"%s\". %s", gToUnixPath(sFolder).Data(),
+                    sReason.Data());
+    KeepError(sMessage);
+    return false;
+}
+
+void TTextFile::Close()
+{
+    if (IsOpen()) {
+        WriteOut();
+    }
+    ResetBuffer();
+    try {
+        CFile::Close();
+    } catch (const CFileException& rException) {
+        KeepWriteError(rException.GetOsError()); // the system reports late what it couldn't write
+    }
+}
+
+bool TTextFile::Remove()
+{
+    if (mbInMemory || msFileName.IsEmpty()) {
+        return false;
+    }
+    Close();
+    try {
+        CFile::Remove(msFileName.ToAnsi().GetString());
+    } catch (const CFileException&) {
+        return false;
+    }
+    return true;
+}
+
+void TTextFile::DetectEncoding(TTextEncoding whenUnknown)
+{
+    std::array<char, kDetectedBytes> first{};
+    unsigned nRead = 0;
+    try {
+        const std::uint64_t nPosition = RawPosition();
+        nRead = RawRead(first.data(), first.size());
+        RawSeek(nPosition);
+    } catch (const CFileException&) {
+        nRead = 0; // not open for reading
+    }
+    mEncoding = gDetectEncoding({first.data(), nRead}, whenUnknown);
+}
+
+bool TTextFile::ApplyMarkRule(TTextEncoding encoding)
+{
+    mEncoding = encoding;
+    const unsigned nMode = mnOpenFlags & kModeMask;
+    if (nMode != modeWrite && nMode != modeReadWrite) {
+        DetectEncoding(encoding);
+        return true;
+    }
+    try {
+        if (RawLength() == 0) {
+            RawSeek(0);
+            const std::string_view sMark = gMarkOf(encoding);
+            RawWrite(sMark.data(), sMark.size());
+        }
+    } catch (const CFileException& rException) {
+        KeepWriteError(rException.GetOsError());
+        return false;
+    }
+    return true;
+}
+
+std::int64_t TTextFile::MarkSize() const noexcept
+{
+    return static_cast<std::int64_t>(gMarkOf(mEncoding).size());
+}
+
+void TTextFile::KeepError(const CStringU& rsError)
+{
+    if (msError.IsEmpty()) {
+        msError = rsError;
+    }
+}
+
+void TTextFile::KeepWriteError(int nOsError)
+{
+    CStringU sMessage;
+    sMessage.Format("Error writing to file \"%s\": %s", gToUnixPath(msFileName).Data(),
+                    gGetSystemErrorText(nOsError).Data());
+    KeepError(sMessage);
+}

@@ -1,0 +1,116 @@
+#include "foundation/LineEnds.h"
+#include "foundation/TextFile.h"
+#include "foundation/Utf8Units.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstring>
+
+namespace
+{
+
+constexpr std::size_t kFirstLineCapacity = 1024;
+constexpr std::size_t kUnit = sizeof(char16_t);
+
+} // namespace
+
+bool TTextFile::ReadLine(CStringU& rsLine)
+{
+    rsLine.Empty();
+    if (!IsOpen()) {
+        return false;
+    }
+    const bool bRead =
+        gHasTwoByteUnits(mEncoding) ? ReadLineOfUnits(rsLine) : ReadLineOfBytes(rsLine);
+    ++mnLine;
+    return bRead;
+}
+
+bool TTextFile::ReadLineOfBytes(CStringU& rsLine)
+{
+    if (!FillIfEmpty()) {
+        return false;
+    }
+    // Nearly every line stands whole in the buffer and is read from there, and nearly every one is
+    // plain: the first byte of another kind is its end.
+    const std::string_view sBuffered = Buffered();
+    const std::size_t nPlain = gFindNotPlain(sBuffered);
+    const std::string_view sBehind = sBuffered.substr(nPlain, 2);
+    if (sBehind.starts_with('\n') || sBehind == "\r\n") {
+        rsLine.Assign(sBuffered.substr(0, nPlain), TTextKind::Plain);
+        mnIndex += nPlain + (sBehind.front() == '\n' ? 1 : 2);
+        return true;
+    }
+    const std::size_t nEnd = sBuffered.find('\n', nPlain);
+    if (nEnd != std::string_view::npos) {
+        SetLine(rsLine, sBuffered.substr(0, nEnd));
+        mnIndex += nEnd + 1;
+        return true;
+    }
+    msLineBuffer.reserve(kFirstLineCapacity);
+    msLineBuffer.clear();
+    bool bLineEnd = false;
+    while (!bLineEnd && FillIfEmpty()) {
+        const std::string_view sPart = Buffered();
+        const std::size_t nLength = std::min(sPart.find('\n'), sPart.size());
+        bLineEnd = nLength < sPart.size();
+        msLineBuffer += sPart.substr(0, nLength);
+        mnIndex += nLength + (bLineEnd ? 1 : 0);
+    }
+    SetLine(rsLine, msLineBuffer);
+    return true;
+}
+
+// Carriage returns go, the first zero ends the line, and the bytes become text.
+void TTextFile::SetLine(CStringU& rsLine, std::string_view sBytes) const
+{
+    const TTextKind kind =
+        mEncoding == EncodingAnsi ? TTextKind::CodePageIfNeeded : TTextKind::Utf8IfNeeded;
+    sBytes = sBytes.substr(0, sBytes.find('\0'));
+    if (sBytes.ends_with('\r')) {
+        sBytes.remove_suffix(1);
+    }
+    if (sBytes.find('\r') == std::string_view::npos) {
+        rsLine.Assign(sBytes, kind);
+    } else {
+        std::string sKept(sBytes);
+        std::erase(sKept, '\r');
+        rsLine.Assign(sKept, kind);
+    }
+}
+
+bool TTextFile::ReadLineOfUnits(CStringU& rsLine)
+{
+    std::u16string sUnits;
+    bool bRead = false;
+    std::array<char, kUnit> bytes{};
+    // Each unit is read by itself, since one may stand across the end of the buffer. An odd last
+    // byte is no unit.
+    while (TTextFile::Read(bytes.data(), kUnit) == kUnit) {
+        bRead = true;
+        const auto nFirst = static_cast<unsigned char>(bytes[0]);
+        const auto nSecond = static_cast<unsigned char>(bytes[1]);
+        const auto chUnit = static_cast<char16_t>(gIsBigEndian(mEncoding) ? nFirst * 256 + nSecond
+                                                                          : nSecond * 256 + nFirst);
+        if (chUnit == u'\n') {
+            break;
+        }
+        if (chUnit != u'\r') {
+            sUnits += chUnit;
+        }
+    }
+    rsLine = CStringU(sUnits);
+    return bRead;
+}
+
+CStringU TTextFile::ReadAll()
+{
+    CStringU sAll;
+    CStringU sLine;
+    while (ReadLine(sLine)) {
+        sAll += sLine;
+        sAll += '\n';
+    }
+    return sAll;
+}

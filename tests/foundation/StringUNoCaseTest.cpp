@@ -1,0 +1,180 @@
+// Comparing and converting without regard to case.
+
+#include "foundation/RandomText.h"
+#include "foundation/StringU.h"
+#include "support/PrintStringU.h"
+
+#include <gtest/gtest.h>
+#include <unicode/uchar.h>
+
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace
+{
+
+using namespace std::string_view_literals;
+
+int Sign(int nValue)
+{
+    return (nValue > 0) - (nValue < 0);
+}
+
+int LowerUnit(char16_t chUnit)
+{
+    if (chUnit >= u'A' && chUnit <= u'Z')
+        return chUnit + 32;
+    return chUnit < 128 ? chUnit : static_cast<char16_t>(u_tolower(chUnit));
+}
+
+// By units: what the comparison must give on every well-formed text.
+int CompareByUnits(std::u16string_view sLeft, std::u16string_view sRight)
+{
+    for (std::size_t i = 0; i < sLeft.size() && i < sRight.size(); ++i) {
+        if (LowerUnit(sLeft[i]) != LowerUnit(sRight[i]))
+            return Sign(LowerUnit(sLeft[i]) - LowerUnit(sRight[i]));
+    }
+    return Sign(static_cast<int>(sLeft.size()) - static_cast<int>(sRight.size()));
+}
+
+TEST(StringUNoCaseTest, Compares)
+{
+    struct Case {
+        std::string_view sName;
+        CStringU sLeft;
+        CStringU sRight;
+        int nSign;
+    };
+    const Case cases[] = {
+        {"both empty", "", "", 0},
+        {"empty is the lesser", "", "a", -1},
+        {"the letter decides", "ABC", "abd", -1},
+        {"capital and small", "ABC", "abc", 0},
+        {"the beginning is the lesser", "AB", "abc", -1},
+        {"accents", u"\u00c9", u"\u00e9", 0},
+        {"accents behind a marker", u"X\u00c9y", u"x\u00e9Y", 0},
+        {"plain and marked", "abz", u"AB\u00e9", -1},
+        {"by value, not by the alphabet", "Z", "[", 1},
+        {"Greek", u"\u03a9", u"\u03c9", 0},
+        {"the kelvin sign is a k", u"\u212a", "K", 0},
+        {"the first difference inside a character", u"a\u00e9", u"a\u00ea", -1},
+        {"the first difference at a lead byte", u"a\u00e9", u"a\u20ac", -1},
+        {"surrogates have no case", u"\U00010400", u"\U00010428", -1},
+        {"long and the same", "THE QUICK BROWN FOX JUMPS", "the quick brown fox jumps", 0},
+        {"long and the last differs", "THE QUICK BROWN FOX JUMPS", "the quick brown fox jumpt", -1},
+        {"@ and ` are no letters", "ABCDEFG@", "abcdefg`", -1},
+        {"[ and { are no letters", "ABCDEFG[", "abcdefg{", -1},
+        {"zeros inside are characters", CStringU("a\0b"sv), CStringU("A\0c"sv), -1},
+        {"a zero at the end is more than the end", CStringU("a\0"sv), CStringU("A"), 1},
+        {"equal zeros", CStringU("a\0B"sv), CStringU("A\0b"sv), 0},
+        {"an overlong letter is that letter", CStringU("\xC1\x81", TTextKind::Plain), "a", 0},
+        {"0xF8 is a question mark", CStringU("\xF8", TTextKind::Plain), "?", 0},
+        {"cut inside a character", CStringU("\xC3\xA9", TTextKind::Plain),
+         CStringU("\xC3", TTextKind::Plain), 1},
+    };
+    for (const Case& rCase : cases) {
+        EXPECT_EQ(Sign(CompareNoCase(rCase.sLeft, rCase.sRight)), rCase.nSign) << rCase.sName;
+        EXPECT_EQ(Sign(CompareNoCase(rCase.sRight, rCase.sLeft)), -rCase.nSign) << rCase.sName;
+        EXPECT_EQ(Sign(rCase.sLeft.CompareNoCase(rCase.sRight)), rCase.nSign) << rCase.sName;
+        EXPECT_EQ(TStringLessNoCase()(rCase.sLeft, rCase.sRight), rCase.nSign < 0) << rCase.sName;
+    }
+}
+
+TEST(StringUNoCaseTest, EveryPairOfAsciiCharactersInsideALongText)
+{
+    for (int nLeft = 1; nLeft < 128; ++nLeft) {
+        for (int nRight = 1; nRight < 128; ++nRight) {
+            std::string sLeft = "aBcDeFgHi", sRight = "AbCdEfGhI";
+            sLeft[5] = static_cast<char>(nLeft);
+            sRight[5] = static_cast<char>(nRight);
+            const int nExpected =
+                LowerUnit(static_cast<char16_t>(nLeft)) - LowerUnit(static_cast<char16_t>(nRight));
+            ASSERT_EQ(Sign(CompareNoCase(sLeft, sRight)), Sign(nExpected))
+                << nLeft << ' ' << nRight;
+        }
+    }
+}
+
+TEST(StringUNoCaseTest, EveryUnitIsTheSameAsItsSmallLetter)
+{
+    for (int nUnit = 1; nUnit < 0x10000; ++nUnit) {
+        const auto chUnit = static_cast<char16_t>(nUnit);
+        ASSERT_EQ(
+            CompareNoCase(CStringU(chUnit), CStringU(static_cast<char16_t>(LowerUnit(chUnit)))), 0)
+            << nUnit;
+    }
+}
+
+TEST(StringUNoCaseTest, EveryPairOfOneByteAndManyOfTwoByteTextsAreInOneOrder)
+{
+    for (int nFirst = 0; nFirst < 256; ++nFirst) {
+        for (int nSecond = 0; nSecond < 256; ++nSecond) {
+            const std::string sTwo{static_cast<char>(nFirst), static_cast<char>(nSecond)};
+            const CStringU sLeft(sTwo.substr(0, 1), TTextKind::Plain);
+            const CStringU sRight(sTwo.substr(1), TTextKind::Plain);
+            const CStringU sBoth(sTwo, TTextKind::Plain);
+            ASSERT_EQ(Sign(CompareNoCase(sLeft, sRight)), -Sign(CompareNoCase(sRight, sLeft)));
+            ASSERT_EQ(Sign(CompareNoCase(sBoth, sRight)), -Sign(CompareNoCase(sRight, sBoth)));
+            ASSERT_EQ(CompareNoCase(sBoth, sBoth), 0);
+        }
+    }
+}
+
+TEST(StringUNoCaseTest, RandomTextsCompareByTheirUnits)
+{
+    CRandomText random(4);
+    for (int nRound = 0; nRound < kRandomRounds; ++nRound) {
+        const std::u16string sLeft = random.Text(20);
+        std::u16string sRight = sLeft;
+        if (random.Number(3) == 0)
+            sRight = random.Text(20);
+        for (char16_t& rchUnit : sRight) {
+            if (random.Number(4) == 0)
+                rchUnit = static_cast<char16_t>(LowerUnit(rchUnit));
+            if (random.Number(30) == 0)
+                rchUnit = random.Unit();
+        }
+        ASSERT_EQ(Sign(CompareNoCase(sLeft, sRight)), CompareByUnits(sLeft, sRight))
+            << testing::PrintToString(sLeft) << testing::PrintToString(sRight);
+    }
+}
+
+TEST(StringUNoCaseTest, AMapFindsAKeyOfAnyCase)
+{
+    std::map<CStringU, int, TStringLessNoCase> map{{"Node", 1}, {u"\u00c9t\u00e9", 2}};
+    EXPECT_EQ(map.at("NODE"), 1);
+    EXPECT_EQ(map.at(u"\u00e9T\u00c9"), 2);
+    EXPECT_FALSE(map.contains("nodes"));
+}
+
+TEST(StringUNoCaseTest, ConvertsCase)
+{
+    struct Case {
+        std::string_view sName;
+        CStringU sText;
+        std::string_view sLower;
+        std::string_view sUpper;
+    };
+    const Case cases[] = {
+        {"empty", "", "", ""},
+        {"plain", "aZ@[`{09", "az@[`{09", "AZ@[`{09"},
+        {"of a plain text A to Z only", CStringU("A\xC9\xE9z", TTextKind::Plain), "a\xC9\xE9z",
+         "A\xC9\xE9Z"},
+        {"marked", u"A\u00c9\u00e9", "\x80\x61\xC3\xA9\xC3\xA9", "\x80\x41\xC3\x89\xC3\x89"},
+        {"the result may be plain", u"A\u212a", "ak", "\x80\x41\xE2\x84\xAA"},
+        {"the result may lose its lead", u"\u212a\u00c9", "\x80k\xC3\xA9", "\xE2\x84\xAA\xC3\x89"},
+        {"nothing to change keeps malformed bytes", CStringU("\xC3", TTextKind::Plain), "\xC3\xA0",
+         "\xC3"},
+    };
+    for (const Case& rCase : cases) {
+        CStringU sLower = rCase.sText;
+        EXPECT_EQ(&sLower.MakeLower(), &sLower);
+        EXPECT_EQ(sLower.Stored(), rCase.sLower) << rCase.sName;
+        CStringU sUpper = rCase.sText;
+        EXPECT_EQ(&sUpper.MakeUpper(), &sUpper);
+        EXPECT_EQ(sUpper.Stored(), rCase.sUpper) << rCase.sName;
+    }
+}
+
+} // namespace

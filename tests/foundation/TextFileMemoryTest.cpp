@@ -1,0 +1,181 @@
+#include "foundation/RandomText.h"
+#include "foundation/TextFile.h"
+#include "support/PrintStringU.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+namespace
+{
+
+using namespace std::string_view_literals;
+
+TEST(TextFileMemoryTest, ATextOfItsOwnStartsAsACopy)
+{
+    const CStringU sText(u"a\u00e9\nb");
+    TTextFile file(EncodingUtf8, sText, "name");
+    EXPECT_TRUE(file.IsOpen());
+    EXPECT_EQ(file.GetPosition(), 0U);
+    EXPECT_EQ(file.GetLength(), 5U);
+    EXPECT_EQ(file.ReadAll(), u"a\u00e9\nb\n");
+    file << "!";
+    file.Seek(0, CFile::begin);
+    EXPECT_EQ(file.ReadAll(), u"a\u00e9\nb!\n");
+    EXPECT_EQ(sText, u"a\u00e9\nb");
+}
+
+TEST(TextFileMemoryTest, TheCallersTextIsWrittenInPlace)
+{
+    CStringU sText;
+    {
+        TTextFile file(EncodingUtf8, &sText, "name");
+        file << u"x\u00e9\n";
+        EXPECT_EQ(sText, "");
+        file.Flush();
+        EXPECT_EQ(sText.Stored(), "\x80x\xC3\xA9\r\n");
+        file << "y";
+        file.Close();
+        EXPECT_EQ(sText, u"x\u00e9\r\ny");
+        EXPECT_TRUE(file.IsOpen());
+        file.Seek(0, CFile::end);
+        file << "z";
+    }
+    EXPECT_EQ(sText, u"x\u00e9\r\nyz");
+}
+
+TEST(TextFileMemoryTest, AnEmptyTextGetsTheMark)
+{
+    CStringU sText;
+    {
+        TTextFile file(EncodingUtf8Bom, &sText, "");
+        EXPECT_EQ(file.GetLength(), 0U);
+        EXPECT_EQ(file.GetPosition(), 0U);
+        EXPECT_EQ(sText.Text(), "\xEF\xBB\xBF");
+        file << "a";
+    }
+    EXPECT_EQ(sText.Text(), "\xEF\xBB\xBF"
+                            "a");
+    TTextFile again(EncodingUtf8Bom, &sText, "");
+    EXPECT_EQ(again.ReadAll(), "a\n");
+    CStringU sWide;
+    {
+        TTextFile file(EncodingUtf16Bom, &sWide, "");
+        file << u"a\u00e9";
+    }
+    EXPECT_EQ(sWide.Text(), "\xFF\xFE"
+                            "a\0\xE9\0"sv);
+    TTextFile wide(EncodingUtf16Bom, &sWide, "");
+    EXPECT_EQ(wide.ReadAll(), u"a\u00e9\n");
+}
+
+TEST(TextFileMemoryTest, WritesInTheMiddleReplaceAsManyBytes)
+{
+    struct Case {
+        std::string_view sName;
+        CStringU sText;
+        int nPosition;
+        CStringU sWritten;
+        std::string_view sStored;
+    };
+    const Case cases[] = {
+        {"inside", "abcdef", 1, "XY", "aXYdef"},
+        {"past the end", "abc", 2, "XYZ", "abXYZ"},
+        {"at the end", "abc", 3, "XY", "abcXY"},
+        {"behind the end is the end", "abc", 9, "XY", "abcXY"},
+        {"a plain text gets marked", "abcd", 1, u"\u00e9",
+         "\x80"
+         "a\xC3\xA9"
+         "d"},
+        {"a marked text gets plain", u"a\u00e9z", 1, "XY", "aXYz"},
+        {"a mark in front goes with its character", u"a\u00e9", 0, u"\u00e9", "\xC3\xA9\xA9"},
+        {"the first character", "abc", 0, u"\u00e9",
+         "\xC3\xA9"
+         "c"},
+    };
+    for (const Case& rCase : cases) {
+        CStringU sText = rCase.sText;
+        TTextFile file(EncodingUtf8, &sText, "");
+        file.Seek(rCase.nPosition, CFile::begin);
+        file << rCase.sWritten;
+        file.Flush();
+        EXPECT_EQ(sText.Stored(), rCase.sStored) << rCase.sName;
+    }
+}
+
+TEST(TextFileMemoryTest, SetLengthCutsAndLengthens)
+{
+    CStringU sText(u"a\u00e9z");
+    TTextFile file(EncodingUtf8, &sText, "");
+    file.SetLength(3);
+    EXPECT_EQ(sText.Stored(), "\x80"
+                              "a\xC3\xA9");
+    file.SetLength(1);
+    EXPECT_EQ(sText.Stored(), "a");
+    file.SetLength(3);
+    EXPECT_EQ(sText.Stored(), "a\0\0"sv);
+    CStringU sMarked;
+    TTextFile marked(EncodingUtf8Bom, &sMarked, "");
+    marked << "abc";
+    marked.SetLength(0);
+    EXPECT_EQ(sMarked.Text(), "\xEF\xBB\xBF");
+}
+
+TEST(TextFileMemoryTest, AFileOnTheDiskMayFollow)
+{
+    CStringU sText;
+    TTextFile file(EncodingUtf8, &sText, "");
+    file << "a";
+    EXPECT_FALSE(file.Open("/nowhere/at/all", CFile::modeRead, nullptr));
+    EXPECT_EQ(sText, "a");
+    EXPECT_FALSE(file.IsOpen());
+}
+
+TEST(TextFileMemoryTest, RandomOperationsAreThoseOfAString)
+{
+    CRandomText random(11);
+    std::string sModel;
+    std::size_t nPosition = 0;
+    CStringU sText;
+    TTextFile file(EncodingUtf8, &sText, "");
+    for (int nRound = 0; nRound < kRandomRounds; ++nRound) {
+        const auto nNumber = static_cast<std::size_t>(random.Number(20));
+        switch (random.Number(4)) {
+        case 0: {
+            const std::string sBytes(CStringU(random.Text(8)).Text());
+            file.Write(sBytes.data(), static_cast<unsigned>(sBytes.size()));
+            sModel.replace(nPosition, sBytes.size(), sBytes);
+            nPosition += sBytes.size();
+            break;
+        }
+        case 1: {
+            std::string sRead(nNumber, '\0');
+            sRead.resize(file.Read(sRead.data(), static_cast<unsigned>(nNumber)));
+            ASSERT_EQ(sRead, sModel.substr(nPosition, nNumber));
+            nPosition += sRead.size();
+            break;
+        }
+        case 2:
+            nPosition = std::min(nNumber, sModel.size());
+            ASSERT_EQ(file.Seek(static_cast<std::int64_t>(nPosition), CFile::begin), nPosition);
+            break;
+        case 3:
+            file.Flush();
+            ASSERT_EQ(sText, CStringU(sModel, TTextKind::Utf8IfNeeded));
+            break;
+        default:
+            if (sModel.size() > 200) {
+                file.SetLength(0);
+                file.Seek(0, CFile::begin);
+                sModel.clear();
+                nPosition = 0;
+            }
+        }
+        ASSERT_EQ(file.GetPosition(), nPosition);
+        ASSERT_EQ(file.GetLength(), sModel.size());
+    }
+}
+
+} // namespace
