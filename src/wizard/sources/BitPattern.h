@@ -27,6 +27,8 @@ void DDX_BitPattern(CDataExchange* pDX, TBitPattern& rPattern);
 /// have a text, in parentheses. The rounding, which stands last in a line, isn't among them.
 void gAppendBitPattern(CString& rsLine, const char* pKeyword, const TBitPattern& rPattern);
 
+inline constexpr const char* kMissingBitStream = "__$$Translatable$$_Missing bit stream.";
+
 /// The controls of a pattern: three group boxes in two columns.
 namespace BitPattern
 {

@@ -5,17 +5,15 @@
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 #include "wizard/sources/BitPattern.h"
-#include "wizard/sources/SourceLetter.h"
+#include "wizard/sources/SourceForm.h"
+#include "wizard/sources/SourceHead.h"
 
 // The pages of a current and a voltage source between two terminals that follows a pattern of bits.
 
 namespace
 {
 enum EControlId {
-    kSourceGroup = 1001,
-    kName,
-    kPositive,
-    kNegative,
+    kSourceGroup = kFirstSourceField,
     kACGroup,
     kMagnitude,
     kPhase,
@@ -34,14 +32,13 @@ struct TTwin {
 constexpr TTwin kCurrent{
     'I',
     "&Current source name:",
-    "__$$Translatable$$_Missing current source name.",
+    kMissingCurrentSourceName,
     {"Waveform:", "A", "&ON value (1e-3):", "Hi&gh time (10n):", "D&elay (0):"}};
-constexpr TTwin kVoltage{
-    'V',
-    "&Voltage source name:",
-    "__$$Translatable$$_Missing voltage source name.",
-    // Meant: 10 without the n of its neighbours.
-    {"Waveform:", "V", "&ON value (5):", "Hi&gh time (10):", "D&elay (0):"}};
+constexpr TTwin kVoltage{'V',
+                         "&Voltage source name:",
+                         kMissingVoltageSourceName,
+                         // Meant: 10 without the n of its neighbours.
+                         {"Waveform:", "V", "&ON value (5):", "Hi&gh time (10):", "D&elay (0):"}};
 
 constexpr auto Rows(const TTwin& rTwin)
 {
@@ -50,16 +47,16 @@ constexpr auto Rows(const TTwin& rTwin)
     constexpr TColumns kAC{.nField = 61, .nUnit = 96};
     return PageRows(
         Tight(GroupBox(kSourceGroup, "bit-source-group", "BIT source",
-                       Tight(EditLine(kHead, kName, "name", rTwin.pNameLabel),
+                       Tight(EditLine(kHead, kSourceName, "name", rTwin.pNameLabel),
                              Beside(132,
-                                    EditLine(kHead, kPositive, "positive-terminal",
+                                    EditLine(kHead, kPositiveTerminal, "positive-terminal",
                                              "&Positive terminal:"),
-                                    EditLine(kSecondTerminal, kNegative, "negative-terminal",
-                                             "&Negative terminal:")))),
+                                    EditLine(kSecondTerminal, kNegativeTerminal,
+                                             "negative-terminal", "&Negative terminal:")))),
               Beside(BitPattern::kRightColumn,
                      Tight(GroupBox(kACGroup, "ac-values-group", "AC values",
-                                    Tight(EditLine(kAC, kMagnitude, "ac-magnitude", "&Magnitude:",
-                                                   rTwin.pattern.pUnit),
+                                    Tight(EditLine(kAC, kMagnitude, "ac-magnitude",
+                                                   "&Magnitude:", rTwin.pattern.pUnit),
                                           EditLine(kAC, kPhase, "ac-phase", "P&hase (0):", "deg"))),
                            BitPattern::CornerBox(), BitPattern::WaveformBox(rTwin.pattern)),
                      Tight(GroupBox(kDCGroup, "dc-value-group", "&DC value",
@@ -77,9 +74,7 @@ constexpr DialogTemplate kCurrentTemplate{"Bit", kPageSize, kCurrentRows};
 constexpr DialogTemplate kVoltageTemplate{"Bit", kPageSize, kVoltageRows};
 
 struct TFields {
-    CString msName;
-    CString msPositive;
-    CString msNegative;
+    TSourceHead mHead;
     CString msMagnitude;
     CString msPhase;
     TBitPattern mPattern;
@@ -90,56 +85,45 @@ Remembered<TFields> sCurrent;
 Remembered<TFields> sVoltage;
 
 /// What both pages do.
-class BitSource
+class BitForm : public SourceForm<TFields>
 {
 public:
-    BitSource(CCommandPage& rPage, const TTwin& rTwin, Remembered<TFields>& rRemembered)
-        : mrPage(rPage), mrTwin(rTwin), mrRemembered(rRemembered)
+    BitForm(CCommandPage& rPage, const TTwin& rTwin, Remembered<TFields>& rRemembered)
+        : SourceForm(rPage, rRemembered), mrTwin(rTwin)
     {
     }
 
     void Exchange(CDataExchange* pDX)
     {
-        DDX_Text(pDX, kName, mFields.msName);
-        DDX_Text(pDX, kPositive, mFields.msPositive);
-        DDX_Text(pDX, kNegative, mFields.msNegative);
+        DDX_SourceHead(pDX, mFields.mHead);
         DDX_Text(pDX, kMagnitude, mFields.msMagnitude);
         DDX_Text(pDX, kPhase, mFields.msPhase);
         DDX_BitPattern(pDX, mFields.mPattern);
         DDX_Text(pDX, kDCValue, mFields.msDCValue);
     }
 
-    void Restore()
-    {
-        mFields = mrRemembered.Get();
-        mrPage.UpdateData(false);
-    }
-
     bool Build(CString& rsCommand)
     {
-        mrPage.UpdateData(true);
-        gTrim(mFields.msName, mFields.msPositive, mFields.mPattern.msBitStream);
-        if (mFields.msNegative.IsEmpty())
-            mFields.msNegative = "GND";
-        if (mFields.msName.IsEmpty())
-            return gReportFailure(mrPage, msMessage, mrTwin.pMissingName);
-        if (mFields.msPositive.IsEmpty())
-            return gReportFailure(mrPage, msMessage,
-                                  "__$$Translatable$$_Missing positive terminal name.");
-        if (mFields.mPattern.msBitStream.IsEmpty())
-            return gReportFailure(mrPage, msMessage, "__$$Translatable$$_Missing bit stream.");
+        Read();
+        TSourceHead& rHead = mFields.mHead;
+        gTrim(rHead.msName, rHead.msPositiveTerminal, mFields.mPattern.msBitStream);
+        gFillIfEmpty(rHead.msNegativeTerminal, "GND");
+        if (!AreFilled({{rHead.msName, mrTwin.pMissingName},
+                        {rHead.msPositiveTerminal, kMissingPositiveTerminal},
+                        {mFields.mPattern.msBitStream, kMissingBitStream}}))
+            return false;
         rsCommand = Line();
-        mrRemembered.Set(mFields);
+        Remember();
         return true;
     }
 
 private:
     CString Line() const
     {
-        CString sLine = mFields.msName + " " + mFields.msPositive + " " + mFields.msNegative;
+        CString sLine = gSourceHeadText(mFields.mHead);
         gAppendIfAny(sLine, " dc ", mFields.msDCValue);
         gAppendBitPattern(sLine, " BIT ", mFields.mPattern);
-        gPutSourceLetter(sLine, mFields.msName, mrTwin.chLetter);
+        gPrefixSourceLetter(sLine, mFields.mHead.msName, mrTwin.chLetter);
         if (!mFields.msMagnitude.IsEmpty() || !mFields.msPhase.IsEmpty())
             sLine += " AC";
         gAppendIfAny(sLine, " ", mFields.msMagnitude);
@@ -149,11 +133,7 @@ private:
         return sLine;
     }
 
-    CCommandPage& mrPage;
     const TTwin& mrTwin;
-    Remembered<TFields>& mrRemembered;
-    CString msMessage;
-    TFields mFields;
 };
 } // namespace
 
@@ -161,54 +141,54 @@ private:
 class CCurrentSourceBitPage : public CCommandPage
 {
 public:
-    CCurrentSourceBitPage() : CCommandPage(kCurrentTemplate), mSource(*this, kCurrent, sCurrent) {}
+    CCurrentSourceBitPage() : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrent) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
 
     void DoDataExchange(CDataExchange* pDX) override
     {
         CCommandPage::DoDataExchange(pDX);
-        mSource.Exchange(pDX);
+        mForm.Exchange(pDX);
     }
 
     bool OnInitDialog() override
     {
         CDialog::OnInitDialog();
-        mSource.Restore();
+        mForm.Restore();
         return true;
     }
 
-    bool BuildCommand(CString& rsCommand) override { return mSource.Build(rsCommand); }
+    bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
-    BitSource mSource;
+    BitForm mForm;
 };
 
 /// Builds the line of a voltage source that follows a pattern of bits: V... and " BIT (".
 class CVoltageSourceBitPage : public CCommandPage
 {
 public:
-    CVoltageSourceBitPage() : CCommandPage(kVoltageTemplate), mSource(*this, kVoltage, sVoltage) {}
+    CVoltageSourceBitPage() : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltage) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
 
     void DoDataExchange(CDataExchange* pDX) override
     {
         CCommandPage::DoDataExchange(pDX);
-        mSource.Exchange(pDX);
+        mForm.Exchange(pDX);
     }
 
     bool OnInitDialog() override
     {
         CDialog::OnInitDialog();
-        mSource.Restore();
+        mForm.Restore();
         return true;
     }
 
-    bool BuildCommand(CString& rsCommand) override { return mSource.Build(rsCommand); }
+    bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
-    BitSource mSource;
+    BitForm mForm;
 };
 
 template const CRuntimeClass& gRuntimeClass<CCurrentSourceBitPage>();
