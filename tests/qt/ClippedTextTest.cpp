@@ -24,7 +24,7 @@ struct TKnown {
 };
 constexpr TKnown kKnown[] = {
     // One pixel, with the desktop's own font: the given text is as wide as a group box can be.
-    {"DC operating point", "QCheckBox 'suppress' is too small"},
+    {"Analysis/DC operating point", "QCheckBox 'suppress' is too small"},
 };
 
 bool IsKnown(const std::string& rsName, const std::string& rsFinding)
