@@ -100,7 +100,7 @@ void LintSharedLabel(const TControlRow& rRow, const TControlRow* pBefore, const 
     else if (CanBeVisibleTogether(*pBefore, rRow) || pBefore->rect.x != rRow.rect.x ||
              pBefore->rect.y != rRow.rect.y)
         rFindings.push_back(Name(rRow) + " isn't in the place of " + Name(*pBefore));
-    else if ((label->second->nLayers & rRow.nLayers) != rRow.nLayers)
+    else if (label->second->nLayers != 0 && (label->second->nLayers & rRow.nLayers) != rRow.nLayers)
         rFindings.push_back(Name(rRow) + " isn't always shown with the label it shares");
 }
 

@@ -166,6 +166,20 @@ constexpr TBlock<2> WideEdit(int nId, const char* pKey, const char* pLabel)
     return {{label, field.rows[0]}, kAboveField + kEditHeight, kLineGap};
 }
 
+/// The same with a unit behind the edit. `nUnit`: the unit's left edge.
+constexpr TBlock<3> WideEdit(int nId, const char* pKey, const char* pLabel, const char* pUnit,
+                             int nUnit)
+{
+    using namespace PageLayout;
+    const TBlock<2> wide = WideEdit(nId, pKey, pLabel);
+    TPlacedRow field = wide.rows[1];
+    field.row.rect.w = nUnit - 4 - kLeft;
+    field.bToRight = false;
+    const TRect unitRect{nUnit, kAboveField + 2, kRight - nUnit, kLabelHeight};
+    const TPlacedRow unit{UnitFor(field.row, pUnit, unitRect), false, true};
+    return {{wide.rows[0], field, unit}, wide.nHeight, wide.nGap};
+}
+
 /// An edit of several lines as wide as the pane, in which Enter starts a new line.
 /// `nHeight`: the edit's own. `nLabelLines`: the lines that the label above it needs.
 constexpr TBlock<2> TextBox(int nId, const char* pKey, const char* pLabel, int nHeight,

@@ -33,7 +33,7 @@ inline constexpr const char* kMissingBitStream = "__$$Translatable$$_Missing bit
 namespace BitPattern
 {
 enum EControlId {
-    kRounding = 1101,
+    kRounding = 1201,
     kBitStream,
     kOnValue,
     kOffValue,
@@ -51,7 +51,6 @@ enum EControlId {
 /// What differs between the pages.
 struct TTexts {
     const char* pWaveform; ///< title of the group box
-    const char* pUnit;     ///< of the on and the off value
     const char* pOnValue;
     const char* pHighTime;
     const char* pDelay;
@@ -68,15 +67,14 @@ constexpr auto CornerBox()
                     EditLine(kColumns, kRounding, "rounding", "&Rounding (0):", "sec"));
 }
 
-/// The box for the left column with the stream and its values.
-constexpr auto WaveformBox(const TTexts& rTexts)
+/// The box for the left column with the stream and its values, in this unit.
+constexpr auto WaveformBox(const TTexts& rTexts, const char* pUnit)
 {
     constexpr TColumns kColumns{.nField = 72, .nUnit = 103};
-    return GroupBox(
-        kWaveformGroup, "waveform-group", rTexts.pWaveform,
-        Tight(WideEdit(kBitStream, "bit-stream", "&Bit stream:"),
-              EditLine(kColumns, kOnValue, "on-value", rTexts.pOnValue, rTexts.pUnit),
-              EditLine(kColumns, kOffValue, "off-value", "O&FF value (0):", rTexts.pUnit)));
+    return GroupBox(kWaveformGroup, "waveform-group", rTexts.pWaveform,
+                    Tight(WideEdit(kBitStream, "bit-stream", "&Bit stream:"),
+                          EditLine(kColumns, kOnValue, "on-value", rTexts.pOnValue, pUnit),
+                          EditLine(kColumns, kOffValue, "off-value", "O&FF value (0):", pUnit)));
 }
 
 /// The box for the right column with the times.

@@ -7,65 +7,55 @@
 #include "wizard/sources/BitPattern.h"
 #include "wizard/sources/SourceForm.h"
 #include "wizard/sources/SourceHead.h"
+#include "wizard/sources/WaveformSource.h"
 
 // The pages of a current and a voltage source between two terminals that follows a pattern of bits.
 
 namespace
 {
-enum EControlId {
-    kSourceGroup = kFirstSourceField,
-    kACGroup,
-    kMagnitude,
-    kPhase,
-    kDCGroup,
-    kDCValue,
-    kNote,
-};
+enum EControlId { kSourceGroup = kFirstSourceField };
 
 struct TTwin {
-    char chLetter;
-    const char* pNameLabel;
+    const TSourceTwin& source;
     const char* pMissingName;
-    BitPattern::TTexts pattern; ///< its unit is that of the magnitude, too
+    BitPattern::TTexts pattern;
 };
 
-constexpr TTwin kCurrent{
-    'I',
-    "&Current source name:",
-    kMissingCurrentSourceName,
-    {"Waveform:", "A", "&ON value (1e-3):", "Hi&gh time (10n):", "D&elay (0):"}};
-constexpr TTwin kVoltage{'V',
-                         "&Voltage source name:",
+constexpr TTwin kCurrent{kCurrentSource,
+                         kMissingCurrentSourceName,
+                         {"Waveform:", "&ON value (1e-3):", "Hi&gh time (10n):", "D&elay (0):"}};
+constexpr TTwin kVoltage{kVoltageSource,
                          kMissingVoltageSourceName,
                          // Meant: 10 without the n of its neighbours.
-                         {"Waveform:", "V", "&ON value (5):", "Hi&gh time (10):", "D&elay (0):"}};
+                         {"Waveform:", "&ON value (5):", "Hi&gh time (10):", "D&elay (0):"}};
 
 constexpr auto Rows(const TTwin& rTwin)
 {
     constexpr TColumns kHead{.nField = 88};
     constexpr TColumns kSecondTerminal{.nField = 195};
     constexpr TColumns kAC{.nField = 61, .nUnit = 96};
-    return PageRows(
-        Tight(GroupBox(kSourceGroup, "bit-source-group", "BIT source",
-                       Tight(EditLine(kHead, kSourceName, "name", rTwin.pNameLabel),
-                             Beside(132,
-                                    EditLine(kHead, kPositiveTerminal, "positive-terminal",
-                                             "&Positive terminal:"),
-                                    EditLine(kSecondTerminal, kNegativeTerminal,
-                                             "negative-terminal", "&Negative terminal:")))),
-              Beside(BitPattern::kRightColumn,
-                     Tight(GroupBox(kACGroup, "ac-values-group", "AC values",
-                                    Tight(EditLine(kAC, kMagnitude, "ac-magnitude",
-                                                   "&Magnitude:", rTwin.pattern.pUnit),
-                                          EditLine(kAC, kPhase, "ac-phase", "P&hase (0):", "deg"))),
-                           BitPattern::CornerBox(), BitPattern::WaveformBox(rTwin.pattern)),
-                     Tight(GroupBox(kDCGroup, "dc-value-group", "&DC value",
-                                    Tight(BareEdit(kDCValue, "dc-value"),
-                                          NoteLine(kNote, "note",
-                                                   "(default is the time=0 value of the transient "
-                                                   "waveform)",
-                                                   2))),
-                           BitPattern::PulseBox(rTwin.pattern)))));
+    return PageRows(Tight(
+        GroupBox(kSourceGroup, "bit-source-group", "BIT source",
+                 Tight(EditLine(kHead, kSourceName, "name", rTwin.source.pNameLabel),
+                       Beside(132,
+                              EditLine(kHead, kPositiveTerminal, "positive-terminal",
+                                       "&Positive terminal:"),
+                              EditLine(kSecondTerminal, kNegativeTerminal, "negative-terminal",
+                                       "&Negative terminal:")))),
+        Beside(BitPattern::kRightColumn,
+               Tight(GroupBox(kACGroup, "ac-values-group", "AC values",
+                              Tight(EditLine(kAC, kACMagnitude, "ac-magnitude",
+                                             "&Magnitude:", rTwin.source.pUnit),
+                                    EditLine(kAC, kACPhase, "ac-phase", "P&hase (0):", "deg"))),
+                     BitPattern::CornerBox(),
+                     BitPattern::WaveformBox(rTwin.pattern, rTwin.source.pUnit)),
+               Tight(GroupBox(kDCGroup, "dc-value-group", "&DC value",
+                              Tight(BareEdit(kDCValue, "dc-value"),
+                                    NoteLine(kDCNote, "note",
+                                             "(default is the time=0 value of the transient "
+                                             "waveform)",
+                                             2))),
+                     BitPattern::PulseBox(rTwin.pattern)))));
 }
 
 constexpr auto kCurrentRows = Rows(kCurrent);
@@ -75,8 +65,7 @@ constexpr DialogTemplate kVoltageTemplate{"Bit", kPageSize, kVoltageRows};
 
 struct TFields {
     TSourceHead mHead;
-    CString msMagnitude;
-    CString msPhase;
+    TACValues mAC;
     TBitPattern mPattern;
     CString msDCValue;
 };
@@ -85,19 +74,15 @@ Remembered<TFields> sCurrent;
 Remembered<TFields> sVoltage;
 
 /// What both pages do.
-class BitForm : public SourceForm<TFields>
+class BitForm : public SourceForm<TFields, TTwin>
 {
 public:
-    BitForm(CCommandPage& rPage, const TTwin& rTwin, Remembered<TFields>& rRemembered)
-        : SourceForm(rPage, rRemembered), mrTwin(rTwin)
-    {
-    }
+    using SourceForm::SourceForm;
 
     void Exchange(CDataExchange* pDX)
     {
         DDX_SourceHead(pDX, mFields.mHead);
-        DDX_Text(pDX, kMagnitude, mFields.msMagnitude);
-        DDX_Text(pDX, kPhase, mFields.msPhase);
+        DDX_ACValues(pDX, mFields.mAC);
         DDX_BitPattern(pDX, mFields.mPattern);
         DDX_Text(pDX, kDCValue, mFields.msDCValue);
     }
@@ -123,17 +108,12 @@ private:
         CString sLine = gSourceHeadText(mFields.mHead);
         gAppendIfAny(sLine, " dc ", mFields.msDCValue);
         gAppendBitPattern(sLine, " BIT ", mFields.mPattern);
-        gPrefixSourceLetter(sLine, mFields.mHead.msName, mrTwin.chLetter);
-        if (!mFields.msMagnitude.IsEmpty() || !mFields.msPhase.IsEmpty())
-            sLine += " AC";
-        gAppendIfAny(sLine, " ", mFields.msMagnitude);
-        gAppendIfAny(sLine, " ", mFields.msPhase);
+        gPrefixSourceLetter(sLine, mFields.mHead.msName, mrTwin.source.chLetter);
+        gAppendACWithBlankBefore(sLine, mFields.mAC);
         // Meant: behind the AC part, other than on the pages of pulses and of corners.
         gAppendIfAny(sLine, " ROUND=", mFields.mPattern.msRounding);
         return sLine;
     }
-
-    const TTwin& mrTwin;
 };
 } // namespace
 

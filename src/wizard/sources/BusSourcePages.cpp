@@ -7,6 +7,7 @@
 #include "wizard/sources/BitPattern.h"
 #include "wizard/sources/SourceForm.h"
 #include "wizard/sources/SourceHead.h"
+#include "wizard/sources/WaveformSource.h"
 
 // The pages of a current and a voltage source on the lines of a bus that follows a pattern of bits.
 
@@ -15,32 +16,29 @@ namespace
 enum EControlId { kSourceGroup = 1001, kName, kBusName, kReferenceNode };
 
 struct TTwin {
-    char chLetter;
-    const char* pNameLabel;
+    const TSourceTwin& source;
     const char* pMissingName;
     BitPattern::TTexts pattern;
 };
 
-constexpr TTwin kCurrent{
-    'I',
-    "&Current source name:",
-    kMissingCurrentSourceName,
-    {"Waveform", "A", "&ON value (1e-3):", "&High time (10n):", "&Delay (0):"}};
-constexpr TTwin kVoltage{'V',
-                         "&Voltage source name:",
+constexpr TTwin kCurrent{kCurrentSource,
+                         kMissingCurrentSourceName,
+                         {"Waveform", "&ON value (1e-3):", "&High time (10n):", "&Delay (0):"}};
+constexpr TTwin kVoltage{kVoltageSource,
                          kMissingVoltageSourceName,
-                         {"Waveform", "V", "&ON value (5):", "&High time (10n):", "&Delay (0):"}};
+                         {"Waveform", "&ON value (5):", "&High time (10n):", "&Delay (0):"}};
 
 constexpr auto Rows(const TTwin& rTwin)
 {
     constexpr TColumns kHead{.nField = 97};
     return PageRows(
         GroupBox(kSourceGroup, "bus-source-group", "BUS source",
-                 EditLine(kHead, kName, "name", rTwin.pNameLabel),
+                 EditLine(kHead, kName, "name", rTwin.source.pNameLabel),
                  EditLine(kHead, kBusName, "bus-name", "Bus &name:"),
                  EditLine(kHead, kReferenceNode, "reference-node", "R&eference node (GND):")),
         Beside(BitPattern::kRightColumn,
-               Lines(BitPattern::CornerBox(), BitPattern::WaveformBox(rTwin.pattern)),
+               Lines(BitPattern::CornerBox(),
+                     BitPattern::WaveformBox(rTwin.pattern, rTwin.source.pUnit)),
                BitPattern::PulseBox(rTwin.pattern)));
 }
 
@@ -60,13 +58,10 @@ Remembered<TFields> sCurrent;
 Remembered<TFields> sVoltage;
 
 /// What both pages do.
-class BusForm : public SourceForm<TFields>
+class BusForm : public SourceForm<TFields, TTwin>
 {
 public:
-    BusForm(CCommandPage& rPage, const TTwin& rTwin, Remembered<TFields>& rRemembered)
-        : SourceForm(rPage, rRemembered), mrTwin(rTwin)
-    {
-    }
+    using SourceForm::SourceForm;
 
     void Exchange(CDataExchange* pDX)
     {
@@ -87,15 +82,12 @@ public:
             return false;
         CString sLine = mFields.msName + " " + mFields.msBusName + " " + mFields.msReferenceNode;
         gAppendBitPattern(sLine, " BUS ", mFields.mPattern);
-        gPrefixSourceLetter(sLine, mFields.msName, mrTwin.chLetter);
+        gPrefixSourceLetter(sLine, mFields.msName, mrTwin.source.chLetter);
         gAppendIfAny(sLine, " ROUND=", mFields.mPattern.msRounding);
         rsCommand = sLine;
         Remember();
         return true;
     }
-
-private:
-    const TTwin& mrTwin;
 };
 } // namespace
 

@@ -104,13 +104,10 @@ bool IsVoltageSource(const CString& rsName)
 }
 
 /// What both pages do.
-class CurrentControlledForm : public SourceForm<TFields>
+class CurrentControlledForm : public SourceForm<TFields, TTwin>
 {
 public:
-    CurrentControlledForm(CCommandPage& rPage, const TTwin& rTwin, Remembered<TFields>& rRemembered)
-        : SourceForm(rPage, rRemembered), mrTwin(rTwin)
-    {
-    }
+    using SourceForm::SourceForm;
 
     void Exchange(CDataExchange* pDX)
     {
@@ -163,8 +160,8 @@ private:
                          "__$$Translatable$$_Missing controlling voltage source name."}}))
             return false;
         return IsVoltageSource(mFields.msControllingSource) ||
-               Report("__$$Translatable$$_Controlling voltage source name is not a legal voltage "
-                      "source name (Must begin with 'V').");
+               Fail("__$$Translatable$$_Controlling voltage source name is not a legal voltage "
+                    "source name (Must begin with 'V').");
     }
 
     bool BuildGain(CString& rsCommand)
@@ -195,11 +192,11 @@ private:
         const bool bSecond = !mFields.msSecondSource.IsEmpty();
         const bool bThird = !mFields.msThirdSource.IsEmpty();
         if (bSecond && !IsVoltageSource(mFields.msSecondSource))
-            return Report(mrTwin.pIllegalSecondSource);
+            return Fail(mrTwin.pIllegalSecondSource);
         if (bThird && bSecond && !IsVoltageSource(mFields.msThirdSource))
-            return Report(mrTwin.pIllegalThirdSource);
+            return Fail(mrTwin.pIllegalThirdSource);
         if (bThird && !bSecond)
-            return Report("__$$Translatable$$_Missing controlling voltage source 2 name.");
+            return Fail("__$$Translatable$$_Missing controlling voltage source 2 name.");
         return true;
     }
 
@@ -215,9 +212,6 @@ private:
         return true;
     }
 
-    bool Report(const char* pLiteral) { return gReportFailure(mrPage, msMessage, pLiteral); }
-
-    const TTwin& mrTwin;
     CButton mPolynomialSources;
 };
 } // namespace

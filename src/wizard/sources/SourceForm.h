@@ -10,12 +10,13 @@
 /// What a page of a source hands its work on to, so that its twin can do the same: the fields, the
 /// remembered values of the page's class, and the message that it has shown last. The form of a
 /// kind derives from it and adds the data exchange and the composing of the line.
-template <class TFields> class SourceForm
+/// `TTwin`: what differs between the twins of the kind.
+template <class TFields, class TTwin> class SourceForm
 {
 public:
-    /// `rPage` and `rRemembered` live longer than this.
-    SourceForm(CCommandPage& rPage, Remembered<TFields>& rRemembered)
-        : mrPage(rPage), mrRemembered(rRemembered)
+    /// All of them live longer than this.
+    SourceForm(CCommandPage& rPage, const TTwin& rTwin, Remembered<TFields>& rRemembered)
+        : mrPage(rPage), mrTwin(rTwin), mrRemembered(rRemembered)
     {
     }
 
@@ -34,8 +35,11 @@ protected:
     {
         return gAreFilled(mrPage, msMessage, required);
     }
+    /// Reports a failed check. Result: false.
+    bool Fail(const char* pLiteral) { return gReportFailure(mrPage, msMessage, pLiteral); }
 
     CCommandPage& mrPage;
+    const TTwin& mrTwin;
     CString msMessage;
     TFields mFields;
 

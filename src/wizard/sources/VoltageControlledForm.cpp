@@ -6,12 +6,6 @@
 
 using namespace VoltageControlled;
 
-VoltageControlledForm::VoltageControlledForm(CCommandPage& rPage, const TTwin& rTwin,
-                                             Remembered<TVoltageControlledFields>& rRemembered)
-    : SourceForm(rPage, rRemembered), mrTwin(rTwin)
-{
-}
-
 void VoltageControlledForm::Exchange(CDataExchange* pDX)
 {
     DDX_SourceHead(pDX, mFields.mHead);
@@ -135,13 +129,9 @@ bool VoltageControlledForm::ArePairsWhole()
     const bool bSecond = !mFields.msSecondPositive.IsEmpty();
     const bool bThird = !mFields.msThirdPositive.IsEmpty();
     if (!bSecond && (bThird || !mFields.msSecondNegative.IsEmpty()))
-        return gReportFailure(
-            mrPage, msMessage,
-            "__$$Translatable$$_Missing controlled source 2 positive terminal name.");
+        return Fail("__$$Translatable$$_Missing controlled source 2 positive terminal name.");
     if (!bThird && !mFields.msThirdNegative.IsEmpty())
-        return gReportFailure(
-            mrPage, msMessage,
-            "__$$Translatable$$_Missing controlled source 3 positive terminal name.");
+        return Fail("__$$Translatable$$_Missing controlled source 3 positive terminal name.");
     return true;
 }
 

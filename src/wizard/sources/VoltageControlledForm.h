@@ -20,12 +20,10 @@ struct TVoltageControlledFields {
 };
 
 /// What the pages of both voltage-controlled sources do.
-class VoltageControlledForm : public SourceForm<TVoltageControlledFields>
+class VoltageControlledForm : public SourceForm<TVoltageControlledFields, VoltageControlled::TTwin>
 {
 public:
-    /// All three live longer than this.
-    VoltageControlledForm(CCommandPage& rPage, const VoltageControlled::TTwin& rTwin,
-                          Remembered<TVoltageControlledFields>& rRemembered);
+    using SourceForm::SourceForm;
 
     void Exchange(CDataExchange* pDX);
     void Restore();
@@ -44,6 +42,4 @@ private:
     void AppendPairs(CString& rsCommand);
     CString Head() const;
     void SetLabel(int nField, const VoltageControlled::TLabel& rLabel);
-
-    const VoltageControlled::TTwin& mrTwin;
 };

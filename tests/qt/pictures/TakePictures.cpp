@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFont>
+#include <QImage>
 #include <QPalette>
 #include <QPixmap>
 #include <QProcess>
@@ -51,7 +52,11 @@ void TakePagePicture(const std::string& rsName, QWidget& rWindow)
     if (sPath.find('/') == std::string::npos || (rsName != sPath && !QFile::exists(sFile)))
         return;
     ++snPictures;
-    rWindow.grab().save(sFile);
+    // Small, for they are kept: few colours, packed as tightly as can be.
+    rWindow.grab()
+        .toImage()
+        .convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither)
+        .save(sFile, "PNG", 0);
 }
 
 QPalette DarkPalette()
@@ -77,6 +82,7 @@ int TakeAll(const QStringList& rOptions)
         gVisitWizard(TakePagePicture);
     } else {
         gVisitWizard(TakePicture);
+        gVisitSinglePages(TakePicture);
         gVisitSweep(TakePicture);
         gVisitSample(TakePicture);
         gVisitBoxes(TakePicture);

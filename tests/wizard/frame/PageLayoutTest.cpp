@@ -55,6 +55,20 @@ TEST(PageLayoutTest, WideFieldsHaveTheirLabelAbove)
                   {4, {7, 144, 235, 18}}});
 }
 
+TEST(PageLayoutTest, AUnitStandsBehindAFieldBelowItsLabelToo)
+{
+    ExpectPlaces(PageRows(GroupBox(1, "g", "G",
+                                   Beside(120, WideEdit(2, "a", "A:", "V", 100),
+                                          WideEdit(3, "b", "B:", "deg", 220)))),
+                 {{1, {7, 7, 235, 41}},
+                  {LabelOf(2), {14, 19, 100, 9}},
+                  {2, {14, 30, 82, 13}},
+                  {UnitOf(2), {100, 32, 14, 9}},
+                  {LabelOf(3), {120, 19, 115, 9}},
+                  {3, {120, 30, 96, 13}},
+                  {UnitOf(3), {220, 32, 15, 9}}});
+}
+
 TEST(PageLayoutTest, TheLargerGapOfTwoNeighboursCounts)
 {
     ExpectPlaces(PageRows(RadioLines("r", TChoice{1, "A"}, TChoice{2, "B"}),

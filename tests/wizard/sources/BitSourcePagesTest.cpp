@@ -92,14 +92,7 @@ TEST_F(BitSourcePages, CheckTheFieldsInTheirOrder)
 
 TEST_F(BitSourcePages, PutTheirLetterInFrontUnlessTheNameBeginsWithIt)
 {
-    gExpectLines(kCurrent, kCommon,
-                 {{"i1", {"name=i1"}, "i1 a GND BIT ({0110})", ""},
-                  {"I1", {"name=I1"}, "I1 a GND BIT ({0110})", ""},
-                  {"v1", {"name=v1"}, "Iv1 a GND BIT ({0110})", ""}});
-    gExpectLines(kVoltage, kCommon,
-                 {{"v1", {"name=v1"}, "v1 a GND BIT ({0110})", ""},
-                  {"V1", {"name=V1"}, "V1 a GND BIT ({0110})", ""},
-                  {"i1", {"name=i1"}, "Vi1 a GND BIT ({0110})", ""}});
+    gExpectOneLetter("Bit", kCommon, " a GND BIT ({0110})");
 }
 
 TEST_F(BitSourcePages, RememberWhatTheyBuiltWithTheGroundFilledIn)
@@ -112,8 +105,7 @@ TEST_F(BitSourcePages, RememberWhatTheyBuiltWithTheGroundFilledIn)
     shown.insert(shown.end(),
                  {"name=n", "positive-terminal=a", "bit-stream=01", "negative-terminal=GND"});
     const TFieldValues refused{"name=m", "rounding=4", "bit-stream="};
-    gExpectRemembered(kCurrent, kVoltage, typed, refused, shown);
-    gExpectRemembered(kVoltage, kCurrent, typed, refused, shown);
+    gExpectRemembered("Bit", typed, refused, shown);
 }
 
 TEST_F(BitSourcePages, KeepInTheControlsWhatWasTyped)

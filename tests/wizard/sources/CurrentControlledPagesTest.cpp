@@ -234,15 +234,21 @@ TEST_F(CurrentControlledPages, LeaveTheLineSoFarWhenAFurtherSourceIsRefused)
 
 TEST_F(CurrentControlledPages, RememberWhatTheyBuiltWithTheGroundFilledIn)
 {
+    gExpectRemembered("Current-controlled",
+                      {"gain= 7 ", "polynomial-sources=on", "name= 1 ", "positive-terminal= a ",
+                       "controlling-source= v1 ", "coefficients= 0\n1 ",
+                       "second-controlling-source=v2 ", "third-controlling-source=v3"},
+                      {"name=2", "third-controlling-source=x"},
+                      {"name=1", "positive-terminal=a", "negative-terminal=GND",
+                       "controlling-source=v1", "gain=7", "coefficients=0\n1",
+                       "second-controlling-source=v2 ", "third-controlling-source=v3"});
+}
+
+TEST_F(CurrentControlledPages, RememberTheCheckBoxEachForItself)
+{
     for (const TTwin& rTwin : kTwins) {
-        gExpectRemembered(rTwin.pPage, rTwin.pTwin,
-                          {"gain= 7 ", "polynomial-sources=on", "name= 1 ", "positive-terminal= a ",
-                           "controlling-source= v1 ", "coefficients= 0\n1 ",
-                           "second-controlling-source=v2 ", "third-controlling-source=v3"},
-                          {"name=2", "third-controlling-source=x"},
-                          {"name=1", "positive-terminal=a", "negative-terminal=GND",
-                           "controlling-source=v1", "gain=7", "coefficients=0\n1",
-                           "second-controlling-source=v2 ", "third-controlling-source=v3"});
+        CRememberedBase::ResetAll();
+        gCompose(rTwin.pPage, kPolynomial);
         gRunWizard(CScript()
                        .Do({Open(rTwin.pPage)})
                        .Look({look::Checked("polynomial-sources", 1)})

@@ -6,7 +6,9 @@
 #include "support/Steps.h"
 #include "support/TranslationScope.h"
 
+#include <array>
 #include <map>
+#include <utility>
 
 namespace
 {
@@ -74,25 +76,45 @@ void gExpectLinesOfBoth(const std::string& rsKind, const TFieldValues& rCommon,
     }
 }
 
-void gExpectRemembered(const std::string& rsPage, const std::string& rsTwin,
-                       const TFieldValues& rInserted, const TFieldValues& rRefused,
-                       const TFieldValues& rShown)
+void gExpectOneLetter(const std::string& rsKind, const TFieldValues& rCommon,
+                      const std::string& rsRest)
 {
-    SCOPED_TRACE(rsPage);
-    CRememberedBase::ResetAll();
-    CScript build = OnPage(rsPage);
-    build.Fill(rInserted).Do({steps::Insert()});
-    build.Fill(rRefused).Do({steps::Insert()});
-    const auto outcome = gRunWizard(std::move(build));
-    EXPECT_EQ(outcome.inserted.size(), 1U);
-    EXPECT_EQ(outcome.messages.size(), 1U);
+    const auto lines = [&rsRest](const std::vector<std::pair<const char*, std::string>>& rNames) {
+        std::vector<TSourceCase> cases;
+        for (const auto& [pName, sBegin] : rNames)
+            cases.push_back({pName, {std::string("name=") + pName}, sBegin + rsRest, ""});
+        return cases;
+    };
+    gExpectLines(
+        "Current source/" + rsKind, rCommon,
+        lines({{"i1", "i1"}, {"I1", "I1"}, {"I", "I"}, {"i", "i"}, {"1i", "I1i"}, {"v1", "Iv1"}}));
+    gExpectLines(
+        "Voltage source/" + rsKind, rCommon,
+        lines({{"v1", "v1"}, {"V1", "V1"}, {"V", "V"}, {"v", "v"}, {"1v", "V1v"}, {"i1", "Vi1"}}));
+}
 
-    CScript next = OnPage(rsPage);
-    LookAt(next, rShown);
-    gRunWizard(std::move(next));
-    CScript twin = OnPage(rsTwin);
-    LookAt(twin, rShown, true);
-    gRunWizard(std::move(twin));
+void gExpectRemembered(const std::string& rsKind, const TFieldValues& rInserted,
+                       const TFieldValues& rRefused, const TFieldValues& rShown)
+{
+    const std::string sCurrent = "Current source/" + rsKind;
+    const std::string sVoltage = "Voltage source/" + rsKind;
+    for (const auto& [sPage, sTwin] : {std::pair{sCurrent, sVoltage}, {sVoltage, sCurrent}}) {
+        SCOPED_TRACE(sPage);
+        CRememberedBase::ResetAll();
+        const auto outcome = gRunWizard(OnPage(sPage)
+                                            .Fill(rInserted)
+                                            .Do({steps::Insert()})
+                                            .Fill(rRefused)
+                                            .Do({steps::Insert()}));
+        EXPECT_EQ(outcome.inserted.size(), 1U);
+        EXPECT_EQ(outcome.messages.size(), 1U);
+
+        CScript next = OnPage(sPage);
+        LookAt(next, rShown);
+        next.Do({steps::Open(sTwin)});
+        LookAt(next, rShown, true);
+        gRunWizard(std::move(next));
+    }
 }
 
 void gExpectLeft(const std::string& rsPage, const TFieldValues& rFields, const std::string& rsLeft)

@@ -30,11 +30,15 @@ void gExpectLines(const std::string& rsPage, const TFieldValues& rCommon,
 void gExpectLinesOfBoth(const std::string& rsKind, const TFieldValues& rCommon,
                         const std::vector<TSourceCase>& rCases);
 
-/// A first run builds with `rInserted`, and then fails with `rRefused`; the next run must show
-/// `rShown`, the run after it on the page `rsTwin` none of it.
-void gExpectRemembered(const std::string& rsPage, const std::string& rsTwin,
-                       const TFieldValues& rInserted, const TFieldValues& rRefused,
-                       const TFieldValues& rShown);
+/// Each of the two pages of this kind puts its letter in front of the line, unless the name begins
+/// with it, small or capital. `rsRest`: the line behind the name.
+void gExpectOneLetter(const std::string& rsKind, const TFieldValues& rCommon,
+                      const std::string& rsRest);
+
+/// On each of the two pages of this kind a first run builds with `rInserted` and then fails with
+/// `rRefused`; the next run must show `rShown`, and none of it on the other page.
+void gExpectRemembered(const std::string& rsKind, const TFieldValues& rInserted,
+                       const TFieldValues& rRefused, const TFieldValues& rShown);
 
 /// The page refuses these fields and leaves this text in the run's command string.
 void gExpectLeft(const std::string& rsPage, const TFieldValues& rFields, const std::string& rsLeft);

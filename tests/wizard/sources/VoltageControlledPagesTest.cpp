@@ -316,18 +316,24 @@ TEST_F(VoltageControlledPages, AFailedExpressionOfAVoltageIsNot)
 
 // --- what is remembered
 
-TEST_F(VoltageControlledPages, RememberTheFieldsOfAllModesAndTheModeItself)
+TEST_F(VoltageControlledPages, RememberTheFieldsOfAllModes)
+{
+    gExpectRemembered("Voltage-controlled",
+                      {"gain= 7 ", "mode=Polynomial", "name= 1 ", "positive-terminal= a ",
+                       "first-control-field= c ", "coefficients= 0\n1 ", "second-positive=e ",
+                       "third-positive=g", "third-negative=h"},
+                      {"name=2", "second-positive=", "second-negative="},
+                      {"name=1", "positive-terminal=a", "negative-terminal=GND",
+                       "first-control-field=c", "second-control-field=GND", "gain=7",
+                       "coefficients=0\n1", "second-positive=e ", "second-negative=GND",
+                       "third-positive=g", "third-negative=h"});
+}
+
+TEST_F(VoltageControlledPages, RememberTheModeEachForItself)
 {
     for (const TTwin& rTwin : {kCurrent, kVoltage}) {
-        gExpectRemembered(rTwin.pPage, rTwin.pTwin,
-                          {"gain= 7 ", "mode=Polynomial", "name= 1 ", "positive-terminal= a ",
-                           "first-control-field= c ", "coefficients= 0\n1 ", "second-positive=e ",
-                           "third-positive=g", "third-negative=h"},
-                          {"name=2", "second-positive=", "second-negative="},
-                          {"name=1", "positive-terminal=a", "negative-terminal=GND",
-                           "first-control-field=c", "second-control-field=GND", "gain=7",
-                           "coefficients=0\n1", "second-positive=e ", "second-negative=GND",
-                           "third-positive=g", "third-negative=h"});
+        CRememberedBase::ResetAll();
+        gCompose(rTwin.pPage, kPolynomial);
         gRunWizard(CScript()
                        .Do({Open(rTwin.pPage)})
                        .Look({look::Checked("mode", 1)})
