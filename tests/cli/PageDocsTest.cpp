@@ -15,8 +15,15 @@ namespace
 namespace fs = std::filesystem;
 
 const fs::path kDocuments = QUORVAWIZ_SOURCE_DIR "/docs/pages";
-constexpr const char* kScript = "'" QUORVAWIZ_SOURCE_DIR "/scripts/page-docs' --check "
-                                "--program quorvawiz";
+/// Asks the script with these options more, and then what `pThen` says.
+std::string Check(const std::string& rsOptions, const char* pThen)
+{
+    std::string sCommand =
+        "'" QUORVAWIZ_SOURCE_DIR "/scripts/page-docs' --check --program quorvawiz ";
+    sCommand += rsOptions;
+    sCommand += pThen;
+    return gRunShell(sCommand);
+}
 
 std::string TextOf(const fs::path& rFile)
 {
@@ -82,8 +89,7 @@ std::vector<std::string> SectionsOf(const std::string& rsDocument)
 
 TEST(PageDocs, TheTablesOfFieldsAreThoseOfTheProgram)
 {
-    EXPECT_EQ(gRunShell(std::string(kScript) + " && echo true"), "true\n")
-        << "scripts/page-docs writes them anew";
+    EXPECT_EQ(Check("", "&& echo true"), "true\n") << "scripts/page-docs writes them anew";
 }
 
 TEST(PageDocs, ATableThatIsOutOfDateIsFound)
@@ -95,14 +101,12 @@ TEST(PageDocs, ATableThatIsOutOfDateIsFound)
     const std::size_t nAt = sText.find("`bit-stream`");
     ASSERT_NE(nAt, std::string::npos);
     std::ofstream(folder / "current-source.md") << std::string(sText).replace(nAt, 12, "`stream`");
-    const std::string sCheck = std::string(kScript) + " --folder '" + folder.string() + "'";
-    EXPECT_EQ(gRunShell(sCheck + " || echo $?"),
-              "page-docs: current-source.md is out of date\n1\n");
+    const std::string sFolder = "--folder '" + folder.string() + "'";
+    EXPECT_EQ(Check(sFolder, " || echo $?"), "page-docs: current-source.md is out of date\n1\n");
 
     // A page that is built and has no section is missed, too.
     std::ofstream(folder / "current-source.md") << sText.substr(0, sText.find("## Bus"));
-    EXPECT_EQ(gRunShell(sCheck + " || echo $?"),
-              "page-docs: current-source.md is out of date\n1\n");
+    EXPECT_EQ(Check(sFolder, " || echo $?"), "page-docs: current-source.md is out of date\n1\n");
     fs::remove_all(folder);
 }
 
