@@ -25,13 +25,15 @@ constexpr TTwin kVoltage{kVoltageSource, kMissingVoltageSourceName, "Vo&ltage of
 
 constexpr auto Rows(const TTwin& rTwin)
 {
-    constexpr TColumns kColumns{.nField = 112, .nUnit = 145};
+    // Wide enough on its left for long labels.
+    constexpr int kRightColumn = 173;
+    constexpr TColumns kColumns{.nField = 114, .nUnit = 151};
     const char* const pUnit = rTwin.source.pUnit;
     return PageRows(GroupBox(
         kWholeGroup, "single-frequency-fm-source-group", "Single frequency FM source",
-        NameBesideDC(kDCInFrame, rTwin.source),
+        NameBesideDC(kRightColumn, rTwin.source, 5),
         Beside(
-            kDCInFrame,
+            kRightColumn,
             GroupBox(
                 kSignalGroup, "signal-group", "Signal",
                 EditLine(kColumns, kOffset, "offset", rTwin.pOffsetLabel, pUnit),

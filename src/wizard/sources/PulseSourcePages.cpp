@@ -39,8 +39,8 @@ constexpr auto ThreeTimes(const TBlock<3>& rFirst, const TBlock<3>& rSecond,
 constexpr auto Rows(const TTwin& rTwin)
 {
     // The left edges of the units in the three columns of times.
-    constexpr int kOne = 70;
-    constexpr int kTwo = 141;
+    constexpr int kOne = 69;
+    constexpr int kTwo = 140;
     constexpr int kThree = 212;
     return PageRows(GroupBox(
         kWholeGroup, "pulse-source-group", "Pulse source",

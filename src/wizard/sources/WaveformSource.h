@@ -48,12 +48,13 @@ enum EWaveformSourceId {
     kACPhase,
 };
 
-/// Where a group box around the whole page begins its inner ones, and where there is no such box.
+/// Where the group of the DC value begins on a page with a group box around it all, and without.
 inline constexpr int kDCInFrame = 167;
 inline constexpr int kDCWithoutFrame = 174;
 
 /// The group of the head fields, and beside it, from `nDC` on, the one of the DC value.
-constexpr auto NameBesideDC(int nDC, const TSourceTwin& rTwin)
+/// `nNoteLines`: the lines that its note needs there.
+constexpr auto NameBesideDC(int nDC, const TSourceTwin& rTwin, int nNoteLines = 4)
 {
     constexpr TColumns kHead{.nField = 107};
     return Beside(
@@ -61,7 +62,8 @@ constexpr auto NameBesideDC(int nDC, const TSourceTwin& rTwin)
         GroupBox(kDCGroup, "dc-value-group", "&DC value",
                  Tight(BareEdit(kDCValue, "dc-value"),
                        NoteLine(kDCNote, "note",
-                                "(default is the time=0 value of the transient waveform)", 4))));
+                                "(default is the time=0 value of the transient waveform)",
+                                nNoteLines))));
 }
 
 /// The group of the AC values, one line to each.
@@ -99,7 +101,7 @@ constexpr auto ACColumn(const TSourceTwin& rTwin)
 constexpr auto LevelsBesideAC(const TSourceTwin& rTwin, int nInitial, const char* pInitialLabel,
                               int nPeak, int nGroup)
 {
-    constexpr TColumns kLevels{.nField = 57, .nUnit = 96};
+    constexpr TColumns kLevels{.nField = 57, .nUnit = 95};
     constexpr TColumns kAC{.nField = 172, .nUnit = 212};
     return Beside(114,
                   GroupBox(nGroup, rTwin.pQuantityGroup, rTwin.pQuantity,
