@@ -11,6 +11,8 @@
 #include <QFile>
 #include <QFont>
 #include <QImage>
+#include <QList>
+#include <QMap>
 #include <QPalette>
 #include <QPixmap>
 #include <QProcess>
@@ -42,6 +44,20 @@ void TakePicture(const std::string& rsName, QWidget& rWindow)
         QDir(sFolder).filePath(sNumber + QLatin1Char('-') + sName + QLatin1String(".png")));
 }
 
+/// The colours of a picture, as exactly as a table of 256 can hold them.
+QList<QRgb> ColoursOf(const QImage& rPicture)
+{
+    for (unsigned nDropped = 0;; ++nDropped) {
+        const QRgb nMask = 0x010101U * (0xFFU << nDropped & 0xFFU);
+        QMap<QRgb, QRgb> colours;
+        for (int y = 0; y < rPicture.height(); ++y)
+            for (int x = 0; x < rPicture.width(); ++x)
+                colours.insert(rPicture.pixel(x, y) & nMask, rPicture.pixel(x, y));
+        if (colours.size() <= 256)
+            return colours.values();
+    }
+}
+
 /// A picture for the user's documents: a page as it opens, and what a choice on it shows if there
 /// is a picture of that already.
 void TakePagePicture(const std::string& rsName, QWidget& rWindow)
@@ -53,10 +69,8 @@ void TakePagePicture(const std::string& rsName, QWidget& rWindow)
         return;
     ++snPictures;
     // Small, for they are kept: few colours, packed as tightly as can be.
-    rWindow.grab()
-        .toImage()
-        .convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither)
-        .save(sFile, "PNG", 0);
+    const QImage picture = rWindow.grab().toImage();
+    picture.convertToFormat(QImage::Format_Indexed8, ColoursOf(picture)).save(sFile, "PNG", 0);
 }
 
 QPalette DarkPalette()
