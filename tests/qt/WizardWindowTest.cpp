@@ -83,6 +83,50 @@ TEST_F(WizardWindow, KeysAloneInsertACommand)
               (std::vector<std::string>{".temp 0 27 85", ".temp 0 27 85", ".temp 0 27 85 100"}));
 }
 
+TEST_F(WizardWindow, KeysAloneFillInTheDigitalAndTheControlledSources)
+{
+    struct TPage {
+        const char* pCategory;
+        const char* pPage;
+        std::vector<std::string> inputs;
+        const char* pLine;
+    };
+    const TPage pages[] = {
+        {"Current source",
+         "Bit",
+         {"press Alt+C", "type 1", "press Alt+P", "type a", "press Alt+B", "type 0110",
+          "press Alt+G", "type 5n"},
+         "I1 a GND BIT ({0110} ht=5n)"},
+        {"Voltage source",
+         "Bus",
+         {"press Alt+V", "type b", "press Tab", "type data", "press Alt+B", "type 1010",
+          "press Alt+D", "type 2n"},
+         "Vb data GND BUS ({1010} delay=2n)"},
+        {"Current source",
+         "Current-controlled",
+         {"press Alt+C", "type 1", "press Alt+P", "type a", "press Alt+O", "type v1", "press Alt+L",
+          "press Alt+Y", "type 0", "press Return", "type 1", "press Alt+T", "type v2"},
+         "F1 a GND POLY(2) v1 v2 0 1"},
+        {"Voltage source",
+         "Voltage-controlled",
+         {"press Alt+V", "type q", "press Alt+O", "type a", "press Alt+P", "press Alt+C", "type c",
+          "press Alt+Y", "type 0 1 1", "press Alt+G", "type d"},
+         "Eq a GND POLY(2) c GND d GND 0 1 1"},
+    };
+    for (const TPage& rPage : pages) {
+        CPlayer player;
+        player.Then("walk to the category", [&rPage] { WalkTo("Down", rPage.pCategory); });
+        player.Do({"press Right"});
+        player.Then("walk to the page", [&rPage] { WalkTo("Down", rPage.pPage); });
+        player.Do(rPage.inputs);
+        player.Do({"press Alt+I", "press Escape"});
+        Play(player);
+        ASSERT_FALSE(mTarget.mCommands.empty()) << rPage.pLine;
+        EXPECT_EQ(mTarget.mCommands.back(), rPage.pLine);
+    }
+    EXPECT_EQ(mTarget.mCommands.size(), std::size(pages));
+}
+
 TEST_F(WizardWindow, EnterInTheTreeInserts)
 {
     CPlayer player;

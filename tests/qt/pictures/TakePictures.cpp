@@ -47,12 +47,16 @@ void TakePicture(const std::string& rsName, QWidget& rWindow)
 /// The colours of a picture, as exactly as a table of 256 can hold them.
 QList<QRgb> ColoursOf(const QImage& rPicture)
 {
+    QMap<QRgb, int> pixels; // of each colour, how many
+    for (int y = 0; y < rPicture.height(); ++y)
+        for (int x = 0; x < rPicture.width(); ++x)
+            ++pixels[rPicture.pixel(x, y)];
     for (unsigned nDropped = 0;; ++nDropped) {
         const QRgb nMask = 0x010101U * (0xFFU << nDropped & 0xFFU);
-        QMap<QRgb, QRgb> colours;
-        for (int y = 0; y < rPicture.height(); ++y)
-            for (int x = 0; x < rPicture.width(); ++x)
-                colours.insert(rPicture.pixel(x, y) & nMask, rPicture.pixel(x, y));
+        QMap<QRgb, QRgb> colours; // of those that look alike, the most frequent
+        for (auto it = pixels.cbegin(); it != pixels.cend(); ++it)
+            if (it.value() > pixels.value(colours.value(it.key() & nMask)))
+                colours[it.key() & nMask] = it.key();
         if (colours.size() <= 256)
             return colours.values();
     }

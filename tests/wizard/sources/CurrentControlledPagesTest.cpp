@@ -1,7 +1,7 @@
-#include "platform/ui/FieldView.h"
+#include "platform/ui/Dialog.h"
+#include "platform/ui/RuntimeClass.h"
 #include "support/Look.h"
 #include "support/Steps.h"
-#include "support/TranslationScope.h"
 #include "wizard/sources/SourcePageRun.h"
 
 namespace
@@ -296,6 +296,19 @@ TEST_F(CurrentControlledPages, EnableWhatTheRememberedCheckBoxAsksFor)
     for (const TTwin& rTwin : kTwins) {
         gCompose(rTwin.pPage, kPolynomial);
         gRunWizard(CScript().Do({Open(rTwin.pPage)}).Look(PolynomialEnabled(true)));
+    }
+}
+
+TEST_F(CurrentControlledPages, BeginWithTheFieldsOfAPolynomialDisabledInTheirTemplate)
+{
+    for (const TTwin& rTwin : kTwins) {
+        std::vector<std::string> disabled;
+        const auto pPage = CRuntimeClass::FromName(rTwin.pClass)->CreateObject();
+        for (const TControlRow& rRow : dynamic_cast<CDialog&>(*pPage).GetTemplate().rows)
+            if (rRow.nFlags & kDisabled && rRow.kind != EControl::Label)
+                disabled.emplace_back(rRow.pKey);
+        EXPECT_EQ(disabled, (std::vector<std::string>{"coefficients", "second-controlling-source",
+                                                      "third-controlling-source"}));
     }
 }
 

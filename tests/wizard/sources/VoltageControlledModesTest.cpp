@@ -111,20 +111,18 @@ TEST_F(VoltageControlledModes, EachShowsItsFieldsUnderTheirNames)
 
 TEST_F(VoltageControlledModes, TheRememberedOneIsShownInTheNextRun)
 {
+    const CBracketTranslation translation;
     const TFieldValues all{"name=1",  "positive-terminal=a", "first-control-field=c", "gain=1",
                            "mode=#1", "coefficients=1"};
     for (const TTwin& rTwin : kTwins) {
         SCOPED_TRACE(rTwin.pPage);
-        CScript build;
-        {
-            const CBracketTranslation translation;
-            build.Do({Open(rTwin.pPage)}).Fill(all).Do({Choose("mode", 2), Insert()});
-            EXPECT_EQ(gRunWizard(std::move(build)).inserted.size(), 1U);
-            CScript look;
-            look.Do({Open(rTwin.pPage)});
-            LookAtMode(look, rTwin, 2);
-            gRunWizard(std::move(look));
-        }
+        const auto outcome = gRunWizard(
+            CScript().Do({Open(rTwin.pPage)}).Fill(all).Do({Choose("mode", 2), Insert()}));
+        EXPECT_EQ(outcome.inserted.size(), 1U);
+        CScript next;
+        next.Do({Open(rTwin.pPage)});
+        LookAtMode(next, rTwin, 2);
+        gRunWizard(std::move(next));
     }
 }
 
@@ -170,6 +168,16 @@ TEST_F(VoltageControlledModes, TheLetterOfTheLabelGoesToTheFieldThatItStandsFor)
                    .Look({look::Focused("gain")})
                    .Do({Key("alt+p"), Key("alt+y")})
                    .Look({look::Checked("mode", 1), look::Focused("coefficients")}));
+}
+
+TEST_F(VoltageControlledModes, ReturnStartsANewLineInTheCoefficients)
+{
+    const auto outcome =
+        gRunWizard(CScript()
+                       .Do({Open("Voltage source/Voltage-controlled"), Choose("mode", 1),
+                            Set("coefficients", "0"), Key("enter")})
+                       .Look({look::Text("coefficients", "0\r\n")}));
+    EXPECT_TRUE(outcome.inserted.empty());
 }
 
 TEST_F(VoltageControlledModes, NoTwoControlsShareALetterInAnyOfThem)

@@ -1,5 +1,6 @@
 #include "support/Look.h"
 #include "support/Steps.h"
+#include "support/TranslationScope.h"
 #include "wizard/sources/SourcePageRun.h"
 
 namespace
@@ -265,13 +266,13 @@ TEST_F(VoltageControlledPages, AFailedExpressionOfACurrentIsToldAndThenInsertedA
         const char* pMessage;
     };
     for (const TCase& rCase :
-         {TCase{{"name= "}, "Missing voltage-controlled current source name."},
-          TCase{{"positive-terminal= "}, "Missing controlled positive terminal name."},
+         {TCase{{"name= "}, "[Missing voltage-controlled current source name.]"},
+          TCase{{"positive-terminal= "}, "[Missing controlled positive terminal name.]"},
           TCase{{"name=", "positive-terminal="},
-                "Missing voltage-controlled current source name."}}) {
+                "[Missing voltage-controlled current source name.]"}}) {
         CRememberedBase::ResetAll();
         const auto outcome = gRunWizard(CScript()
-                                            .Do({Open(kCurrent.pPage)})
+                                            .Do({Open("[Current source]/[Voltage-controlled]")})
                                             .Fill(kExpression)
                                             .Fill(rCase.fields)
                                             .Do({Insert()})
