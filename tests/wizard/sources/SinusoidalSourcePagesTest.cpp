@@ -1,3 +1,5 @@
+#include "support/Look.h"
+#include "support/Steps.h"
 #include "wizard/sources/SourcePageRun.h"
 
 namespace
@@ -209,6 +211,21 @@ TEST_F(SinusoidalSourcePages, RememberTheDelayThatADampingNeeds)
                       {"name=1", "positive-terminal=a", "offset=5", "peak-amplitude=1",
                        "frequency=1k", "damping=3"},
                       {"name="}, {"offset=5", "delay=0", "damping=3", "phase-advance="});
+}
+
+TEST_F(SinusoidalSourcePages, LeaveTheControlsAsTypedAndBuildTheSameAgain)
+{
+    const std::string sLine = "I1  a GND SIN (0 1 1k 0 0 45)";
+    const auto outcome = gRunWizard(
+        CScript()
+            .Do({steps::Open("Current source/Sinusoidal")})
+            .Fill({"name= 1 ", "positive-terminal=a", "peak-amplitude=1", "frequency=1k",
+                   "phase-advance=45"})
+            .Do({steps::Insert()})
+            .Look({look::Text("name", " 1 "), look::Text("negative-terminal", ""),
+                   look::Text("delay", ""), look::Text("damping", ""), look::Text("offset", "")})
+            .Do({steps::Insert()}));
+    EXPECT_EQ(outcome.inserted, (std::vector<std::string>{sLine, sLine}));
 }
 
 TEST_F(SinusoidalSourcePages, ShowTheirFieldsWithTheirUnits)

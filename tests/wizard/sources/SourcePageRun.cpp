@@ -81,6 +81,7 @@ void gExpectOneLetter(const std::string& rsKind, const TFieldValues& rCommon,
 {
     const auto lines = [&rsRest](const std::vector<std::pair<const char*, std::string>>& rNames) {
         std::vector<TSourceCase> cases;
+        cases.reserve(rNames.size());
         for (const auto& [pName, sBegin] : rNames)
             cases.push_back({pName, {std::string("name=") + pName}, sBegin + rsRest, ""});
         return cases;
