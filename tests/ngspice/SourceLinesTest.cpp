@@ -59,6 +59,8 @@ std::string ControlOf(char chDevice, std::istringstream& rWords)
 {
     std::string sControl;
     for (std::string sWord; rWords >> sWord;) {
+        if (const std::size_t nAt = sWord.find("='v("); nAt != std::string::npos)
+            sWord = sWord.substr(nAt + 4, sWord.find(')') - nAt - 4);
         if (!std::isalpha(static_cast<unsigned char>(sWord.front())) || sWord.starts_with("POLY") ||
             sWord == "GND" || sWord.find('=') != std::string::npos)
             continue;

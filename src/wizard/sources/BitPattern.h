@@ -62,7 +62,7 @@ inline constexpr int kRightColumn = 122;
 /// The box for the left column that smooths the corners.
 constexpr auto CornerBox()
 {
-    constexpr TColumns kColumns{.nField = 61, .nUnit = 96};
+    constexpr TColumns kColumns{.nField = 62, .nUnit = 96};
     return GroupBox(kCornerGroup, "corner-smoothing-group", "Corner smoothing",
                     EditLine(kColumns, kRounding, "rounding", "&Rounding (0):", "sec"));
 }

@@ -32,8 +32,8 @@ constexpr TTwin kVoltage{kVoltageSource,
 constexpr auto Rows(const TTwin& rTwin)
 {
     constexpr TColumns kHead{.nField = 88};
-    constexpr TColumns kSecondTerminal{.nField = 195};
-    constexpr TColumns kAC{.nField = 61, .nUnit = 96};
+    constexpr TColumns kSecondTerminal{.nField = 196};
+    constexpr TColumns kAC{.nField = 62, .nUnit = 96};
     return PageRows(Tight(
         GroupBox(kSourceGroup, "bit-source-group", "BIT source",
                  Tight(EditLine(kHead, kSourceName, "name", rTwin.source.pNameLabel),

@@ -21,9 +21,6 @@ const TExampleLines& gDigitalSourceExamples()
         {"Voltage source/Bus",
          {"name=b", "bus-name=data", "bit-stream=1010", "delay=2n"},
          "Vb data GND BUS ({1010} delay=2n)"},
-        {"Voltage source/Bus",
-         {"name=b", "bus-name=data", "bit-stream=1010", "reference-node=  "},
-         "Vb data    BUS ({1010})"},
 
         // --- what is refused
         {"Current source/Bit", {}, "", "Missing current source name."},

@@ -265,6 +265,7 @@ TEST_F(VoltageControlledPages, AFailedExpressionOfACurrentIsToldAndThenInsertedA
         TFieldValues fields;
         const char* pMessage;
     };
+    const CBracketTranslation translation;
     for (const TCase& rCase :
          {TCase{{"name= "}, "[Missing voltage-controlled current source name.]"},
           TCase{{"positive-terminal= "}, "[Missing controlled positive terminal name.]"},
