@@ -2,11 +2,13 @@
 // examples stands in a small circuit that ngspice simulates.
 
 #include "ngspice/Ngspice.h"
+#include "platform/base/Ascii.h"
 #include "support/PageTest.h"
 #include "support/WizardRun.h"
 #include "support/examples/ExampleLines.h"
 
 #include <algorithm>
+#include <cctype>
 #include <sstream>
 
 namespace
@@ -20,6 +22,9 @@ struct TUnknownForm {
 };
 
 const TUnknownForm kUnknownForms[] = {
+    {" BIT (", "it has no such waveform"},
+    {" BUS (", "it has no such waveform"},
+    {" chg='", "it takes no expression for a charge"},
     {" ROUND=", "it rounds no corners"},
     {" SIN ()", "it wants an offset and an amplitude"},
     {" SIN (2)", "it wants an amplitude behind the offset"},
@@ -49,17 +54,39 @@ std::vector<std::string> ComposedLines()
     return lines;
 }
 
+/// What controls the device of this line: voltage sources, or nodes; each with a load.
+std::string ControlOf(char chDevice, std::istringstream& rWords)
+{
+    std::string sControl;
+    for (std::string sWord; rWords >> sWord;) {
+        if (const std::size_t nAt = sWord.find("='v("); nAt != std::string::npos)
+            sWord = sWord.substr(nAt + 4, sWord.find(')') - nAt - 4);
+        if (!std::isalpha(static_cast<unsigned char>(sWord.front())) || sWord.starts_with("POLY") ||
+            sWord == "GND" || sWord.find('=') != std::string::npos)
+            continue;
+        if (chDevice == 'F' || chDevice == 'H')
+            sControl += sWord + " of" + sWord + " 0 1\nR" + sWord + " of" + sWord + " 0 1k\n";
+        else
+            sControl += "R" + sWord + ' ' + sWord + " 0 1k\n";
+    }
+    return sControl;
+}
+
 /// The device of this line with a load at each of its nodes, and a short transient analysis.
 std::string CircuitOf(const std::string& rsLine)
 {
+    std::istringstream words(rsLine);
     std::string sName;
     std::string sPositive;
     std::string sNegative;
-    std::istringstream(rsLine) >> sName >> sPositive >> sNegative;
+    words >> sName >> sPositive >> sNegative;
     std::string sCircuit =
         "* a source and its load\n" + rsLine + "\nRpositive " + sPositive + " 0 1k\n";
     if (sNegative != "GND")
         sCircuit += "Rnegative " + sNegative + " 0 1k\n";
+    const char chDevice = gToUpperAscii(sName.front());
+    if (chDevice >= 'E' && chDevice <= 'H')
+        sCircuit += ControlOf(chDevice, words);
     return sCircuit + ".tran 1n 30n\n.print tran v(" + sPositive + ")\n.end\n";
 }
 
@@ -73,11 +100,13 @@ TEST_F(SourceLines, NgspiceSimulatesThoseOfTheFormsThatItKnows)
         EXPECT_TRUE(gIsAccepted(run)) << rsLine << '\n' << testing::PrintToString(run);
         ++nSimulated;
     }
-    for (const char* pWaveform : {"PULSE", "PWL", "SIN", "EXP", "SFFM"})
+    for (const char* pWaveform :
+         {"PULSE", "PWL", "SIN", "EXP", "SFFM", "POLY(1)", "POLY(2)", "POLY(3)", "F1 a GND vsense",
+          "H1 a GND V1", "g1 a GND c", "E1 a", " vol='"})
         EXPECT_TRUE(std::ranges::any_of(ComposedLines(), [pWaveform](const std::string& rsLine) {
             return !UnknownFormIn(rsLine) && rsLine.find(pWaveform) != std::string::npos;
         })) << pWaveform;
-    EXPECT_GE(nSimulated, 20);
+    EXPECT_GE(nSimulated, 29);
 }
 
 TEST_F(SourceLines, NgspiceRefusesThoseOfTheFormsThatItDoesNotKnow)

@@ -1,6 +1,7 @@
 #include "qt/Visits.h"
 
 #include "exports/Quorvawiz.h"
+#include "platform/headless/TreePath.h"
 #include "platform/ui/Button.h"
 #include "platform/ui/ComboBox.h"
 #include "platform/ui/FieldView.h"
@@ -101,7 +102,9 @@ void AddChoices(CVisit& rVisit, const std::string& rsName)
             AddEntries(rVisit, rsName, *pCombo);
         for (CButton* const pRadio : rField.radios) {
             rVisit.Add([pRadio] { pRadio->UserClick(); });
-            rVisit.AddLook(rsName + "-" + std::string(rField.sKey));
+            CString sLabel = pRadio->GetWindowText();
+            sLabel.Remove('&');
+            rVisit.AddLook(rsName + "-" + sLabel.GetString());
         }
     }
 }
@@ -111,7 +114,7 @@ void AddNode(CVisit& rVisit, HTREEITEM hNode)
     rVisit.Add([&rVisit, hNode] {
         auto& rTree = const_cast<CTreeCtrl&>(gOpenWizard().GetTree());
         rTree.UserSelect(hNode);
-        const std::string sName = rTree.GetItemText(hNode).GetString();
+        const std::string sName = gTreePathOf(rTree, hNode);
         rVisit.Insert([&rVisit, sName] {
             rVisit.AddLook(sName);
             AddChoices(rVisit, sName);

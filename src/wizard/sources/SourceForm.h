@@ -16,7 +16,7 @@ template <class TFields, class TTwin> class SourceForm
 public:
     /// All of them live longer than this.
     SourceForm(CCommandPage& rPage, const TTwin& rTwin, Remembered<TFields>& rRemembered)
-        : mrTwin(rTwin), mrPage(rPage), mrRemembered(rRemembered)
+        : mrPage(rPage), mrTwin(rTwin), mrRemembered(rRemembered)
     {
     }
 
@@ -38,11 +38,11 @@ protected:
     /// Reports a failed check. Result: false.
     bool Fail(const char* pLiteral) { return gReportFailure(mrPage, msMessage, pLiteral); }
 
+    CCommandPage& mrPage;
     const TTwin& mrTwin;
     CString msMessage;
     TFields mFields;
 
 private:
-    CCommandPage& mrPage;
     Remembered<TFields>& mrRemembered;
 };

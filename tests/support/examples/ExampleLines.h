@@ -17,6 +17,8 @@ using TExampleLines = std::vector<TExampleLine>;
 const TExampleLines& gAnalysisExamples();
 const TExampleLines& gSetupExamples();
 const TExampleLines& gWaveformExamples();
+const TExampleLines& gDigitalSourceExamples();
+const TExampleLines& gControlledSourceExamples();
 
 /// All of them.
 TExampleLines gAllExamples();
