@@ -33,4 +33,58 @@ TEST(AsciiTest, CaseMappingIsThatOfTheClassicLocaleForEveryByte)
     }
 }
 
+TEST(AsciiTest, FindsTheFirstHighUnitAndTheFirstZeroAtEveryPlace)
+{
+    for (std::size_t nLength = 0; nLength <= 40; ++nLength) {
+        const std::u16string sPlain(nLength, u'\x7F');
+        EXPECT_EQ(gFindNonAscii(sPlain), nLength);
+        EXPECT_EQ(gCutAtZero(sPlain), sPlain);
+        for (std::size_t nAt = 0; nAt < nLength; ++nAt) {
+            std::u16string sText = sPlain;
+            sText[nAt] = u'\x80';
+            sText.back() = u'\xFF00';
+            EXPECT_EQ(gFindNonAscii(sText), nAt) << "length " << nLength;
+            sText[nAt] = u'\0';
+            EXPECT_EQ(gCutAtZero(sText), sText.substr(0, nAt)) << "length " << nLength;
+        }
+    }
+}
+
+TEST(AsciiTest, WidensAndNarrowsTextsOfEveryLength)
+{
+    for (std::size_t nLength = 0; nLength <= 600; ++nLength) {
+        std::string sBytes;
+        std::u16string sUnits;
+        for (std::size_t i = 0; i < nLength; ++i) {
+            sBytes += static_cast<char>(i);
+            sUnits += static_cast<char16_t>(i & 0xFF);
+        }
+        std::u16string sWidened = u"x";
+        gAppendWidened(sBytes, sWidened);
+        EXPECT_EQ(sWidened, u"x" + sUnits);
+        std::string sNarrowed(nLength, '\0');
+        gNarrowAscii(sUnits, sNarrowed.data());
+        EXPECT_EQ(sNarrowed, sBytes);
+    }
+}
+
+TEST(AsciiTest, BlocksLowerAndFind)
+{
+    std::string sBytes(kByteBlock, '@');
+    for (int nByte = 0; nByte < 256; ++nByte) {
+        sBytes[nByte % kByteBlock] = static_cast<char>(nByte);
+        const TByteBlock lowered = gLowerAsciiBlock(gLoadBlock(sBytes.data()));
+        EXPECT_EQ(lowered[nByte % kByteBlock],
+                  static_cast<signed char>(gToLowerAscii(static_cast<char>(nByte))));
+    }
+    for (std::size_t nAt = 0; nAt < kByteBlock; ++nAt) {
+        std::string sOne(kByteBlock, 'a');
+        sOne[nAt] = 'b';
+        EXPECT_EQ(gFindSet(gLoadBlock(sOne.data()) == 'b'), nAt);
+        EXPECT_TRUE(gAnySet(gLoadBlock(sOne.data()) == 'b'));
+        EXPECT_FALSE(gAnySet(gLoadBlock(sOne.data()) == 'c'));
+        EXPECT_GE(gFindSet(gLoadBlock(sOne.data()) == 'c'), kByteBlock);
+    }
+}
+
 } // namespace
