@@ -36,3 +36,21 @@ function(quorvawiz_list_suites target prefix)
         "endif()\n")
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${entry}")
 endfunction()
+
+# quorvawiz_add_display_tests(<target> <suite>...): for suites of a window test program the ctest entries
+# display.<suite>, which run them once more, on a virtual X display, with Qt's platform of real ones.
+# Without Xvfb, or without the suite, they fail.
+function(quorvawiz_add_display_tests target)
+    set(leaks "print_suppressions=0:suppressions=${PROJECT_SOURCE_DIR}/cmake/SystemLeaks.txt")
+    foreach(suite IN LISTS ARGN)
+        add_test(NAME display.${suite}
+            COMMAND xvfb-run --auto-servernum "--server-args=-screen 0 1280x1024x24"
+                "$<TARGET_FILE:${target}>" "--gtest_filter=${suite}.*")
+        # One display after the other: two servers that look for a free number at once may find the same.
+        set_tests_properties(display.${suite} PROPERTIES
+            LABELS display
+            RESOURCE_LOCK display
+            ENVIRONMENT "QT_QPA_PLATFORM=xcb;LSAN_OPTIONS=${leaks}"
+            FAIL_REGULAR_EXPRESSION "Running 0 tests|\\[  SKIPPED \\]|YOU HAVE [0-9]+ DISABLED")
+    endforeach()
+endfunction()

@@ -56,6 +56,12 @@ constexpr const char* kSessionFooter =
   {"op":"insert"}
 The document session.md tells all requests.)";
 
+constexpr const char* kCallFooter =
+    R"(Each line of the standard input is a call, each gets one line in reply:
+  {"fn":"gConcatenatePaths","args":["C:\\a","\\b"]}
+  {"ok":true,"result":"C:\\b"}
+The document call.md tells all functions; --list lists them.)";
+
 void AddJsonFlag(CLI::App& rCommand, bool& rbJson)
 {
     rCommand.add_flag("--json", rbJson, "One line of JSON instead of text");
@@ -105,6 +111,51 @@ unsigned ReadCodePage(const std::string& rsNumber)
     return nCodePage;
 }
 
+/// Reads "NAME=VALUE"; VALUE may hold more equals signs.
+void ReadVariable(const std::string& rsVariable, CMapEnvironment::TVariables& rVariables)
+{
+    const auto nEquals = rsVariable.find('=');
+    if (nEquals == std::string::npos || nEquals == 0)
+        throw CUsageError("--env takes NAME=VALUE, not " + gQuoted(rsVariable));
+    rVariables[rsVariable.substr(0, nEquals)] = rsVariable.substr(nEquals + 1);
+}
+
+/// The options of `call` as they were written.
+struct TCallArguments {
+    std::vector<std::string> variables;
+    std::string sDigits = "6";
+    std::string sScale = "spice";
+    bool bKeepZeros = false;
+    bool bKeepExponents = false;
+    bool bSi = false;
+    bool bLog = false;
+    bool bList = false;
+};
+
+TCallOptions ReadCallOptions(const TCallArguments& rArguments)
+{
+    TCallOptions options;
+    for (const std::string& rsVariable : rArguments.variables)
+        ReadVariable(rsVariable, options.environment);
+    unsigned nDigits = 0;
+    const char* const pEnd = rArguments.sDigits.data() + rArguments.sDigits.size();
+    const auto read = std::from_chars(rArguments.sDigits.data(), pEnd, nDigits);
+    if (read.ec != std::errc() || read.ptr != pEnd || nDigits == 0)
+        throw CUsageError("--digits takes a number from 1 on, not " + gQuoted(rArguments.sDigits));
+    options.format.SetDefaultEngineeringFormatDigits(nDigits);
+    const auto scale = gFindUnitScale(rArguments.sScale);
+    if (!scale || *scale == TeUnitScale::Undefined)
+        throw CUsageError("there is no scale " + gQuoted(rArguments.sScale) +
+                          "; they are si, spice, hspice, scientific and engineering");
+    options.format.SetDefaultEngineeringFormatUnitScale(*scale);
+    options.format.SetDefaultEngineeringFormatRemoveTrailingZeroes(!rArguments.bKeepZeros);
+    options.format.SetDefaultEngineeringFormatRemoveZeroExponents(!rArguments.bKeepExponents);
+    options.format.SetDefaultEngineeringFormatUseSiSuffixInsteadOfSpice(rArguments.bSi);
+    options.bLog = rArguments.bLog;
+    options.bList = rArguments.bList;
+    return options;
+}
+
 /// The parser of the program's arguments with the options that they are read into.
 class CParser
 {
@@ -114,6 +165,7 @@ public:
 
 private:
     CLI::App* AddCommand(const char* pName, const char* pDescription);
+    void AddCall();
     void ThrowLeftOver() const;
     TCommandLine Collect();
 
@@ -124,10 +176,13 @@ private:
     TPagesOptions mPages;
     TDescribeOptions mDescribe;
     TComposeOptions mCompose;
+    TCallArguments mCall;
     CLI::App* mpPages;
     CLI::App* mpDescribe;
     CLI::App* mpCompose;
     CLI::App* mpSession;
+    CLI::App* mpCall = nullptr;
+    CLI::Option* mpVariables = nullptr;
     CLI::Option* mpActions;
 };
 
@@ -160,6 +215,31 @@ CParser::CParser()
 
     mpSession = AddCommand("session", "Drive the wizard by lines of JSON");
     mpSession->footer(std::string(kSessionFooter) + "\n" + kCommonFooter);
+
+    AddCall();
+}
+
+void CParser::AddCall()
+{
+    mpCall = AddCommand("call", "Call functions of the foundation by lines of JSON");
+    mpVariables = mpCall
+                      ->add_option("--env", mCall.variables,
+                                   "Set an environment variable; nothing is inherited")
+                      ->type_name("NAME=VALUE")
+                      ->expected(1)
+                      ->take_all();
+    mpCall->add_option("--digits", mCall.sDigits, "Default digits of formatted numbers")
+        ->type_name("NUMBER")
+        ->capture_default_str();
+    mpCall->add_option("--scale", mCall.sScale, "Default scale of formatted numbers")
+        ->type_name("KEY")
+        ->capture_default_str();
+    mpCall->add_flag("--keep-zeros", mCall.bKeepZeros, "Keep trailing zeros by default");
+    mpCall->add_flag("--keep-exponents", mCall.bKeepExponents, "Keep zero exponents by default");
+    mpCall->add_flag("--si", mCall.bSi, "Parse SI suffixes by default");
+    mpCall->add_flag("--log", mCall.bLog, "Tell the path logger's lines in each reply");
+    mpCall->add_flag("--list", mCall.bList, "List the functions and exit");
+    mpCall->footer(std::string(kCallFooter) + "\n" + kCommonFooter);
 }
 
 CLI::App* CParser::AddCommand(const char* pName, const char* pDescription)
@@ -197,7 +277,8 @@ std::variant<TCommandLine, TInformation> CParser::Read(int nArguments,
 /// Where a command is missing, the parser doesn't say what stands in its place.
 void CParser::ThrowLeftOver() const
 {
-    static const std::vector<std::string> sCommands{"pages", "describe", "compose", "session"};
+    static const std::vector<std::string> sCommands{"pages", "describe", "compose", "session",
+                                                    "call"};
     const std::vector<std::string> rest = mApp.remaining();
     if (!mApp.get_subcommands().empty() || rest.empty())
         return;
@@ -222,6 +303,9 @@ TCommandLine CParser::Collect()
         // As they were written: the parser's own conversion gives some texts a meaning.
         mCompose.arguments = mpActions->results();
         line.command = mCompose;
+    } else if (mpCall->parsed()) {
+        mCall.variables = mpVariables->results();
+        line.command = ReadCallOptions(mCall);
     } else {
         line.command = TSessionOptions();
     }

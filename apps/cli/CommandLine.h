@@ -3,6 +3,7 @@
 #include "cli/ComposeCommand.h"
 #include "cli/DescribeCommand.h"
 #include "cli/PagesCommand.h"
+#include "cli/call/CallCommand.h"
 #include "platform/base/CodePage.h"
 
 #include <string>
@@ -19,7 +20,8 @@ struct TSessionOptions {
 struct TCommandLine {
     unsigned nCodePage = kCodePageUtf8; ///< known
     bool bUnixRules = false;            ///< path rules of the Unix side
-    std::variant<TPagesOptions, TDescribeOptions, TComposeOptions, TSessionOptions> command;
+    std::variant<TPagesOptions, TDescribeOptions, TComposeOptions, TSessionOptions, TCallOptions>
+        command;
 };
 
 /// A text that the user asked for instead of a command: help or version.

@@ -1,7 +1,7 @@
 #include "cli/RequestMembers.h"
 
 #include "cli/Quote.h"
-#include "cli/SessionRequest.h"
+#include "cli/RequestError.h"
 #include "cli/Suggest.h"
 #include "platform/base/CodePage.h"
 

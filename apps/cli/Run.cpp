@@ -20,6 +20,7 @@ struct TRunCommand {
         return gRunCompose(gSpiceWizard(), rOptions);
     }
     int operator()(const TSessionOptions&) const { return gRunSession(); }
+    int operator()(const TCallOptions& rOptions) const { return gRunCall(rOptions); }
 };
 
 int Run(int nArguments, const char* const* ppArguments)

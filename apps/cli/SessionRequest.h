@@ -1,10 +1,10 @@
 #pragma once
 
+#include "cli/RequestError.h"
 #include "platform/headless/Step.h"
 #include "platform/ui/FileDialog.h"
 
 #include <deque>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -34,13 +34,6 @@ struct TFreshRequest {
 };
 using TRequest = std::variant<TStepRequest, TOpenRequest, TAnswersRequest, TFileRequest,
                               TStateRequest, TReopenRequest, TFreshRequest>;
-
-/// A request that can't be done, with the reason as its reply tells it.
-class CRequestError : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// Reads a request.
 /// @param sLine one line without its end, of any length and content

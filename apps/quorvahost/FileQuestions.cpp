@@ -20,6 +20,17 @@ QString Filters()
     return Say("SPICE netlists (*.cir *.net *.sp *.spi *.ckt *.lib *.inc);;All files (*)");
 }
 
+/// A box whose texts are shown to the letter: a file may be called "<b>".
+class CPlainBox : public QMessageBox
+{
+public:
+    CPlainBox(QWidget* pParent, const QString& rsText, StandardButtons buttons)
+        : QMessageBox(Warning, QCoreApplication::applicationName(), rsText, buttons, pParent)
+    {
+        setTextFormat(Qt::PlainText);
+    }
+};
+
 std::optional<QString> ChosenIn(QFileDialog& rDialog)
 {
     if (rDialog.exec() != QDialog::Accepted || rDialog.selectedFiles().isEmpty())
@@ -30,9 +41,8 @@ std::optional<QString> ChosenIn(QFileDialog& rDialog)
 
 EUnsaved gAskAboutUnsaved(QWidget* pParent, const QString& rsName)
 {
-    QMessageBox box(QMessageBox::Warning, QCoreApplication::applicationName(),
-                    Say("\"%1\" has changes that aren't saved.").arg(rsName),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, pParent);
+    CPlainBox box(pParent, Say("\"%1\" has changes that aren't saved.").arg(rsName),
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
     box.setInformativeText(Say("Save them?"));
     box.setDefaultButton(QMessageBox::Save);
     switch (box.exec()) {
@@ -47,9 +57,9 @@ EUnsaved gAskAboutUnsaved(QWidget* pParent, const QString& rsName)
 
 bool gAskToOverwrite(QWidget* pParent, const QString& rsName)
 {
-    QMessageBox box(QMessageBox::Warning, QCoreApplication::applicationName(),
-                    Say("Another program has changed \"%1\" since it was opened.").arg(rsName),
-                    QMessageBox::NoButton, pParent);
+    CPlainBox box(pParent,
+                  Say("Another program has changed \"%1\" since it was opened.").arg(rsName),
+                  QMessageBox::NoButton);
     box.setInformativeText(Say("Saving replaces those changes by what is in the editor."));
     auto* const pReplace = box.addButton(Say("&Replace"), QMessageBox::DestructiveRole);
     box.setDefaultButton(box.addButton(QMessageBox::Cancel));
@@ -59,7 +69,7 @@ bool gAskToOverwrite(QWidget* pParent, const QString& rsName)
 
 void gShowFault(QWidget* pParent, const TFileFault& rFault)
 {
-    QMessageBox::warning(pParent, QCoreApplication::applicationName(), rFault.sMessage);
+    CPlainBox(pParent, rFault.sMessage, QMessageBox::Ok).exec();
 }
 
 std::optional<QString> gAskForFileToOpen(QWidget* pParent, const QString& rsFolder)

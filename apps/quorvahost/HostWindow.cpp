@@ -318,11 +318,13 @@ QString CHostWindow::Folder() const
 
 void CHostWindow::About()
 {
-    QMessageBox::about(
-        this, tr("About quorvahost"),
-        tr("<b>quorvahost %1</b><p>A small editor for SPICE netlists, and the host of the "
-           "SPICE Command Wizard.</p>")
-            .arg(QLatin1StringView(kVersion.data(), static_cast<qsizetype>(kVersion.size()))));
+    QMessageBox box(
+        QMessageBox::Information, tr("About quorvahost"),
+        tr("<b>quorvahost %1</b><p>A small editor for SPICE netlists, and the host of "
+           "the SPICE Command Wizard.</p>")
+            .arg(QLatin1StringView(kVersion.data(), static_cast<qsizetype>(kVersion.size()))),
+        QMessageBox::Ok, this);
+    box.exec();
 }
 
 } // namespace quorvawiz::host

@@ -5,7 +5,7 @@
 
 bool gIsAbsoluteText(std::u16string_view sPath, TExpandedNames& rNames)
 {
-    const std::u16string sCanonical = gCanonicalForm(sPath, rNames);
+    const std::u16string sCanonical = gCanonicalForm(std::u16string(sPath), rNames);
     if (gHasSlashAt(sCanonical, 0)) {
         // One that begins with "/" is absolute under every system.
         return !sPath.starts_with(u'\\') || gHasSlashAt(sCanonical, 1);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace
@@ -26,7 +27,11 @@ std::size_t RootLength(std::u16string_view sPath)
 class CComponents
 {
 public:
-    explicit CComponents(bool bRooted) : mbRooted(bRooted) {}
+    explicit CComponents(bool bRooted) : mbRooted(bRooted)
+    {
+        constexpr std::size_t usual = 16;
+        mList.reserve(usual);
+    }
 
     void Add(std::u16string_view sComponent)
     {
@@ -84,23 +89,24 @@ bool IsOfTheOtherSide(std::u16string_view sPath)
 
 } // namespace
 
-std::u16string gCanonicalForm(std::u16string_view sPath, TExpandedNames& rNames)
+std::u16string gCanonicalForm(std::u16string sPath, TExpandedNames& rNames)
 {
-    std::u16string sText(sPath);
-    gReplaceAll(sText, u'\\', u'/');
-    sText = Clean(sText);
+    gReplaceAll(sPath, u'\\', u'/');
+    std::u16string sText = Clean(sPath);
     gReplaceAll(sText, u'/', u'\\');
-    sText = gExpandEnvironment(sText, rNames);
+    if (gMayHaveReferences(sText)) {
+        sText = gExpandEnvironment(sText, rNames);
+    }
     if (gIsWine() && !IsOfTheOtherSide(sText)) {
         gReplaceAll(sText, u'\\', u'/');
     }
     return sText;
 }
 
-std::u16string gCanonicalForm(std::u16string_view sPath)
+std::u16string gCanonicalForm(std::u16string sPath)
 {
     TExpandedNames names;
-    return gCanonicalForm(sPath, names);
+    return gCanonicalForm(std::move(sPath), names);
 }
 
 CStringU gCanonicalizePath(const CStringU& rPath)

@@ -4,6 +4,7 @@
 #include "foundation/Paths.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace
 {
@@ -25,7 +26,7 @@ std::u16string_view RootOf(std::u16string_view sPath)
 std::u16string gJoinPaths(std::u16string_view sPath, std::u16string_view sRelative)
 {
     if (sPath.empty() || gIsAbsoluteText(sRelative)) {
-        return gCanonicalForm(sRelative);
+        return gCanonicalForm(std::u16string(sRelative));
     }
     std::u16string sJoined(sPath);
     if (gHasSlashAt(sRelative, 0)) {
@@ -33,7 +34,8 @@ std::u16string gJoinPaths(std::u16string_view sPath, std::u16string_view sRelati
     } else if (!sRelative.empty() && !gEndsInSlash(sJoined) && !sJoined.ends_with(u':')) {
         sJoined += u'\\';
     }
-    return gCanonicalForm(sJoined += sRelative);
+    sJoined += sRelative;
+    return gCanonicalForm(std::move(sJoined));
 }
 
 CStringU gConcatenatePaths(const CStringU& rPath, const CStringU& rRelativePath)

@@ -111,6 +111,12 @@ bool IsAbsoluteValue(std::u16string_view sName, std::u16string_view sValue, TExp
 
 } // namespace
 
+bool gMayHaveReferences(std::u16string_view sPath) noexcept
+{
+    return std::ranges::any_of(sPath,
+                               [](char16_t chChar) { return chChar == u'$' || chChar == u'%'; });
+}
+
 std::u16string gExpandEnvironment(std::u16string_view sPath, TExpandedNames& rNames)
 {
     std::u16string sExpanded;

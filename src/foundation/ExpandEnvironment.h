@@ -11,6 +11,9 @@ struct TExpandedNames {
     int mnTestsLeft = 0;                ///< how many more values may be looked at inside values
 };
 
+/// Tells whether a path may refer to variables, quickly: it has a "$" or a "%".
+[[nodiscard]] bool gMayHaveReferences(std::u16string_view sPath) noexcept;
+
 /// Fills in the environment variables of a path: ${NAME}, $NAME with letters, digits and "_" of
 /// ASCII, and %NAME%. A reference to a variable that isn't set stays. An absolute value takes the
 /// place of everything before it. A value that was filled in is not scanned again, but to tell

@@ -11,10 +11,10 @@
 /// As gCanonicalizePath.
 /// @param sPath the path
 /// @param rNames the variables being expanded; an empty list for a path of a caller
-[[nodiscard]] std::u16string gCanonicalForm(std::u16string_view sPath, TExpandedNames& rNames);
+[[nodiscard]] std::u16string gCanonicalForm(std::u16string sPath, TExpandedNames& rNames);
 
 /// As gCanonicalizePath.
-[[nodiscard]] std::u16string gCanonicalForm(std::u16string_view sPath);
+[[nodiscard]] std::u16string gCanonicalForm(std::u16string sPath);
 
 /// As gIsAbsolutePath, with the variables being expanded.
 [[nodiscard]] bool gIsAbsoluteText(std::u16string_view sPath, TExpandedNames& rNames);

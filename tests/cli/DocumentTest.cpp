@@ -33,16 +33,39 @@ std::vector<std::string> LinesOfBlocks(const std::string& rsDocument, std::strin
     return lines;
 }
 
-TEST(Documents, TheSessionsTranscriptIsReplayed)
+/// Gives a command the requests of its document, and expects the replies.
+void ExpectTranscript(const std::string& rsCommand)
 {
     std::string sRequests;
     std::string sReplies;
-    for (const std::string& rsLine : LinesOfBlocks("session.md", "```transcript")) {
+    for (const std::string& rsLine : LinesOfBlocks(rsCommand + ".md", "```transcript")) {
         ASSERT_TRUE(rsLine.starts_with("> ") || rsLine.starts_with("< ")) << rsLine;
         (rsLine.front() == '>' ? sRequests : sReplies) += rsLine.substr(2) + '\n';
     }
     ASSERT_FALSE(sRequests.empty());
-    EXPECT_EQ(gRunQuorvawiz({"session"}, sRequests), (TProgramRun{sReplies, "", 0}));
+    EXPECT_EQ(gRunQuorvawiz({rsCommand}, sRequests), (TProgramRun{sReplies, "", 0}));
+}
+
+TEST(Documents, TheSessionsTranscriptIsReplayed)
+{
+    ExpectTranscript("session");
+}
+
+TEST(Documents, TheCallsTranscriptIsReplayed)
+{
+    ExpectTranscript("call");
+}
+
+TEST(Documents, EveryFunctionThatCanBeCalledIsTold)
+{
+    std::ifstream document(QUORVAWIZ_SOURCE_DIR "/docs/call.md");
+    std::string sTold;
+    for (std::string sLine; std::getline(document, sLine);) {
+        const auto nEnd = sLine.find(")` |");
+        if (sLine.starts_with("| `") && nEnd != std::string::npos)
+            sTold += sLine.substr(3, nEnd - 2) + '\n';
+    }
+    EXPECT_EQ(gRunQuorvawiz({"call", "--list"}), (TProgramRun{sTold, "", 0}));
 }
 
 TEST(Documents, TheCommandLinesExamplesAreRun)

@@ -28,6 +28,7 @@ Subcommands:
   describe                    Tell every control of a page
   compose                     Fill in a page and print its command
   session                     Drive the wizard by lines of JSON
+  call                        Call functions of the foundation by lines of JSON
 )");
 }
 
@@ -103,6 +104,30 @@ Each line of the standard input is a request, each gets one line in reply:
   {"op":"set","field":"temperature-list","text":"27"}
   {"op":"insert"}
 The document session.md tells all requests.
+--code-page and --rules may be given, too; quorvawiz --help tells them.
+)");
+}
+
+TEST(Help, Call)
+{
+    ExpectHelp({"call", "--help"}, R"(Call functions of the foundation by lines of JSON
+Usage: quorvawiz call [OPTIONS]
+
+Options:
+  -h,--help                   Print this help and exit
+  --env NAME=VALUE            Set an environment variable; nothing is inherited
+  --digits NUMBER=6           Default digits of formatted numbers
+  --scale KEY=spice           Default scale of formatted numbers
+  --keep-zeros                Keep trailing zeros by default
+  --keep-exponents            Keep zero exponents by default
+  --si                        Parse SI suffixes by default
+  --log                       Tell the path logger's lines in each reply
+  --list                      List the functions and exit
+
+Each line of the standard input is a call, each gets one line in reply:
+  {"fn":"gConcatenatePaths","args":["C:\\a","\\b"]}
+  {"ok":true,"result":"C:\\b"}
+The document call.md tells all functions; --list lists them.
 --code-page and --rules may be given, too; quorvawiz --help tells them.
 )");
 }

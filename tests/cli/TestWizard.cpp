@@ -32,7 +32,7 @@ constexpr auto kSweepRows =
              Row(kMore, "more", EControl::PushButton, "&More", At(2)),
              Row(IDOK, "accept", EControl::PushButton, "&Accept", At(3)),
              Row(IDCANCEL, "cancel", EControl::PushButton, "&Cancel", At(4)));
-constexpr DialogTemplate kSweepTemplate{901, "Sweep", {120, 80}, kSweepRows};
+constexpr DialogTemplate kSweepTemplate{"Sweep", {120, 80}, kSweepRows};
 } // namespace
 
 class CTestSweepDlg : public CDialog
@@ -102,10 +102,11 @@ enum EPageId {
 };
 constexpr const char* kKinds[] = {"linear", "decade", "octave"};
 constexpr const char* kNodes[] = {"in", "out"};
-constexpr TGrid kGrid{5, 40, 50, 60, 112, 20, 12, 12};
+constexpr TControlRow kNameRow = Row(kName, "name", EControl::Edit, "", {50, 12, 60, 13});
 
 constexpr auto kRows = JoinRows(
-    EditLineWithUnit(kGrid, 0, kName, "name", "&Name:", "V"),
+    LabelFor(kNameRow, "&Name:", {5, 14, 40, 9}), kNameRow,
+    UnitFor(kNameRow, "V", {112, 14, 20, 9}),
     LabelAbove(Row(kLines, "lines", EControl::MultilineEdit, "", At(2)), "&Lines:"),
     LabelAbove(Row(kKind, "kind", EControl::DropDownList, "", At(3), 0, 0, kKinds), "&Kind:"),
     LabelAbove(Row(kNode, "node", EControl::DropDown, "", At(4), 0, 0, kNodes), "N&ode:"),
@@ -127,7 +128,7 @@ constexpr auto kRows = JoinRows(
     Row(kTabs, "tabs", EControl::Tabs, "", At(16), kUnlabelled),
     Row(kGroup, "group", EControl::Group, "Group", At(17)),
     Row(kNote, "note", EControl::Static, "a note", At(17)));
-constexpr DialogTemplate kTemplate{902, "All kinds", kPageSize, kRows};
+constexpr DialogTemplate kTemplate{"All kinds", kPageSize, kRows};
 
 struct TFields {
     CString msName;
@@ -253,9 +254,9 @@ constexpr auto kLoneRows = JoinRows(
     Row(kAc, "two-lines", EControl::CheckBox, "Two\nlines", At(4)),
     Row(kNote, "note", EControl::Static,
         "1234567890 234567890 234567890 2345\u00e7\u00e8\u00e9\n\u00ea and no more", At(5)));
-constexpr DialogTemplate kLoneTemplate{903, "Lone", kPageSize, kLoneRows};
+constexpr DialogTemplate kLoneTemplate{"Lone", kPageSize, kLoneRows};
 constexpr std::array kCategoryRows{Row(1, "heading", EControl::Static, "Tests", At(1))};
-constexpr DialogTemplate kCategoryTemplate{904, "Tests", kPageSize, kCategoryRows};
+constexpr DialogTemplate kCategoryTemplate{"Tests", kPageSize, kCategoryRows};
 } // namespace
 
 class CTestLonePage : public CCommandPage

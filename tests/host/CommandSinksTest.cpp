@@ -2,10 +2,10 @@
 
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
-#include "support/Unprivileged.h"
-#include "host/WizardUser.h"
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/WizardAlone.h"
+#include "quorvahost/tour/WizardUser.h"
+#include "support/Unprivileged.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFileInfo>
+#include <QKeySequence>
 #include <functional>
 #include <vector>
 

@@ -15,6 +15,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QDropEvent>
 #include <QKeySequence>
 #include <QLabel>
@@ -57,6 +58,7 @@ protected:
             auto* const pBox = qobject_cast<QMessageBox*>(&rBox);
             ASSERT_NE(pBox, nullptr);
             EXPECT_THAT(pBox->text().toStdString(), HasSubstr(pPart));
+            EXPECT_EQ(pBox->textFormat(), Qt::PlainText);
             mUser.Press(rAnswer);
         });
     }
@@ -226,6 +228,32 @@ TEST_F(HostWindow, AFileThatVanishedIsWrittenAgain)
     mUser.Type(QStringLiteral("x"));
     mUser.Press(QKeySequence::Save);
     EXPECT_EQ(CFileFolder::Read(sPath), "xold");
+}
+
+TEST_F(HostWindow, AFolderThatVanishedLeavesTheWorkInTheEditor)
+{
+    ASSERT_TRUE(QDir(mFolder.Path()).mkdir(QStringLiteral("away")));
+    const QString sPath = mFolder.Write("away/a.cir", "old");
+    ASSERT_TRUE(mpWindow->OpenFile(sPath));
+    ASSERT_TRUE(QDir(mFolder.Path("away")).removeRecursively());
+    mUser.Type(QStringLiteral("x"));
+    MeetBox("No such file or directory", QKeySequence(Qt::Key_Return));
+    mUser.Press(QKeySequence::Save);
+    EXPECT_TRUE(mpWindow->isWindowModified());
+    EXPECT_EQ(Edit().Text(), QStringLiteral("xold"));
+    MeetFileDialog(mFolder.Path("b.cir"));
+    mUser.Press(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    EXPECT_EQ(CFileFolder::Read(mFolder.Path("b.cir")), "xold");
+    EXPECT_FALSE(mpWindow->isWindowModified());
+}
+
+TEST_F(HostWindow, AFileNameIsNoMarkup)
+{
+    const QString sPath = mFolder.Write("<b>a &amp; b.cir", "old");
+    ASSERT_TRUE(mpWindow->OpenFile(sPath));
+    mUser.Type(QStringLiteral("x"));
+    MeetBox("\"<b>a &amp; b.cir\" has changes", QKeySequence(Qt::Key_Escape));
+    mUser.Press(QKeySequence::New);
 }
 
 TEST_F(HostWindow, WhatAnotherProgramWroteIsNotReplacedUnasked)

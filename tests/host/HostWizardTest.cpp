@@ -1,9 +1,9 @@
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
-#include "host/WizardUser.h"
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/HostWindow.h"
 #include "quorvahost/NetlistEdit.h"
+#include "quorvahost/tour/WizardUser.h"
 
 #include <gtest/gtest.h>
 
@@ -113,6 +113,34 @@ TEST_F(HostWizard, ClosingTheHostEndsABoxOfTheWizardToo)
     });
     EXPECT_FALSE(mpWindow->isVisible());
     EXPECT_TRUE(mDesktop.Thread().mModalRuns.empty());
+}
+
+TEST_F(HostWizard, AFileThatVanishesMeanwhileIsWrittenAgain)
+{
+    const QString sPath = mFolder.Write("a.cir", "title\n");
+    ASSERT_TRUE(mpWindow->OpenFile(sPath));
+    InWizard([&](QWidget& rWizard) {
+        ASSERT_TRUE(QFile::remove(sPath));
+        mUser.InsertTemperature(rWizard, "27");
+        mUser.Press(QKeySequence(Qt::Key_Escape));
+    });
+    mUser.Press(QKeySequence::Save);
+    EXPECT_EQ(CFileFolder::Read(sPath), "title\n.temp 27\n");
+}
+
+TEST_F(HostWizard, ANetlistOfFiftyMegabytesTakesACommand)
+{
+    const QByteArray line("R12345 net_a_12345 net_b_12345 1.5k tc1=0.001 $ one of very many\n");
+    const QByteArray lines = line.repeated(50'000'000 / line.size());
+    const QString sPath = mFolder.Write("large.cir", lines);
+    ASSERT_TRUE(mpWindow->OpenFile(sPath));
+    mUser.Press(QKeySequence(Qt::CTRL | Qt::Key_End));
+    InWizard([this](QWidget& rWizard) {
+        mUser.InsertTemperature(rWizard, "27");
+        mUser.Press(QKeySequence(Qt::Key_Escape));
+    });
+    mUser.Press(QKeySequence::Save);
+    EXPECT_TRUE(CFileFolder::Read(sPath) == lines + ".temp 27");
 }
 
 TEST_F(HostWizard, DeletingTheHostEndsTheWizard)

@@ -1,12 +1,12 @@
 #include "exports/Quorvawiz.h"
 #include "host/FileFolder.h"
-#include "host/WizardUser.h"
 #include "platform/base/Exceptions.h"
 #include "platform/base/ExtensionModule.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/ui/Button.h"
 #include "platform/ui/Dialog.h"
 #include "platform/ui/FieldView.h"
+#include "quorvahost/tour/WizardUser.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -10,6 +10,7 @@
 #include <QDialog>
 #include <QThread>
 #include <QTimerEvent>
+#include <QWindow>
 #include <utility>
 
 namespace
@@ -34,22 +35,12 @@ void CPlayer::Play(const std::function<void()>& rRun)
 {
     mWaiting = QDeadlineTimer(kLongestWait);
     mnTimer = startTimer(0);
-    qApp->installEventFilter(this);
     rRun();
-    qApp->removeEventFilter(this);
     killTimer(mnTimer);
     EXPECT_EQ(mnNext, mTurns.size())
         << "the run ended before '" << (mnNext < mTurns.size() ? mTurns[mnNext].sName : "") << "'";
     // What was left to the event loop ends now.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-bool CPlayer::eventFilter(QObject* pObject, QEvent* pEvent)
-{
-    const auto* const pWidget = qobject_cast<const QWidget*>(pObject);
-    if (pEvent->type() == QEvent::Show && pWidget && pWidget->windowType() == Qt::Popup)
-        mbHadPopup = true;
-    return false;
 }
 
 void CPlayer::timerEvent(QTimerEvent*)
@@ -73,15 +64,18 @@ void CPlayer::timerEvent(QTimerEvent*)
 bool CPlayer::IsWindowReady()
 {
     QWidget* const pFront = QApplication::activeModalWidget();
-    // A window system gives the keyboard back when a menu closes; without a screen nobody does.
-    if (!QGuiApplication::focusWindow() && !QApplication::activePopupWidget() && pFront &&
-        std::exchange(mbHadPopup, false))
-        pFront->activateWindow();
-    if (QGuiApplication::focusWindow()) {
+    const QWindow* const pFocus = QGuiApplication::focusWindow();
+    // The keys of an open list come through the window behind it.
+    if (pFocus &&
+        (QApplication::activePopupWidget() || !pFront || pFocus == pFront->windowHandle())) {
         if (mnNext < mTurns.size())
             mWaiting = QDeadlineTimer(kLongestWait);
         return true;
     }
+    // A window manager gives the keyboard to what opens in front, and back when that closes. There
+    // is none here.
+    if (pFront && pFront->windowHandle() && pFront->windowHandle()->isExposed())
+        pFront->activateWindow();
     if (!mWaiting.hasExpired())
         return false;
     ADD_FAILURE() << "the window in front never became active";

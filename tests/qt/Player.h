@@ -30,7 +30,6 @@ public:
     void Play(const std::function<void()>& rRun);
 
 protected:
-    bool eventFilter(QObject* pObject, QEvent* pEvent) override;
     void timerEvent(QTimerEvent* pEvent) override;
 
 private:
@@ -48,7 +47,6 @@ private:
     std::size_t mnNext = 0;
     int mnTimer = 0;
     QDeadlineTimer mWaiting;
-    bool mbHadPopup = false;
     int mnBusyLevel = -1; ///< the level of the event loop in which a turn is under way
 };
 

@@ -3,6 +3,7 @@
 #include "platform/ui/Button.h"
 #include "platform/ui/ComboBox.h"
 #include "platform/ui/FieldView.h"
+#include "platform/ui/ListBox.h"
 
 #include <gtest/gtest.h>
 
@@ -77,9 +78,25 @@ CScript::TAction Entries(std::string sKey, std::vector<std::string> entries)
 {
     return At(std::move(sKey), [entries = std::move(entries)](const TFieldView& rField) {
         std::vector<std::string> found;
-        for (const CString& rsEntry : dynamic_cast<CComboBox&>(*rField.pControl).GetItems())
-            found.emplace_back(rsEntry.GetString());
+        if (auto* const pList = dynamic_cast<CListBox*>(rField.pControl)) {
+            for (int n = 0; n < pList->GetCount(); ++n)
+                found.emplace_back(pList->GetText(n).GetString());
+        } else {
+            for (const CString& rsEntry : dynamic_cast<CComboBox&>(*rField.pControl).GetItems())
+                found.emplace_back(rsEntry.GetString());
+        }
         EXPECT_EQ(found, entries);
+    });
+}
+
+CScript::TAction Selected(std::string sKey, int nIndex)
+{
+    return At(std::move(sKey), [nIndex](const TFieldView& rField) {
+        if (const auto* const pList = dynamic_cast<CListBox*>(rField.pControl)) {
+            EXPECT_EQ(pList->GetCurSel(), nIndex);
+        } else {
+            EXPECT_EQ(dynamic_cast<CComboBox&>(*rField.pControl).GetCurSel(), nIndex);
+        }
     });
 }
 

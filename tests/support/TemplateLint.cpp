@@ -1,6 +1,7 @@
 #include "support/TemplateLint.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <set>
 #include <string_view>
@@ -15,31 +16,6 @@ std::string Name(const TControlRow& rRow)
     return "'" + std::string(rRow.pKey) + "' (" + std::to_string(rRow.nId) + ")";
 }
 
-bool IsInput(EControl kind)
-{
-    switch (kind) {
-    case EControl::Edit:
-    case EControl::MultilineEdit:
-    case EControl::DropDownList:
-    case EControl::DropDown:
-    case EControl::ListBox:
-    case EControl::Tree:
-    case EControl::Table:
-        return true;
-    case EControl::Label:
-    case EControl::Static:
-    case EControl::Group:
-    case EControl::Frame:
-    case EControl::PushButton:
-    case EControl::DefaultButton:
-    case EControl::CheckBox:
-    case EControl::RadioButton:
-    case EControl::Tabs:
-        return false;
-    }
-    return false;
-}
-
 bool HasOwnText(EControl kind)
 {
     return kind == EControl::PushButton || kind == EControl::DefaultButton ||
@@ -48,7 +24,8 @@ bool HasOwnText(EControl kind)
 
 bool IsTabStop(EControl kind)
 {
-    return IsInput(kind) || kind == EControl::Tabs || (HasOwnText(kind) && kind != EControl::Group);
+    return gIsInput(kind) || kind == EControl::Tabs ||
+           (HasOwnText(kind) && kind != EControl::Group);
 }
 
 /// The least height in dialog units at which the kind's text isn't clipped; 0: no text of one line.
@@ -119,7 +96,7 @@ void LintLabels(const DialogTemplate& rTemplate, TFindings& rFindings)
             labels[rRow.nId] = &rRow;
         const bool bUnlabelled = (rRow.nFlags & kUnlabelled) != 0;
         bool bLabelled = *rRow.pLabel != 0;
-        if (IsInput(rRow.kind)) {
+        if (gIsInput(rRow.kind)) {
             const auto label = labels.find(LabelOf(rRow.nId));
             bLabelled = label != labels.end() && *label->second->pLabel != 0;
         } else if (!HasOwnText(rRow.kind)) {
@@ -141,13 +118,23 @@ void LintLabels(const DialogTemplate& rTemplate, TFindings& rFindings)
     }
 }
 
+/// How far a rectangle reaches beyond one around it.
+int Outside(const TRect& rWhole, const TRect& rRect)
+{
+    return std::max({rWhole.x - rRect.x, rWhole.y - rRect.y, rRect.Right() - rWhole.Right(),
+                     rRect.Bottom() - rWhole.Bottom()});
+}
+
 void LintPlaces(const DialogTemplate& rTemplate, TFindings& rFindings)
 {
     const TRect whole{0, 0, rTemplate.size.cx, rTemplate.size.cy};
     const auto rows = rTemplate.rows;
     for (std::size_t a = 0; a < rows.size(); ++a) {
-        if (!whole.Contains(rows[a].rect) || rows[a].rect.w <= 0 || rows[a].rect.h <= 0)
-            rFindings.push_back(Name(rows[a]) + " lies outside the dialog or is empty");
+        if (rows[a].rect.w <= 0 || rows[a].rect.h <= 0)
+            rFindings.push_back(Name(rows[a]) + " is empty");
+        if (const int nOutside = Outside(whole, rows[a].rect); nOutside > 0)
+            rFindings.push_back(Name(rows[a]) + " reaches " + std::to_string(nOutside) +
+                                " units beyond the dialog");
         if (rows[a].rect.h < LeastHeight(rows[a].kind))
             rFindings.push_back(Name(rows[a]) + " is too low for its text");
         for (std::size_t b = a + 1; b < rows.size(); ++b) {
@@ -196,26 +183,31 @@ TRows ReadingOrder(const DialogTemplate& rTemplate, bool bColumns)
     for (const TControlRow& rRow : rTemplate.rows)
         if (rRow.kind == EControl::Group)
             groups.push_back(&rRow);
-    TRows outside = groups;
+    // The smallest group around a row, or null.
+    const auto around = [&groups](const TControlRow& rRow) {
+        const TControlRow* pInnermost = nullptr;
+        for (const TControlRow* pGroup : groups)
+            if (pGroup != &rRow && pGroup->rect.Contains(rRow.rect) &&
+                CanBeVisibleTogether(*pGroup, rRow) &&
+                (!pInnermost || pInnermost->rect.Contains(pGroup->rect)))
+                pInnermost = pGroup;
+        return pInnermost;
+    };
     std::map<const TControlRow*, TRows> inside;
-    for (const TControlRow& rRow : rTemplate.rows) {
-        if (!IsTabStop(rRow.kind))
-            continue;
-        const auto group = std::ranges::find_if(groups, [&rRow](const TControlRow* pGroup) {
-            return pGroup->rect.Contains(rRow.rect) && CanBeVisibleTogether(*pGroup, rRow);
-        });
-        (group == groups.end() ? outside : inside[*group]).push_back(&rRow);
-    }
-    sort(outside);
+    for (const TControlRow& rRow : rTemplate.rows)
+        if (IsTabStop(rRow.kind) || rRow.kind == EControl::Group)
+            inside[around(rRow)].push_back(&rRow);
     TRows order;
-    for (const TControlRow* pRow : outside) {
-        if (pRow->kind != EControl::Group) {
-            order.push_back(pRow);
-            continue;
-        }
-        sort(inside[pRow]);
-        order.insert(order.end(), inside[pRow].begin(), inside[pRow].end());
-    }
+    const std::function<void(const TControlRow*)> read = [&](const TControlRow* pAround) {
+        TRows rows = inside[pAround];
+        sort(rows);
+        for (const TControlRow* pRow : rows)
+            if (pRow->kind == EControl::Group)
+                read(pRow);
+            else
+                order.push_back(pRow);
+    };
+    read(nullptr);
     return order;
 }
 
@@ -229,15 +221,39 @@ bool IsRotation(TRows order, const TRows& rWanted)
     return order == rWanted;
 }
 
-void LintTabOrder(const DialogTemplate& rTemplate, TFindings& rFindings)
+/// What is wrong with the order of the tab stops, or an empty text.
+std::string OrderFinding(const DialogTemplate& rTemplate)
 {
     TRows order;
     for (const TControlRow& rRow : rTemplate.rows)
         if (IsTabStop(rRow.kind))
             order.push_back(&rRow);
-    if (!IsRotation(order, ReadingOrder(rTemplate, false)) &&
-        !IsRotation(order, ReadingOrder(rTemplate, true)))
-        rFindings.push_back("the tab order isn't the reading order");
+    const TRows wanted = ReadingOrder(rTemplate, false);
+    if (IsRotation(order, wanted) || IsRotation(order, ReadingOrder(rTemplate, true)))
+        return {};
+    std::string sFinding = "the tab order isn't the reading order:";
+    for (const TControlRow* pRow : wanted)
+        sFinding += ' ' + Name(*pRow);
+    return sFinding;
+}
+
+void LintTabOrder(const DialogTemplate& rTemplate, TFindings& rFindings)
+{
+    unsigned nLayers = 0;
+    for (const TControlRow& rRow : rTemplate.rows)
+        nLayers |= rRow.nLayers;
+    // Layer by layer: what is never seen together has no order.
+    for (unsigned nLayer = 1; nLayer != 0 && (nLayer == 1 || nLayer <= nLayers); nLayer <<= 1) {
+        std::vector<TControlRow> rows;
+        for (const TControlRow& rRow : rTemplate.rows)
+            if (rRow.nLayers == 0 || (rRow.nLayers & nLayer) != 0)
+                rows.push_back(rRow);
+        std::string sFinding = OrderFinding({rTemplate.pCaption, rTemplate.size, rows});
+        if (!sFinding.empty()) {
+            rFindings.push_back(std::move(sFinding));
+            return;
+        }
+    }
 }
 } // namespace
 

@@ -1,6 +1,8 @@
 #include "support/WizardRun.h"
 
 #include "exports/Quorvawiz.h"
+#include "platform/ui/Translate.h"
+#include "support/Steps.h"
 #include "wizard/frame/SinglePageDlg.h"
 
 #include <gtest/gtest.h>
@@ -19,6 +21,13 @@ CScript& CScript::Do(std::vector<TStep> steps)
         });
     }
     return *this;
+}
+
+CScript& CScript::Answer(std::vector<bool> answers)
+{
+    return Then([answers = std::move(answers)](CDialog&) {
+        dynamic_cast<HeadlessDesktop&>(gDesktop()).SetAnswers({answers.begin(), answers.end()});
+    });
 }
 
 CScript& CScript::Refused(TStep step, EStepEnd end, EUserResult refusal)
@@ -95,6 +104,21 @@ TWizardOutcome gRunSinglePage(std::string_view sClass, CScript script)
     return Run(script, [pClass](quorvawiz::QuorvaCommandWizardTarget& rTarget) {
         CSinglePageDlg(nullptr, &rTarget, *pClass).DoModal();
     });
+}
+
+TWizardOutcome gCompose(const std::string& rsPage, std::vector<std::string> arguments)
+{
+    const std::size_t nSlash = rsPage.find('/');
+    CScript script;
+    if (nSlash == std::string::npos)
+        return gRunSinglePage(rsPage,
+                              script.Fill(std::move(arguments)).Do({steps::Click("insert")}));
+    const auto translated = [](const std::string& rsLabel) {
+        return xlang::gTranslate((std::string(xlang::kTranslationMarker) + rsLabel).c_str());
+    };
+    script.Do({steps::Open(translated(rsPage.substr(0, nSlash)) + "/" +
+                           translated(rsPage.substr(nSlash + 1)))});
+    return gRunWizard(script.Fill(std::move(arguments)).Do({steps::Click("insert")}));
 }
 
 CTreeDlg& gOpenWizard()

@@ -29,6 +29,12 @@ public:
     CScript& Do(std::vector<TStep> steps);
     /// A step that must end in this way and change nothing.
     CScript& Refused(TStep step, EStepEnd end, EUserResult refusal = EUserResult::Done);
+    /// Fills in fields, written as for the command line: `key=value` (an entry or a radio button
+    /// by its text or as `#index`, a check box `on` or `off`, LF between lines), `button` to press
+    /// it, `button.key=value` in the dialog that it opens and that is accepted at the end.
+    CScript& Fill(std::vector<std::string> arguments);
+    /// Says what the user answers to the questions from here on: true for yes.
+    CScript& Answer(std::vector<bool> answers);
     /// Anything else: a look at the dialog, or a call of it.
     CScript& Then(TAction action);
     /// Several looks, one after the other.
@@ -55,6 +61,10 @@ TWizardOutcome gRunWizard(std::vector<TStep> steps);
 /// Runs the page of this class, which no node of the wizard's tree leads to, in a dialog of its
 /// own.
 TWizardOutcome gRunSinglePage(std::string_view sClass, CScript script);
+
+/// Opens a page, fills it in as `CScript::Fill` does, and inserts.
+/// `rsPage`: its path in the tree, in English in every language, or its class if it has no node.
+TWizardOutcome gCompose(const std::string& rsPage, std::vector<std::string> arguments);
 
 /// The wizard among the open dialogs: the outermost one.
 CTreeDlg& gOpenWizard();

@@ -24,8 +24,10 @@ public:
     {
         if (mnLeft-- <= 0)
             return false;
-        const TStep step = RandomStep(rDialog);
-        gRunStep(rDialog, step);
+        if (Below(100) == 0)
+            FillIn(rDialog);
+        else
+            gRunStep(rDialog, RandomStep(rDialog));
         ++mnActions;
         LookAt();
         return !testing::Test::HasFailure();
@@ -35,6 +37,15 @@ public:
     int CountActions() const { return mnActions; }
 
 private:
+    /// Wild fingers alone seldom complete a page.
+    static void FillIn(CDialog& rDialog)
+    {
+        for (const TFieldView& rField : gCollectFields(gCurrentPane(rDialog)))
+            if (rField.kind == EControl::Edit || rField.kind == EControl::MultilineEdit)
+                gRunStep(rDialog, steps::Set(std::string(rField.sKey), "v1 v2"));
+        gRunStep(rDialog, steps::Click("insert"));
+    }
+
     int Below(int n) { return std::uniform_int_distribution<int>(0, n - 1)(mRandom); }
 
     CString RandomText()

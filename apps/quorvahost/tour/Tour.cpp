@@ -23,22 +23,6 @@ void Expect(bool bTrue, const char* pWhat)
     if (!bTrue)
         throw CUserError(std::string("expected: ") + pWhat);
 }
-
-/// The control of a key, if it is on the screen; not the label, which has the same one.
-QWidget* FindControl(const QWidget& rWindow, const char* pKey)
-{
-    for (auto* const pControl : rWindow.findChildren<QWidget*>(QString::fromLatin1(pKey)))
-        if (pControl->isVisible() && pControl->focusPolicy() != Qt::NoFocus)
-            return pControl;
-    return nullptr;
-}
-
-QWidget& Control(const QWidget& rWindow, const char* pKey)
-{
-    QWidget* const pControl = FindControl(rWindow, pKey);
-    Expect(pControl, pKey);
-    return *pControl;
-}
 } // namespace
 
 CTour::CTour(CHostWindow& rWindow, QString sFile, QString sFolder)
@@ -56,6 +40,7 @@ void CTour::Run()
     VisitToolsMenu();
     VisitFindBar();
     VisitFileDialogs();
+    VisitAbout();
     Leave();
 }
 
@@ -90,14 +75,19 @@ void CTour::VisitToolsMenu()
 void CTour::VisitWizard(QWidget& rWizard)
 {
     Picture(rWizard, "wizard");
+    // The wizard stays open from one command to the next.
+    InsertTemperature(rWizard);
+    InsertTransient(rWizard);
+    InsertAC(rWizard);
+    InsertDC(rWizard);
+    mUser.Press(QKeySequence(Qt::Key_Escape));
+}
+
+void CTour::InsertTemperature(QWidget& rWizard)
+{
     mUser.Type(QStringLiteral("Settings"));
     Picture(rWizard, "settings");
-    mUser.Press(QKeySequence(Qt::Key_Right));
-    constexpr int kMostPages = 12;
-    for (int i = 0; i < kMostPages && !FindControl(rWizard, "temperature-list"); ++i) {
-        mUser.Press(QKeySequence(Qt::Key_Down));
-    }
-    CUser::Click(Control(rWizard, "temperature-list"));
+    mUser.OpenPage(rWizard, QStringLiteral("Settings"), QStringLiteral("Temperature"));
 
     // Nothing is filled in.
     mUser.Meet([this](QWidget& rBox) {
@@ -106,17 +96,69 @@ void CTour::VisitWizard(QWidget& rWizard)
     });
     mUser.Press(QKeySequence(Qt::ALT | Qt::Key_I));
 
-    CUser::Click(Control(rWizard, "temperature-list"));
-    mUser.Type(QStringLiteral("0 27 85"));
-    CUser::Click(Control(rWizard, "insert"));
+    mUser.Fill(rWizard, "temperature-list", QStringLiteral("0 27 85"));
+    CUser::Click(CWizardUser::Control(rWizard, "insert"));
     Picture(rWizard, "temperature");
+}
 
-    // The wizard stays open for the next one.
-    CUser::Click(Control(rWizard, "temperature-list"));
-    mUser.Press(QKeySequence::SelectAll);
-    mUser.Type(QStringLiteral("-40 125"));
+/// By keys alone, with a sweep in a dialog of its own.
+void CTour::InsertTransient(QWidget& rWizard)
+{
+    mUser.OpenPage(rWizard, QStringLiteral("Analysis"), QStringLiteral("Transient"));
+    mUser.Press(QKeySequence(Qt::ALT | Qt::Key_M));
+    mUser.Type(QStringLiteral("1u"));
+    mUser.Press(QKeySequence(Qt::Key_Tab));
+    mUser.Type(QStringLiteral("800u"));
+    mUser.Meet([this](QWidget& rSweep) {
+        mUser.Press(QKeySequence(Qt::ALT | Qt::Key_M));
+        mUser.Type(QStringLiteral("rs"));
+        mUser.Press(QKeySequence(Qt::ALT | Qt::Key_R));
+        mUser.Type(QStringLiteral("5k"));
+        mUser.Press(QKeySequence(Qt::Key_Tab));
+        mUser.Type(QStringLiteral("20k"));
+        mUser.Press(QKeySequence(Qt::ALT | Qt::Key_C));
+        mUser.Type(QStringLiteral("5k"));
+        Picture(rSweep, "sweep");
+        mUser.Press(QKeySequence(Qt::ALT | Qt::Key_A));
+    });
+    mUser.Press(QKeySequence(Qt::ALT | Qt::Key_S));
     mUser.Press(QKeySequence(Qt::ALT | Qt::Key_I));
-    mUser.Press(QKeySequence(Qt::Key_Escape));
+    Picture(rWizard, "transient");
+}
+
+/// With the mouse, through the button of the category's page.
+void CTour::InsertAC(QWidget& rWizard)
+{
+    CUser::Click(CWizardUser::Control(rWizard, "tree"));
+    mUser.Press(QKeySequence(Qt::Key_Home));
+    Picture(rWizard, "analysis");
+    CUser::Click(CWizardUser::Control(rWizard, "button-1"));
+    mUser.Press(QKeySequence(Qt::ALT | Qt::Key_F));
+    mUser.Type(QStringLiteral("decade"));
+    mUser.Fill(rWizard, "number-of-samples", QStringLiteral("20"));
+    mUser.Fill(rWizard, "start-frequency", QStringLiteral("10"));
+    mUser.Fill(rWizard, "final-frequency", QStringLiteral("1meg"));
+    CUser::Click(CWizardUser::Control(rWizard, "insert"));
+    Picture(rWizard, "ac");
+}
+
+/// A sweep of a source, which is all of the command.
+void CTour::InsertDC(QWidget& rWizard)
+{
+    mUser.OpenPage(rWizard, QStringLiteral("Analysis"), QStringLiteral("DC transfer sweep"));
+    mUser.Meet([this](QWidget& rSweep) {
+        mUser.Press(QKeySequence(Qt::ALT | Qt::Key_P));
+        mUser.Type(QStringLiteral("Source"));
+        mUser.Fill(rSweep, "parameter-name", QStringLiteral("V1"));
+        mUser.Fill(rSweep, "start", QStringLiteral("0"));
+        mUser.Fill(rSweep, "stop", QStringLiteral("1"));
+        mUser.Fill(rSweep, "number-of-points", QStringLiteral("11"));
+        Picture(rSweep, "dc-sweep");
+        CUser::Click(CWizardUser::Control(rSweep, "accept"));
+    });
+    CUser::Click(CWizardUser::Control(rWizard, "sweep-1"));
+    CUser::Click(CWizardUser::Control(rWizard, "insert"));
+    Picture(rWizard, "dc");
 }
 
 void CTour::VisitFindBar()
@@ -144,6 +186,21 @@ void CTour::VisitFileDialogs()
     mUser.Press(QKeySequence::New);
     mUser.RethrowFailure();
     Expect(mUser.HasMetAll(), "a dialog for a file, and a question about unsaved work");
+}
+
+void CTour::VisitAbout()
+{
+    mUser.Meet([this](QWidget&) {
+        mUser.Meet([this](QWidget& rBox) {
+            Picture(rBox, "about");
+            mUser.Press(QKeySequence(Qt::Key_Escape));
+        });
+        mUser.Press(QKeySequence(Qt::Key_A));
+    });
+    mUser.Press(QKeySequence(Qt::ALT | Qt::Key_H));
+    CUser::Settle();
+    mUser.RethrowFailure();
+    Expect(mUser.HasMetAll(), "Help > About");
 }
 
 void CTour::Leave()

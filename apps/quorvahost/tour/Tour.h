@@ -1,6 +1,6 @@
 #pragma once
 
-#include "quorvahost/tour/User.h"
+#include "quorvahost/tour/WizardUser.h"
 
 #include <QString>
 
@@ -25,8 +25,13 @@ private:
     void VisitEditor();
     void VisitToolsMenu();
     void VisitWizard(QWidget& rWizard);
+    void InsertTemperature(QWidget& rWizard);
+    void InsertTransient(QWidget& rWizard);
+    void InsertAC(QWidget& rWizard);
+    void InsertDC(QWidget& rWizard);
     void VisitFindBar();
     void VisitFileDialogs();
+    void VisitAbout();
     void Leave();
 
     /// Keeps a picture of a window, with another one in front of it if there is one.
@@ -35,7 +40,7 @@ private:
     CHostWindow& mrWindow;
     QString msFile;
     QString msFolder;
-    CUser mUser;
+    CWizardUser mUser;
     int mnPictures = 0;
 };
 

@@ -18,16 +18,28 @@ namespace quorvawiz::host
 {
 namespace
 {
-/// What a window manager does when the active window closes.
-void ActivateAWindow()
+/// What a window manager does when a window opens in front, or the active one closes. A window
+/// system takes its time to give the keyboard away.
+void ActivateFront()
 {
-    QWidget* pNext = QApplication::activeModalWidget();
+    QWidget* pFront = QApplication::activeModalWidget();
     for (QWidget* const pWindow : QApplication::topLevelWidgets())
-        if (!pNext && pWindow->isVisible() && pWindow->windowType() == Qt::Window)
-            pNext = pWindow;
-    if (pNext)
-        pNext->activateWindow();
-    CUser::Settle();
+        if (!pFront && pWindow->isVisible() && pWindow->windowType() == Qt::Window)
+            pFront = pWindow;
+    if (!pFront || !QTest::qWaitForWindowExposed(pFront))
+        return;
+    pFront->activateWindow();
+    if (QTest::qWaitForWindowActive(pFront))
+        CUser::Settle();
+}
+
+/// The keys of an open menu come through the window behind it.
+bool HasFrontTheKeyboard()
+{
+    const QWindow* const pFocus = QGuiApplication::focusWindow();
+    const QWidget* const pModal = QApplication::activeModalWidget();
+    return pFocus &&
+           (QApplication::activePopupWidget() || !pModal || pFocus == pModal->windowHandle());
 }
 
 /// File dialogs keep some of their buttons down.
@@ -42,8 +54,8 @@ qsizetype CountButtonsThatAreDown()
 
 QWindow* Receiver()
 {
-    if (!QGuiApplication::focusWindow())
-        ActivateAWindow();
+    if (!HasFrontTheKeyboard())
+        ActivateFront();
     QWindow* const pWindow = QGuiApplication::focusWindow();
     if (!pWindow)
         throw CUserError("no window has the keyboard");

@@ -20,7 +20,7 @@ constexpr int kExitUsage = 2;
 
 QPalette DarkPalette()
 {
-    const QColor ground(0x2B2D30), base(0x1E1F22), text(0xDFE1E5), faint(0x7A7E85);
+    const QColor ground(0x35373B), base(0x1E1F22), text(0xDFE1E5), faint(0x7A7E85);
     const QColor highlight(0x2E6FBF);
     QPalette palette(text, ground, ground.lighter(160), base, ground.lighter(120), text, text, base,
                      ground);

@@ -10,8 +10,8 @@ namespace
 class CButtonPeer : public TWidgetPeer<CButton, QPushButton>
 {
 public:
-    CButtonPeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QPushButton(gParentWidgetOf(rWnd)))
+    CButtonPeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QPushButton(gParentWidgetOf(rWnd)))
     {
         Widget().setAutoDefault(false);
         Widget().setDefault(rWnd.GetKind() == EControl::DefaultButton);
@@ -24,7 +24,7 @@ protected:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindButton(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindButton(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CButtonPeer>(rDesktop, rWnd);
+    return std::make_unique<CButtonPeer>(rEntry, rWnd);
 }

@@ -10,8 +10,8 @@ namespace
 class CCheckBoxPeer : public TWidgetPeer<CButton, QCheckBox>
 {
 public:
-    CCheckBoxPeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QCheckBox(gParentWidgetOf(rWnd)))
+    CCheckBoxPeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QCheckBox(gParentWidgetOf(rWnd)))
     {
         connect(&Widget(), &QCheckBox::clicked, this,
                 [this] { Act([this] { Model().UserClick(); }); });
@@ -23,7 +23,7 @@ protected:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindCheckBox(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindCheckBox(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CCheckBoxPeer>(rDesktop, rWnd);
+    return std::make_unique<CCheckBoxPeer>(rEntry, rWnd);
 }

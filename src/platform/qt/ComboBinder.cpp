@@ -17,8 +17,8 @@ namespace
 class CComboPeer : public TWidgetPeer<CComboBox, QComboBox>
 {
 public:
-    CComboPeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QComboBox(gParentWidgetOf(rWnd))),
+    CComboPeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QComboBox(gParentWidgetOf(rWnd))),
           mpItems(new CItemListModel([this] { return Model().GetItems(); }, &Widget()))
     {
         Widget().setModel(mpItems);
@@ -128,7 +128,7 @@ private:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindCombo(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindCombo(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CComboPeer>(rDesktop, rWnd);
+    return std::make_unique<CComboPeer>(rEntry, rWnd);
 }

@@ -1,9 +1,10 @@
 #include "platform/qt/DialogPeer.h"
 
+#include "platform/qt/ModelEntry.h"
 #include "platform/qt/OwnedWindow.h"
-#include "platform/qt/QtDesktop.h"
 #include "platform/qt/QtText.h"
 #include "platform/ui/Dialog.h"
+#include "platform/ui/UiThread.h"
 
 #include <QCloseEvent>
 #include <QDialog>
@@ -53,8 +54,8 @@ private:
     QPointer<CDialogPeer> mpPeer;
 };
 
-CDialogPeer::CDialogPeer(QtDesktop& rDesktop, CDialog& rDialog)
-    : CQtPeer(rDesktop, rDialog, new CWindow), mrDialog(rDialog),
+CDialogPeer::CDialogPeer(CModelEntry& rEntry, CDialog& rDialog)
+    : CQtPeer(rEntry, rDialog, new CWindow), mrDialog(rDialog),
       mpOwner(gOwnerWidgetOf(rDialog.GetOwner())), mUnits(gDialogUnitsOf(GetWidget()->font()))
 {
     static_cast<CWindow*>(GetWidget())->SetPeer(*this);
@@ -95,12 +96,12 @@ void CDialogPeer::FollowFont()
 
 bool CDialogPeer::IsInFront() const
 {
-    const TUiThread& rThread = Desktop().Thread();
+    const TUiThread& rThread = Entry().Thread();
     return rThread.mnOpenBoxes == 0 && rThread.FrontWindow() == &mrDialog;
 }
 
 void CDialogPeer::Close()
 {
     if (IsInFront())
-        Desktop().EnterModel([this] { mrDialog.SendMessage(WM_SYSCOMMAND, SC_CLOSE); });
+        Entry().Enter([this] { mrDialog.SendMessage(WM_SYSCOMMAND, SC_CLOSE); });
 }

@@ -12,7 +12,7 @@ class CDialog;
 class CDialogPeer : public CQtPeer
 {
 public:
-    CDialogPeer(QtDesktop& rDesktop, CDialog& rDialog);
+    CDialogPeer(CModelEntry& rEntry, CDialog& rDialog);
 
     /// The widget of the window that the dialog belongs to; null when there is none, or no more.
     QWidget* GetOwnerWidget() const { return mpOwner; }

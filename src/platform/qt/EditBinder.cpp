@@ -13,8 +13,8 @@ namespace
 class CEditPeer : public TWidgetPeer<CEdit, QLineEdit>
 {
 public:
-    CEditPeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QLineEdit(gParentWidgetOf(rWnd)))
+    CEditPeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QLineEdit(gParentWidgetOf(rWnd)))
     {
         Widget().setMaxLength(std::numeric_limits<int>::max());
         Widget().setReadOnly(rWnd.GetControlFlags() & kReadOnly);
@@ -39,7 +39,7 @@ private:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindEdit(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindEdit(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CEditPeer>(rDesktop, rWnd);
+    return std::make_unique<CEditPeer>(rEntry, rWnd);
 }

@@ -2,18 +2,12 @@
 
 #include "platform/qt/QtPeer.h"
 #include "platform/qt/QtText.h"
-#include "platform/ui/Wnd.h"
+#include "platform/ui/FieldView.h"
 
 #include <QLabel>
 
 namespace
 {
-CWnd* LabelOfField(const CWnd& rField)
-{
-    const CWnd* const pPane = rField.GetParent();
-    return pPane ? pPane->GetDlgItem(LabelOf(rField.GetDlgCtrlID())) : nullptr;
-}
-
 QString NameFromKey(const CWnd& rField)
 {
     return QString::fromUtf8(rField.GetKey()).replace(QLatin1Char('-'), QLatin1Char(' '));
@@ -22,7 +16,7 @@ QString NameFromKey(const CWnd& rField)
 
 void gNameField(const CWnd& rField, QWidget& rWidget)
 {
-    const CWnd* const pLabel = LabelOfField(rField);
+    const CWnd* const pLabel = gLabelOf(rField);
     rWidget.setAccessibleName(pLabel ? gWithoutMnemonic(pLabel->GetWindowText())
                                      : NameFromKey(rField));
     const CQtPeer* const pPeer = CQtPeer::Of(pLabel);
@@ -36,7 +30,7 @@ void gRenameFieldOf(const CWnd& rLabel)
         return;
     for (const CWnd* pSibling : rLabel.GetParent()->GetChildren()) {
         const CQtPeer* const pPeer = CQtPeer::Of(pSibling);
-        if (pPeer && pPeer->GetFocusWidget() && LabelOfField(*pSibling) == &rLabel)
+        if (pPeer && pPeer->GetFocusWidget() && gLabelOf(*pSibling) == &rLabel)
             pPeer->GetFocusWidget()->setAccessibleName(gWithoutMnemonic(rLabel.GetWindowText()));
     }
 }

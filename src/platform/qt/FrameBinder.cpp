@@ -9,8 +9,8 @@ namespace
 class CFramePeer : public CQtPeer
 {
 public:
-    CFramePeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : CQtPeer(rDesktop, rWnd, new QWidget(gParentWidgetOf(rWnd)))
+    CFramePeer(CModelEntry& rEntry, CWnd& rWnd)
+        : CQtPeer(rEntry, rWnd, new QWidget(gParentWidgetOf(rWnd)))
     {
         GetWidget()->hide();
     }
@@ -32,7 +32,7 @@ protected:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindFrame(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindFrame(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CFramePeer>(rDesktop, rWnd);
+    return std::make_unique<CFramePeer>(rEntry, rWnd);
 }

@@ -11,8 +11,8 @@ namespace
 class CGroupPeer : public TWidgetPeer<CButton, QGroupBox>
 {
 public:
-    CGroupPeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QGroupBox(gParentWidgetOf(rWnd)))
+    CGroupPeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QGroupBox(gParentWidgetOf(rWnd)))
     {
         gStackBelowControls(Widget());
         // It may lie over another frame, whose tabs still want to be clicked.
@@ -29,7 +29,7 @@ protected:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindGroup(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindGroup(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CGroupPeer>(rDesktop, rWnd);
+    return std::make_unique<CGroupPeer>(rEntry, rWnd);
 }

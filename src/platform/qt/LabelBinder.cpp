@@ -16,8 +16,8 @@ constexpr double kHeadingScale = 1.35;
 class CLabelPeer : public TWidgetPeer<CWnd, QLabel>
 {
 public:
-    CLabelPeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QLabel(gParentWidgetOf(rWnd)))
+    CLabelPeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QLabel(gParentWidgetOf(rWnd)))
     {
         Widget().setTextFormat(Qt::PlainText);
         Widget().setWordWrap(IsHigh());
@@ -64,7 +64,7 @@ private:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindLabel(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindLabel(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CLabelPeer>(rDesktop, rWnd);
+    return std::make_unique<CLabelPeer>(rEntry, rWnd);
 }

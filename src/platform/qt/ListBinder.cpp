@@ -13,8 +13,8 @@ namespace
 class CListPeer : public TWidgetPeer<CListBox, QListView>
 {
 public:
-    CListPeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QListView(gParentWidgetOf(rWnd))),
+    CListPeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QListView(gParentWidgetOf(rWnd))),
           mpItems(new CItemListModel([this] { return Model().GetItems(); }, &Widget()))
     {
         Widget().setModel(mpItems);
@@ -54,7 +54,7 @@ private:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindList(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindList(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CListPeer>(rDesktop, rWnd);
+    return std::make_unique<CListPeer>(rEntry, rWnd);
 }

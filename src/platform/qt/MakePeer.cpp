@@ -6,56 +6,56 @@
 
 namespace
 {
-std::unique_ptr<CQtPeer> BindControl(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> BindControl(CModelEntry& rEntry, CWnd& rWnd)
 {
     switch (rWnd.GetKind()) {
     case EControl::Label:
     case EControl::Static:
-        return gBindLabel(rDesktop, rWnd);
+        return gBindLabel(rEntry, rWnd);
     case EControl::Group:
-        return gBindGroup(rDesktop, rWnd);
+        return gBindGroup(rEntry, rWnd);
     case EControl::Frame:
-        return gBindFrame(rDesktop, rWnd);
+        return gBindFrame(rEntry, rWnd);
     case EControl::Edit:
-        return gBindEdit(rDesktop, rWnd);
+        return gBindEdit(rEntry, rWnd);
     case EControl::MultilineEdit:
-        return gBindMultilineEdit(rDesktop, rWnd);
+        return gBindMultilineEdit(rEntry, rWnd);
     case EControl::PushButton:
     case EControl::DefaultButton:
-        return gBindButton(rDesktop, rWnd);
+        return gBindButton(rEntry, rWnd);
     case EControl::CheckBox:
-        return gBindCheckBox(rDesktop, rWnd);
+        return gBindCheckBox(rEntry, rWnd);
     case EControl::RadioButton:
-        return gBindRadio(rDesktop, rWnd);
+        return gBindRadio(rEntry, rWnd);
     case EControl::DropDownList:
     case EControl::DropDown:
-        return gBindCombo(rDesktop, rWnd);
+        return gBindCombo(rEntry, rWnd);
     case EControl::ListBox:
-        return gBindList(rDesktop, rWnd);
+        return gBindList(rEntry, rWnd);
     case EControl::Tree:
-        return gBindTree(rDesktop, rWnd);
+        return gBindTree(rEntry, rWnd);
     case EControl::Table:
-        return gBindTable(rDesktop, rWnd);
+        return gBindTable(rEntry, rWnd);
     case EControl::Tabs:
-        return gBindTabs(rDesktop, rWnd);
+        return gBindTabs(rEntry, rWnd);
     }
     return nullptr;
 }
 
-std::unique_ptr<CQtPeer> Bind(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> Bind(CModelEntry& rEntry, CWnd& rWnd)
 {
     auto* const pDialog = dynamic_cast<CDialog*>(&rWnd);
     if (pDialog && !pDialog->GetParent())
-        return std::make_unique<CDialogPeer>(rDesktop, *pDialog);
+        return std::make_unique<CDialogPeer>(rEntry, *pDialog);
     if (!gParentWidgetOf(rWnd))
         return nullptr;
-    return pDialog ? gBindPane(rDesktop, rWnd) : BindControl(rDesktop, rWnd);
+    return pDialog ? gBindPane(rEntry, rWnd) : BindControl(rEntry, rWnd);
 }
 } // namespace
 
-std::unique_ptr<IWindowPeer> gMakePeer(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<IWindowPeer> gMakePeer(CModelEntry& rEntry, CWnd& rWnd)
 {
-    std::unique_ptr<CQtPeer> pPeer = Bind(rDesktop, rWnd);
+    std::unique_ptr<CQtPeer> pPeer = Bind(rEntry, rWnd);
     if (pPeer)
         pPeer->PullFirst();
     return pPeer;

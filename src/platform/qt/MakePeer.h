@@ -5,7 +5,7 @@
 class CQtPeer;
 class CWnd;
 class IWindowPeer;
-class QtDesktop;
+class CModelEntry;
 
 /// Draws a window by its kind.
-std::unique_ptr<IWindowPeer> gMakePeer(QtDesktop& rDesktop, CWnd& rWnd);
+std::unique_ptr<IWindowPeer> gMakePeer(CModelEntry& rEntry, CWnd& rWnd);

@@ -23,8 +23,8 @@ QString TextOf(const QPlainTextEdit& rEdit)
 class CMultilineEditPeer : public TWidgetPeer<CEdit, QPlainTextEdit>
 {
 public:
-    CMultilineEditPeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QPlainTextEdit(gParentWidgetOf(rWnd)))
+    CMultilineEditPeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QPlainTextEdit(gParentWidgetOf(rWnd)))
     {
         Widget().setReadOnly(rWnd.GetControlFlags() & kReadOnly);
         Widget().setTabChangesFocus(true);
@@ -61,7 +61,7 @@ private:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindMultilineEdit(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindMultilineEdit(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CMultilineEditPeer>(rDesktop, rWnd);
+    return std::make_unique<CMultilineEditPeer>(rEntry, rWnd);
 }

@@ -1,6 +1,6 @@
 #include "platform/qt/OwnedWindow.h"
 
-#include "platform/qt/QtDesktop.h"
+#include "platform/qt/HostWidget.h"
 
 #include <QApplication>
 #include <QScreen>

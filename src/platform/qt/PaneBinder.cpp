@@ -19,8 +19,8 @@ protected:
 class CPanePeer : public CQtPeer
 {
 public:
-    CPanePeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : CQtPeer(rDesktop, rWnd, new CPaneWidget(gParentWidgetOf(rWnd)))
+    CPanePeer(CModelEntry& rEntry, CWnd& rWnd)
+        : CQtPeer(rEntry, rWnd, new CPaneWidget(gParentWidgetOf(rWnd)))
     {
         GetWidget()->hide();
     }
@@ -40,7 +40,7 @@ protected:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindPane(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindPane(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CPanePeer>(rDesktop, rWnd);
+    return std::make_unique<CPanePeer>(rEntry, rWnd);
 }

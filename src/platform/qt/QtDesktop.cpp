@@ -4,11 +4,11 @@
 #include "platform/qt/FileDialogWindow.h"
 #include "platform/qt/MakePeer.h"
 #include "platform/qt/MessageBoxWindow.h"
+#include "platform/qt/ModelEntry.h"
 #include "platform/qt/OwnedWindow.h"
 #include "platform/qt/QtText.h"
 #include "platform/ui/Dialog.h"
 #include "platform/ui/MessagePump.h"
-#include "platform/ui/UserKey.h"
 
 #include <QAbstractEventDispatcher>
 #include <QDialog>
@@ -17,46 +17,17 @@
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QPointer>
-#include <QScopedValueRollback>
 #include <QSettings>
-#include <stdexcept>
-#include <utility>
-
-/// One event loop inside another: of a dialog's run, or of a box.
-class QtDesktop::CNestedLoop
-{
-public:
-    /// `pDialog`: null for a box. `leave` ends the loop; it may be called several times.
-    CNestedLoop(QtDesktop& rDesktop, CDialog* pDialog, std::function<void()> leave)
-        : mpDialog(pDialog), mLeave(std::move(leave)), mrDesktop(rDesktop)
-    {
-        mrDesktop.mLoops.push_back(this);
-    }
-    ~CNestedLoop() { std::erase(mrDesktop.mLoops, this); }
-    CNestedLoop(const CNestedLoop&) = delete;
-    CNestedLoop& operator=(const CNestedLoop&) = delete;
-
-    /// To be called behind the loop: throws on what came up inside it.
-    void RethrowFailure()
-    {
-        if (mrDesktop.mpFailure)
-            std::rethrow_exception(std::exchange(mrDesktop.mpFailure, nullptr));
-    }
-
-    CDialog* const mpDialog;
-    const std::function<void()> mLeave;
-
-private:
-    QtDesktop& mrDesktop;
-};
 
 QtDesktop::QtDesktop(const QString& rsOrganisation, const QString& rsApplication)
-    : mpBefore(gSetDesktop(this)), msOrganisation(rsOrganisation), msApplication(rsApplication)
+    : mpBefore(gSetDesktop(this)), msOrganisation(rsOrganisation), msApplication(rsApplication),
+      mpEntry(std::make_unique<CModelEntry>(Thread()))
 {
 }
 
 QtDesktop::QtDesktop(const QString& rsProfilePath)
-    : mpBefore(gSetDesktop(this)), msProfilePath(rsProfilePath)
+    : mpBefore(gSetDesktop(this)), msProfilePath(rsProfilePath),
+      mpEntry(std::make_unique<CModelEntry>(Thread()))
 {
 }
 
@@ -67,46 +38,14 @@ QtDesktop::~QtDesktop()
 
 std::unique_ptr<IWindowPeer> QtDesktop::MakePeer(CWnd& rWnd)
 {
-    return gMakePeer(*this, rWnd);
+    return gMakePeer(*mpEntry, rWnd);
 }
 
 // --- into the model
 
 void QtDesktop::EnterModel(const std::function<void()>& rCall)
 {
-    try {
-        rCall();
-    } catch (...) {
-        // Outside of all loops there is nobody to throw it on to.
-        if (mLoops.empty())
-            throw;
-        if (!mpFailure)
-            mpFailure = std::current_exception();
-        if (CDialog* const pDialog = mLoops.back()->mpDialog)
-            pDialog->EndDialog(IDCANCEL);
-        else
-            mLoops.back()->mLeave();
-    }
-    LeaveEndedLoops();
-}
-
-void QtDesktop::EnterKey(const TUserKey& rKey)
-{
-    const QScopedValueRollback<bool> inKey(mbInKey, true);
-    EnterModel([&rKey] { gUserKey(rKey); });
-}
-
-void QtDesktop::LeaveEndedLoops()
-{
-    // Loops end from the inside out. A box in front of a dialog that has ended goes with it.
-    for (auto loop = mLoops.rbegin(); loop != mLoops.rend(); ++loop) {
-        const CDialog* const pDialog = (*loop)->mpDialog;
-        if (!pDialog)
-            continue;
-        if (pDialog->HasEnded())
-            mLoops.back()->mLeave();
-        return;
-    }
+    mpEntry->Enter(rCall);
 }
 
 void QtDesktop::OnMessagePosted()
@@ -132,12 +71,12 @@ void QtDesktop::RunModal(CDialog& rDialog)
     const auto* const pPeer = dynamic_cast<const CDialogPeer*>(rDialog.GetPeer());
     const QPointer<QWidget> pOwner = pPeer ? pPeer->GetOwnerWidget() : nullptr;
     QEventLoop eventLoop;
-    CNestedLoop loop(*this, &rDialog, [&eventLoop] { eventLoop.quit(); });
+    CModelEntry::CLoop loop(*mpEntry, &rDialog, [&eventLoop] { eventLoop.quit(); });
 
     // Whoever ends the dialog, be it from outside of all its events, the loop sees it before it
     // waits.
     QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
-                     &eventLoop, [this] { LeaveEndedLoops(); });
+                     &eventLoop, [this] { mpEntry->LeaveEndedLoops(); });
     const auto cancel = [this, &rDialog] {
         EnterModel([&rDialog] { rDialog.EndDialog(IDCANCEL); });
     };
@@ -146,7 +85,7 @@ void QtDesktop::RunModal(CDialog& rDialog)
     if (pWindow)
         QObject::connect(pWindow, &QObject::destroyed, &eventLoop, cancel);
 
-    if (!rDialog.HasEnded() && !mpFailure)
+    if (!rDialog.HasEnded() && !mpEntry->HasFailed())
         eventLoop.exec(QEventLoop::DialogExec);
     if (pWindow)
         pWindow->hide();
@@ -173,9 +112,10 @@ int QtDesktop::RunBox(QDialog& rBox, const CWnd* pOwner)
 {
     const QPointer<QWidget> pOwnerWidget = gOwnerWidgetOf(pOwner);
     gTieToOwner(rBox, pOwnerWidget);
-    CNestedLoop loop(*this, nullptr, [&rBox] { rBox.done(QDialog::Rejected); });
+    const auto leave = [&rBox] { rBox.done(QDialog::Rejected); };
+    CModelEntry::CLoop loop(*mpEntry, nullptr, leave);
     if (pOwnerWidget)
-        QObject::connect(pOwnerWidget, &QObject::destroyed, &rBox, loop.mLeave);
+        QObject::connect(pOwnerWidget, &QObject::destroyed, &rBox, leave);
     const int nResult = rBox.exec();
     gActivateOwner(pOwnerWidget);
     loop.RethrowFailure();

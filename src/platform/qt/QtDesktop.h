@@ -1,21 +1,19 @@
 #pragma once
 
+#include "platform/qt/HostWidget.h"
 #include "platform/ui/Desktop.h"
 #include "platform/ui/FileDialog.h"
 
 #include <QObject>
 #include <QString>
-#include <exception>
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
 
+class CModelEntry;
 class CWnd;
 class QDialog;
 class QSettings;
-class QWidget;
-struct TUserKey;
 
 /// The desktop of Qt Widgets: real windows, boxes and file dialogs. A QApplication exists before it
 /// and longer than it.
@@ -47,38 +45,20 @@ public:
     std::unique_ptr<IWindowPeer> MakePeer(CWnd& rWnd) override;
     void OnMessagePosted() override;
 
-    // --- for what draws a window of this desktop
-
-    /// The one way from a slot or an event of the toolkit into the windows' model. No exception
-    /// passes: the first one is kept, the innermost run ends, and the run throws it on.
+    /// For a slot or an event of the host's own that acts on the windows: calls into their model.
+    /// No exception passes while a window is open: the first one is kept, the innermost run ends,
+    /// and throws it on.
     void EnterModel(const std::function<void()>& rCall);
-    /// The same for a key that the user pressed in the innermost dialog.
-    void EnterKey(const TUserKey& rKey);
-    /// True while a key of the user is on its way through the model.
-    bool IsInKey() const { return mbInKey; }
 
 private:
-    class CNestedLoop;
-
     std::unique_ptr<QSettings> OpenProfile() const;
     int RunBox(QDialog& rBox, const CWnd* pOwner);
-    void LeaveEndedLoops();
 
     IDesktop* mpBefore;
     QString msOrganisation;
     QString msApplication;
-    QString msProfilePath;            ///< empty: by organisation and application
-    QObject mContext;                 ///< what was queued for the event loop ends with the desktop
-    std::vector<CNestedLoop*> mLoops; ///< outermost first
-    std::exception_ptr mpFailure;     ///< on its way to the innermost loop's end
+    QString msProfilePath; ///< empty: by organisation and application
+    std::unique_ptr<CModelEntry> mpEntry;
+    QObject mContext; ///< what was queued for the event loop ends with the desktop
     bool mbPumpQueued = false;
-    bool mbInKey = false;
 };
-
-/// A window for a host's own widget, to be the owner of dialogs and boxes. It belongs to the widget
-/// and ends with it; the same widget always has the same one. Null for null.
-CWnd* gWindowOf(QWidget* pWidget);
-
-/// The widget that shows a window of the current QtDesktop, or the widget of `gWindowOf`.
-/// Null when there is none.
-QWidget* gWidgetOf(const CWnd& rWnd);

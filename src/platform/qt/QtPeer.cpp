@@ -2,16 +2,17 @@
 
 #include "platform/qt/DialogUnits.h"
 #include "platform/qt/KeyForwarding.h"
-#include "platform/qt/QtDesktop.h"
+#include "platform/qt/ModelEntry.h"
 #include "platform/ui/Dialog.h"
+#include "platform/ui/UiThread.h"
 #include "platform/ui/UserKey.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 
-CQtPeer::CQtPeer(QtDesktop& rDesktop, CWnd& rWnd, QWidget* pWidget, QWidget* pFocusWidget)
-    : mrDesktop(rDesktop), mrWnd(rWnd), mpWidget(pWidget),
+CQtPeer::CQtPeer(CModelEntry& rEntry, CWnd& rWnd, QWidget* pWidget, QWidget* pFocusWidget)
+    : mrEntry(rEntry), mrWnd(rWnd), mpWidget(pWidget),
       mpFocusWidget(pFocusWidget ? pFocusWidget : pWidget)
 {
     mpWidget->setObjectName(QString::fromUtf8(rWnd.GetKey()));
@@ -139,7 +140,7 @@ void CQtPeer::PullFocus()
         return;
     // With the reason "Tab" an edit marks its text, so that what is typed next replaces it.
     if (QWidget* const pWindow = mpWidget->window(); pWindow->focusWidget() != mpFocusWidget)
-        mpFocusWidget->setFocus(mrDesktop.IsInKey() ? Qt::TabFocusReason : Qt::OtherFocusReason);
+        mpFocusWidget->setFocus(mrEntry.IsInKey() ? Qt::TabFocusReason : Qt::OtherFocusReason);
     // A list that gets the keyboard puts its mark on the first entry of its own accord.
     PullSelection();
 }
@@ -155,7 +156,7 @@ TDialogUnits CQtPeer::GetUnits() const
 void CQtPeer::Act(const std::function<void()>& rAction)
 {
     const QPointer<CQtPeer> pSelf(this);
-    mrDesktop.EnterModel(rAction);
+    mrEntry.Enter(rAction);
     if (!pSelf)
         return;
     ShowOutcome();
@@ -183,11 +184,11 @@ void CQtPeer::PullSoon()
 
 void CQtPeer::OnGotFocus()
 {
-    const CWnd* const pFront = mrDesktop.Thread().FrontWindow();
+    const CWnd* const pFront = mrEntry.Thread().FrontWindow();
     if (mbWriting || CWnd::GetFocus() == &mrWnd || !pFront || !mrWnd.IsInside(*pFront))
         return;
     const QPointer<CQtPeer> pSelf(this);
-    mrDesktop.EnterModel([this] { mrWnd.AcceptUser(); });
+    mrEntry.Enter([this] { mrWnd.AcceptUser(); });
     if (!pSelf || CWnd::GetFocus() == &mrWnd)
         return;
     if (CQtPeer* const pHolder = Of(CWnd::GetFocus()))
@@ -204,7 +205,7 @@ bool CQtPeer::TakeKey(const QKeyEvent& rEvent)
     const auto key = gUserKeyOf(rEvent);
     if (!key || gKeepsKey(mrWnd, key->key))
         return false;
-    mrDesktop.EnterKey(*key);
+    mrEntry.EnterKey(*key);
     return true;
 }
 

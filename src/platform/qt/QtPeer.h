@@ -9,7 +9,7 @@
 
 class CWnd;
 class QKeyEvent;
-class QtDesktop;
+class CModelEntry;
 struct TDialogUnits;
 
 /// What draws one window: holds its widget, pulls what changes into it, and brings the user's
@@ -45,7 +45,7 @@ public:
 
 protected:
     /// Takes over `pWidget`. `pFocusWidget`: the part of it that takes the keyboard; null: itself.
-    CQtPeer(QtDesktop& rDesktop, CWnd& rWnd, QWidget* pWidget, QWidget* pFocusWidget = nullptr);
+    CQtPeer(CModelEntry& rEntry, CWnd& rWnd, QWidget* pWidget, QWidget* pFocusWidget = nullptr);
 
     // Each writes to the widget what differs from the model.
     virtual void PullText() {}
@@ -68,7 +68,7 @@ protected:
     /// itself behind its signal.
     void PullSoon();
 
-    QtDesktop& Desktop() const { return mrDesktop; }
+    CModelEntry& Entry() const { return mrEntry; }
     CWnd& Wnd() const { return mrWnd; }
 
 private:
@@ -76,7 +76,7 @@ private:
     void OnGotFocus();
     bool TakeKey(const QKeyEvent& rEvent);
 
-    QtDesktop& mrDesktop;
+    CModelEntry& mrEntry;
     CWnd& mrWnd;
     QPointer<QWidget> mpWidget;
     QPointer<QWidget> mpFocusWidget;

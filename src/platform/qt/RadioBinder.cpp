@@ -10,8 +10,8 @@ namespace
 class CRadioPeer : public TWidgetPeer<CButton, QRadioButton>
 {
 public:
-    CRadioPeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QRadioButton(gParentWidgetOf(rWnd)))
+    CRadioPeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QRadioButton(gParentWidgetOf(rWnd)))
     {
         // One pane may hold several groups; which buttons exclude each other, the model knows.
         Widget().setAutoExclusive(false);
@@ -32,7 +32,7 @@ protected:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindRadio(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindRadio(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CRadioPeer>(rDesktop, rWnd);
+    return std::make_unique<CRadioPeer>(rEntry, rWnd);
 }

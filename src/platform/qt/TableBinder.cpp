@@ -15,8 +15,8 @@ namespace
 class CTablePeer : public TWidgetPeer<CListCtrl, QTableView>
 {
 public:
-    CTablePeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QTableView(gParentWidgetOf(rWnd))),
+    CTablePeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QTableView(gParentWidgetOf(rWnd))),
           mpRows(new CTableModel(Model(), &Widget()))
     {
         QTableView& rView = Widget();
@@ -89,7 +89,7 @@ private:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindTable(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindTable(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CTablePeer>(rDesktop, rWnd);
+    return std::make_unique<CTablePeer>(rEntry, rWnd);
 }

@@ -14,8 +14,8 @@ namespace
 class CTabsPeer : public TWidgetPeer<CTabCtrl, QTabWidget>
 {
 public:
-    explicit CTabsPeer(QtDesktop& rDesktop, CWnd& rWnd, QTabWidget* pWidget)
-        : TWidgetPeer(rDesktop, rWnd, pWidget, pWidget->tabBar())
+    explicit CTabsPeer(CModelEntry& rEntry, CWnd& rWnd, QTabWidget* pWidget)
+        : TWidgetPeer(rEntry, rWnd, pWidget, pWidget->tabBar())
     {
         gStackBelowControls(Widget());
         gNameField(rWnd, *Widget().tabBar());
@@ -51,7 +51,7 @@ protected:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindTabs(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindTabs(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CTabsPeer>(rDesktop, rWnd, new QTabWidget(gParentWidgetOf(rWnd)));
+    return std::make_unique<CTabsPeer>(rEntry, rWnd, new QTabWidget(gParentWidgetOf(rWnd)));
 }

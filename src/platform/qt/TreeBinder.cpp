@@ -18,8 +18,8 @@ HTREEITEM NodeOf(const QTreeWidgetItem* pItem)
 class CTreePeer : public TWidgetPeer<CTreeCtrl, QTreeWidget>
 {
 public:
-    CTreePeer(QtDesktop& rDesktop, CWnd& rWnd)
-        : TWidgetPeer(rDesktop, rWnd, new QTreeWidget(gParentWidgetOf(rWnd)))
+    CTreePeer(CModelEntry& rEntry, CWnd& rWnd)
+        : TWidgetPeer(rEntry, rWnd, new QTreeWidget(gParentWidgetOf(rWnd)))
     {
         Widget().setHeaderHidden(true);
         Widget().setColumnCount(1);
@@ -109,7 +109,7 @@ private:
 };
 } // namespace
 
-std::unique_ptr<CQtPeer> gBindTree(QtDesktop& rDesktop, CWnd& rWnd)
+std::unique_ptr<CQtPeer> gBindTree(CModelEntry& rEntry, CWnd& rWnd)
 {
-    return std::make_unique<CTreePeer>(rDesktop, rWnd);
+    return std::make_unique<CTreePeer>(rEntry, rWnd);
 }

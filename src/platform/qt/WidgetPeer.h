@@ -7,8 +7,8 @@ template <class TWnd, class TWidget> class TWidgetPeer : public CQtPeer
 {
 public:
     /// Takes over `pWidget`; `pFocusWidget` as for `CQtPeer`.
-    TWidgetPeer(QtDesktop& rDesktop, CWnd& rWnd, TWidget* pWidget, QWidget* pFocusWidget = nullptr)
-        : CQtPeer(rDesktop, rWnd, pWidget, pFocusWidget)
+    TWidgetPeer(CModelEntry& rEntry, CWnd& rWnd, TWidget* pWidget, QWidget* pFocusWidget = nullptr)
+        : CQtPeer(rEntry, rWnd, pWidget, pFocusWidget)
     {
     }
 

@@ -29,6 +29,32 @@ enum class EControl {
 /// The name of a kind, lower case, as `describe` prints it: "edit", "drop-down-list", "radio"...
 std::string_view gControlName(EControl kind);
 
+/// True for what the user fills in or chooses from, and which a label beside it explains.
+constexpr bool gIsInput(EControl kind)
+{
+    switch (kind) {
+    case EControl::Edit:
+    case EControl::MultilineEdit:
+    case EControl::DropDownList:
+    case EControl::DropDown:
+    case EControl::ListBox:
+    case EControl::Tree:
+    case EControl::Table:
+        return true;
+    case EControl::Label:
+    case EControl::Static:
+    case EControl::Group:
+    case EControl::Frame:
+    case EControl::PushButton:
+    case EControl::DefaultButton:
+    case EControl::CheckBox:
+    case EControl::RadioButton:
+    case EControl::Tabs:
+        return false;
+    }
+    return false;
+}
+
 /// Properties of a control at its creation, to be combined with |.
 enum EControlFlag : unsigned {
     kNoFlags = 0,
@@ -66,7 +92,6 @@ constexpr TControlRow Row(int nId, const char* pKey, EControl kind, const char* 
 /// A dialog or a pane as data. Every desktop gives a dialog a fixed frame with a caption and a
 /// system menu, without minimise and maximise boxes.
 struct DialogTemplate {
-    int nId; ///< the template's number, unique among all templates
     const char* pCaption;
     TSize size;
     std::span<const TControlRow> rows; ///< in tab order

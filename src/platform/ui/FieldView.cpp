@@ -12,6 +12,21 @@ bool IsField(const CWnd& rWnd)
 }
 } // namespace
 
+CWnd* gLabelOf(const CWnd& rField)
+{
+    const CWnd* const pPane = rField.GetParent();
+    if (!pPane)
+        return nullptr;
+    if (CWnd* const pLabel = pPane->GetDlgItem(LabelOf(rField.GetDlgCtrlID())))
+        return pLabel;
+    const auto& rSiblings = pPane->GetChildren();
+    const auto field = std::ranges::find(rSiblings, &rField);
+    if (field == rSiblings.begin() || field == rSiblings.end())
+        return nullptr;
+    CWnd* const pBefore = *std::prev(field);
+    return gIsInput(rField.GetKind()) && pBefore->GetKind() == EControl::Group ? pBefore : nullptr;
+}
+
 std::vector<TFieldView> gCollectFields(const CWnd& rPane)
 {
     std::vector<TFieldView> fields;
@@ -28,7 +43,7 @@ std::vector<TFieldView> gCollectFields(const CWnd& rPane)
         TFieldView field{pChild->GetKey(), pChild->GetKind(), pChild, {}, nullptr, nullptr};
         if (bRadio)
             field.radios.push_back(pButton);
-        field.pLabel = rPane.GetDlgItem(LabelOf(nId));
+        field.pLabel = gLabelOf(*pChild);
         field.pUnit = rPane.GetDlgItem(UnitOf(nId));
         fields.push_back(std::move(field));
     }

@@ -13,9 +13,13 @@ struct TFieldView {
     EControl kind = EControl::Edit; ///< RadioButton for a group
     CWnd* pControl = nullptr;       ///< the control; for a radio group its first button
     std::vector<CButton*> radios;   ///< the buttons of a radio group, in order
-    CWnd* pLabel = nullptr;         ///< the label beside the field, or null
+    CWnd* pLabel = nullptr;         ///< as `gLabelOf` finds it, or null
     CWnd* pUnit = nullptr;          ///< the unit behind it, or null
 };
+
+/// The label of a field: the one that belongs to it, else the title of the group box that begins
+/// right before it. Null when it has neither.
+CWnd* gLabelOf(const CWnd& rField);
 
 /// The fields of one pane or dialog in template order, hidden ones too: all controls but labels,
 /// units and place markers. The children of panes inside it are not among them.

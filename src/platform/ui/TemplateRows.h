@@ -7,20 +7,7 @@
 #include <cstddef>
 #include <type_traits>
 
-// A template's rows as a list of lines. A line is one row or an array of rows: a field with the
-// label and the unit that belong to it.
-
-/// The columns of a pane and the distance of its lines, in dialog units.
-struct TGrid {
-    int nLabelX;
-    int nLabelWidth;
-    int nFieldX;
-    int nFieldWidth;
-    int nUnitX;
-    int nUnitWidth;
-    int nTop;   ///< top of line 0
-    int nPitch; ///< from one line to the next
-};
+// A template's rows, a field together with its label and its unit.
 
 inline constexpr int kLabelHeight = 9;
 inline constexpr int kEditHeight = 13;
@@ -32,6 +19,14 @@ constexpr TControlRow LabelFor(const TControlRow& rField, const char* pLabel, co
                rField.nFlags & (kHidden | kDisabled), rField.nLayers);
 }
 
+/// The unit behind a field, at a place of its own.
+constexpr TControlRow UnitFor(const TControlRow& rField, const char* pUnit, const TRect& rRect)
+{
+    TControlRow unit = LabelFor(rField, pUnit, rRect);
+    unit.nId = UnitOf(rField.nId);
+    return unit;
+}
+
 /// A field with its label right above it. `nLabelHeight`: a multiple of `kLabelHeight` for a label
 /// of several lines.
 constexpr std::array<TControlRow, 2> LabelAbove(const TControlRow& rField, const char* pLabel,
@@ -40,34 +35,6 @@ constexpr std::array<TControlRow, 2> LabelAbove(const TControlRow& rField, const
     const TRect& rAt = rField.rect;
     return {LabelFor(rField, pLabel, {rAt.x, rAt.y - nLabelHeight - 2, rAt.w, nLabelHeight}),
             rField};
-}
-
-/// A one-line edit with its label to the left, on line `nLine` of the grid.
-constexpr std::array<TControlRow, 2> EditLine(const TGrid& rGrid, int nLine, int nId,
-                                              const char* pKey, const char* pLabel,
-                                              unsigned nFlags = kNoFlags, unsigned nLayers = 0)
-{
-    const int nTop = rGrid.nTop + nLine * rGrid.nPitch;
-    const TControlRow field =
-        Row(nId, pKey, EControl::Edit, "", {rGrid.nFieldX, nTop, rGrid.nFieldWidth, kEditHeight},
-            nFlags, nLayers);
-    return {LabelFor(field, pLabel, {rGrid.nLabelX, nTop + 2, rGrid.nLabelWidth, kLabelHeight}),
-            field};
-}
-
-/// The same with a unit behind the edit.
-constexpr std::array<TControlRow, 3> EditLineWithUnit(const TGrid& rGrid, int nLine, int nId,
-                                                      const char* pKey, const char* pLabel,
-                                                      const char* pUnit, unsigned nFlags = kNoFlags,
-                                                      unsigned nLayers = 0)
-{
-    const auto line = EditLine(rGrid, nLine, nId, pKey, pLabel, nFlags, nLayers);
-    TControlRow unit = line[0];
-    unit.nId = UnitOf(nId);
-    unit.pLabel = pUnit;
-    unit.rect.x = rGrid.nUnitX;
-    unit.rect.w = rGrid.nUnitWidth;
-    return {line[0], line[1], unit};
 }
 
 namespace TemplateRowsDetail

@@ -1,10 +1,11 @@
-#include "wizard/analysis/AnalysisAC1Page.h"
-
+#include "platform/ui/ComboBox.h"
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/Fields.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
 #include "platform/ui/Translate.h"
+#include "wizard/analysis/SweepSlot.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
@@ -32,31 +33,40 @@ constexpr unsigned kRangeLayer = 1;
 constexpr unsigned kListLayer = 2;
 constexpr unsigned kPoiLayer = 4;
 
-constexpr TGrid kFrom{14, 24, 42, 74, 0, 0, 86, 0};
-constexpr TGrid kTo{133, 16, 153, 74, 0, 0, 86, 0};
-constexpr TGrid kCount{7, 126, 137, 60, 0, 0, 127, 0};
-constexpr TControlRow kTypeRow = Row(kSamplingType, "sampling-type", EControl::DropDownList, "",
-                                     {107, 7, 90, kEditHeight}, kNoFlags, 0, kSamplingTypes);
-constexpr auto kRows = JoinRows(
-    LabelFor(kTypeRow, "&Frequency sampling type:", {7, 9, 96, kLabelHeight}), kTypeRow,
-    Row(kSamplesGroup, "samples-group", EControl::Group, "Fr&equencies per linear",
-        {7, 28, 235, 36}, kNoFlags, kRangeLayer),
-    Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "", {42, 44, 74, kEditHeight},
-        kUnlabelled, kRangeLayer),
-    LabelAbove(Row(kListOfValues, "list-of-values", EControl::MultilineEdit, "", {7, 41, 235, 78},
-                   kWantReturn, kListLayer | kPoiLayer),
-               "&List frequency values, separated by spaces:"),
-    Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 70, 235, 36}, kNoFlags,
-        kRangeLayer),
-    EditLine(kFrom, 0, kStartFrequency, "start-frequency", "F&rom:", kNoFlags, kRangeLayer),
-    EditLine(kTo, 0, kFinalFrequency, "final-frequency", "&To:", kNoFlags, kRangeLayer),
-    EditLine(kCount, 0, kCountOfListedValues, "count-of-listed-values",
-             "&Number of frequency values listed:", kNoFlags, kPoiLayer),
-    Row(kSweepGroup, "sweep-group", EControl::Group, "Sweep", {7, 152, 235, 37}),
-    SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2", 14, 168));
-constexpr DialogTemplate kTemplate{110, "AC", kPageSize, kRows};
+constexpr TColumns kType{.nField = 107};
+constexpr TColumns kFrom{.nField = 42};
+constexpr TColumns kTo{.nField = 153};
+constexpr TColumns kCount{.nField = 137};
+constexpr auto kRanges = OnLayers(
+    kRangeLayer,
+    Lines(GroupBox(kSamplesGroup, "samples-group", "Fr&equencies per linear",
+                   Beside(130, BareEdit(kNumberOfSamples, "number-of-samples"), Space(0))),
+          GroupBox(kRangeGroup, "range-group", "Frequency range",
+                   Beside(130, EditLine(kFrom, kStartFrequency, "start-frequency", "F&rom:"),
+                          EditLine(kTo, kFinalFrequency, "final-frequency", "&To:")))));
+constexpr auto kListing = Lines(
+    OnLayers(kListLayer | kPoiLayer, TextBox(kListOfValues, "list-of-values",
+                                             "&List frequency values, separated by spaces:", 78)),
+    OnLayers(kPoiLayer, EditLine(kCount, kCountOfListedValues, "count-of-listed-values",
+                                 "&Number of frequency values listed:")));
+constexpr auto kRows =
+    PageRows(DropDownLine(kType, kSamplingType, "sampling-type",
+                          "&Frequency sampling type:", kSamplingTypes),
+             SameTop(kRanges, kListing),
+             GroupBox(kSweepGroup, "sweep-group", "Sweep",
+                      SweepLine(kSweep, "sweep", "&Sweep", "sweep-summary-1", "sweep-summary-2")));
+constexpr DialogTemplate kTemplate{"AC", kPageSize, kRows};
 
-Remembered<CAnalysisAC1Page::TFields> sRemembered;
+struct TFields {
+    int mnSamplingType = 0;
+    CString msNumberOfSamples;
+    CString msStartFrequency;
+    CString msListOfValues;
+    CString msFinalFrequency;
+    CString msCountOfListedValues;
+};
+
+Remembered<TFields> sRemembered;
 
 unsigned LayerOf(int nType)
 {
@@ -89,120 +99,127 @@ const char* SamplesLabel(int nType)
 }
 } // namespace
 
-CAnalysisAC1Page::CAnalysisAC1Page() : CCommandPage(kTemplate), mSweep(*this, kSweep) {}
-
-TMessageMap CAnalysisAC1Page::GetMessageMap() const
+/// Builds ".ac ", the frequencies of a small-signal analysis, and a sweep.
+class CAnalysisAC1Page : public CCommandPage
 {
-    static constexpr TMessageMapEntry kHandlers[] = {
-        On<&CAnalysisAC1Page::OnSamplingType>(ENotify::SelChange, kSamplingType),
-        On<&CAnalysisAC1Page::OnSweep>(ENotify::Clicked, kSweep),
-    };
-    return kHandlers;
-}
+public:
+    CAnalysisAC1Page() : CCommandPage(kTemplate), mSweep(*this, kSweep) {}
 
-void CAnalysisAC1Page::DoDataExchange(CDataExchange* pDX)
-{
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Control(pDX, kSamplingType, mSamplingType);
-    DDX_Text(pDX, kNumberOfSamples, mFields.msNumberOfSamples);
-    DDX_Text(pDX, kStartFrequency, mFields.msStartFrequency);
-    DDX_Text(pDX, kListOfValues, mFields.msListOfValues);
-    DDX_Text(pDX, kFinalFrequency, mFields.msFinalFrequency);
-    DDX_Text(pDX, kCountOfListedValues, mFields.msCountOfListedValues);
-}
-
-bool CAnalysisAC1Page::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    mFields = sRemembered.Get();
-    mSamplingType.SetCurSel(mFields.mnSamplingType);
-    UpdateData(false);
-    OnSamplingType();
-    return true;
-}
-
-void CAnalysisAC1Page::OnSamplingType()
-{
-    const int nType = mSamplingType.GetCurSel();
-    const unsigned nLayer = LayerOf(nType);
-    const auto label = [this, nLayer](int nField, unsigned nLayers, const char* pLiteral) {
-        gSetFieldLabel(*this, nField, nLayer & nLayers ? xlang::gTranslate(pLiteral) : "");
-    };
-    GetDlgItem(kSamplesGroup)->SetWindowText(gShownText(SamplesLabel(nType)));
-    label(kStartFrequency, kRangeLayer, "__$$Translatable$$_F&rom:");
-    label(kFinalFrequency, kRangeLayer, "__$$Translatable$$_&To:");
-    label(kListOfValues, kListLayer | kPoiLayer,
-          "__$$Translatable$$_&List frequency values, separated by spaces:");
-    label(kCountOfListedValues, kPoiLayer,
-          "__$$Translatable$$_&Number of frequency values listed:");
-    gShowLayers(*this, nLayer);
-}
-
-void CAnalysisAC1Page::OnSweep()
-{
-    mSweep.Press("sweep ");
-}
-
-bool CAnalysisAC1Page::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    mFields.mnSamplingType = mSamplingType.GetCurSel();
-    for (CString* pField :
-         {&mFields.msNumberOfSamples, &mFields.msStartFrequency, &mFields.msListOfValues,
-          &mFields.msFinalFrequency, &mFields.msCountOfListedValues})
-        pField->TrimLeft();
-    rsCommand = ".ac "; // meant: before the checks, so that a failed one leaves it there
-    if (!AppendFrequencies(rsCommand))
-        return false;
-    if (mSweep.IsUsed())
-        rsCommand += " " + mSweep.GetText();
-    sRemembered.Set(mFields);
-    return true;
-}
-
-bool CAnalysisAC1Page::AppendFrequencies(CString& rsCommand)
-{
-    switch (mFields.mnSamplingType) {
-    case kLinear:
-        return AppendRange("lin ", rsCommand);
-    case kDecade:
-        return AppendRange("dec ", rsCommand);
-    case kOctave:
-        return AppendRange("oct ", rsCommand);
-    case kList:
-        if (mFields.msListOfValues.IsEmpty())
-            return gReportFailure(*this, msMessage,
-                                  "__$$Translatable$$_Missing list of frequency values.");
-        rsCommand += "list " + gJoinLines(mFields.msListOfValues);
-        return true;
-    case kPoi:
-        if (mFields.msListOfValues.IsEmpty())
-            return gReportFailure(*this, msMessage,
-                                  "__$$Translatable$$_Missing list of frequency values.");
-        if (mFields.msCountOfListedValues.IsEmpty())
-            return gReportFailure(
-                *this, msMessage,
-                "__$$Translatable$$_Missing the number of frequency values listed.");
-        rsCommand += "poi " + mFields.msCountOfListedValues + " ";
-        rsCommand += gJoinLines(mFields.msListOfValues);
-        return true;
-    default:
-        return true; // nothing is selected
+    TMessageMap GetMessageMap() const override
+    {
+        static constexpr TMessageMapEntry kHandlers[] = {
+            On<&CAnalysisAC1Page::OnSamplingType>(ENotify::SelChange, kSamplingType),
+            On<&CAnalysisAC1Page::OnSweep>(ENotify::Clicked, kSweep),
+        };
+        return kHandlers;
     }
-}
 
-bool CAnalysisAC1Page::AppendRange(const char* pType, CString& rsCommand)
-{
-    if (mFields.msNumberOfSamples.IsEmpty())
-        return gReportFailure(*this, msMessage,
-                              "__$$Translatable$$_Missing number of frequency samples.");
-    if (mFields.msStartFrequency.IsEmpty())
-        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing starting frequency.");
-    if (mFields.msFinalFrequency.IsEmpty())
-        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing final frequency.");
-    rsCommand += pType + mFields.msNumberOfSamples + " " + mFields.msStartFrequency + " " +
-                 mFields.msFinalFrequency;
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Control(pDX, kSamplingType, mSamplingType);
+        DDX_Text(pDX, kNumberOfSamples, mFields.msNumberOfSamples);
+        DDX_Text(pDX, kStartFrequency, mFields.msStartFrequency);
+        DDX_Text(pDX, kListOfValues, mFields.msListOfValues);
+        DDX_Text(pDX, kFinalFrequency, mFields.msFinalFrequency);
+        DDX_Text(pDX, kCountOfListedValues, mFields.msCountOfListedValues);
+    }
+
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        mFields = sRemembered.Get();
+        mSamplingType.SetCurSel(mFields.mnSamplingType);
+        UpdateData(false);
+        OnSamplingType();
+        return true;
+    }
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        mFields.mnSamplingType = mSamplingType.GetCurSel();
+        gTrimLeft(mFields.msNumberOfSamples, mFields.msStartFrequency, mFields.msListOfValues,
+                  mFields.msFinalFrequency, mFields.msCountOfListedValues);
+        rsCommand = ".ac "; // meant: before the checks, so that a failed one leaves it there
+        if (!AppendFrequencies(rsCommand))
+            return false;
+        if (mSweep.IsUsed())
+            rsCommand += " " + mSweep.GetText();
+        sRemembered.Set(mFields);
+        return true;
+    }
+
+private:
+    void OnSamplingType()
+    {
+        const int nType = mSamplingType.GetCurSel();
+        const unsigned nLayer = LayerOf(nType);
+        const auto label = [this, nLayer](int nField, unsigned nLayers, const char* pLiteral) {
+            gSetFieldLabel(*this, nField, nLayer & nLayers ? xlang::gTranslate(pLiteral) : "");
+        };
+        GetDlgItem(kSamplesGroup)->SetWindowText(gShownText(SamplesLabel(nType)));
+        label(kStartFrequency, kRangeLayer, "__$$Translatable$$_F&rom:");
+        label(kFinalFrequency, kRangeLayer, "__$$Translatable$$_&To:");
+        label(kListOfValues, kListLayer | kPoiLayer,
+              "__$$Translatable$$_&List frequency values, separated by spaces:");
+        label(kCountOfListedValues, kPoiLayer,
+              "__$$Translatable$$_&Number of frequency values listed:");
+        gShowLayers(*this, nLayer);
+    }
+
+    void OnSweep() { mSweep.Press("sweep "); }
+
+    bool AppendFrequencies(CString& rsCommand)
+    {
+        switch (mFields.mnSamplingType) {
+        case kLinear:
+            return AppendRange("lin ", rsCommand);
+        case kDecade:
+            return AppendRange("dec ", rsCommand);
+        case kOctave:
+            return AppendRange("oct ", rsCommand);
+        case kList:
+            if (mFields.msListOfValues.IsEmpty())
+                return gReportFailure(*this, msMessage,
+                                      "__$$Translatable$$_Missing list of frequency values.");
+            rsCommand += "list " + gJoinLines(mFields.msListOfValues);
+            return true;
+        case kPoi:
+            if (mFields.msListOfValues.IsEmpty())
+                return gReportFailure(*this, msMessage,
+                                      "__$$Translatable$$_Missing list of frequency values.");
+            if (mFields.msCountOfListedValues.IsEmpty())
+                return gReportFailure(
+                    *this, msMessage,
+                    "__$$Translatable$$_Missing the number of frequency values listed.");
+            rsCommand += "poi " + mFields.msCountOfListedValues + " ";
+            rsCommand += gJoinLines(mFields.msListOfValues);
+            return true;
+        default:
+            return true; // nothing is selected
+        }
+    }
+
+    bool AppendRange(const char* pType, CString& rsCommand)
+    {
+        if (mFields.msNumberOfSamples.IsEmpty())
+            return gReportFailure(*this, msMessage,
+                                  "__$$Translatable$$_Missing number of frequency samples.");
+        if (mFields.msStartFrequency.IsEmpty())
+            return gReportFailure(*this, msMessage,
+                                  "__$$Translatable$$_Missing starting frequency.");
+        if (mFields.msFinalFrequency.IsEmpty())
+            return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing final frequency.");
+        rsCommand += pType + mFields.msNumberOfSamples + " " + mFields.msStartFrequency + " " +
+                     mFields.msFinalFrequency;
+        return true;
+    }
+
+    CString msMessage;
+    SweepSlot mSweep;
+    CComboBox mSamplingType;
+    TFields mFields;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisAC1Page>();

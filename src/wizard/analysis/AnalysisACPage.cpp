@@ -1,49 +1,41 @@
-#include "wizard/analysis/AnalysisACPage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
 #include "platform/ui/Translate.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 
 namespace
 {
-// The ids of the radio buttons stand before these.
 enum EControlId {
-    kSamplesGroup = 1011,
+    kDecade = 1001,
+    kOctave,
+    kLinear,
+    kSamplesGroup,
     kNumberOfSamples,
     kRangeGroup,
     kStartFrequency,
     kFinalFrequency,
 };
 
-constexpr TControlRow SamplingType(int nId, const char* pLabel, unsigned nFlags = kNoFlags)
-{
-    return Row(nId, "sampling-type", EControl::RadioButton, pLabel,
-               {7, 7 + (nId - CAnalysisACPage::kDecade) * 14, 100, 12}, nFlags);
-}
-
-constexpr TGrid kFrom{14, 24, 42, 74, 0, 0, 113, 0};
-constexpr TGrid kTo{133, 16, 153, 74, 0, 0, 113, 0};
-constexpr auto kRows =
-    JoinRows(SamplingType(CAnalysisACPage::kDecade, "&DEC  (by decades)", kFirstOfGroup),
-             SamplingType(CAnalysisACPage::kOctave, "&OCT  (by octaves)"),
-             SamplingType(CAnalysisACPage::kLinear, "&LIN  (linear sweep)"),
-             Row(kSamplesGroup, "samples-group", EControl::Group, "Frequencies per decade",
-                 {7, 55, 235, 36}),
-             Row(kNumberOfSamples, "number-of-samples", EControl::Edit, "",
-                 {42, 71, 74, kEditHeight}, kUnlabelled),
-             Row(kRangeGroup, "range-group", EControl::Group, "Frequency range", {7, 97, 235, 36}),
-             EditLine(kFrom, 0, kStartFrequency, "start-frequency", "F&rom:"),
-             EditLine(kTo, 0, kFinalFrequency, "final-frequency", "&To:"));
-constexpr DialogTemplate kTemplate{119, "AC analysis", kPageSize, kRows};
+constexpr TColumns kFrom{.nField = 42};
+constexpr TColumns kTo{.nField = 153};
+constexpr auto kRows = PageRows(
+    RadioLines("sampling-type", TChoice{kDecade, "&DEC  (by decades)"},
+               TChoice{kOctave, "&OCT  (by octaves)"}, TChoice{kLinear, "&LIN  (linear sweep)"}),
+    GroupBox(kSamplesGroup, "samples-group", "Frequencies per decade",
+             Beside(130, BareEdit(kNumberOfSamples, "number-of-samples"), Space(0))),
+    GroupBox(kRangeGroup, "range-group", "Frequency range",
+             Beside(130, EditLine(kFrom, kStartFrequency, "start-frequency", "F&rom:"),
+                    EditLine(kTo, kFinalFrequency, "final-frequency", "&To:"))));
+constexpr DialogTemplate kTemplate{"AC analysis", kPageSize, kRows};
 
 const char* SamplesLabel(int nSamplingType)
 {
     switch (nSamplingType) {
-    case CAnalysisACPage::kOctave:
+    case kOctave:
         return "__$$Translatable$$_Frequencies per octave";
-    case CAnalysisACPage::kLinear:
+    case kLinear:
         return "__$$Translatable$$_Number of frequencies";
     default:
         return "__$$Translatable$$_Frequencies per decade";
@@ -53,9 +45,9 @@ const char* SamplesLabel(int nSamplingType)
 const char* Keyword(int nSamplingType)
 {
     switch (nSamplingType) {
-    case CAnalysisACPage::kOctave:
+    case kOctave:
         return "OCT ";
-    case CAnalysisACPage::kLinear:
+    case kLinear:
         return "LIN ";
     default:
         return "DEC ";
@@ -63,54 +55,67 @@ const char* Keyword(int nSamplingType)
 }
 } // namespace
 
-CAnalysisACPage::CAnalysisACPage() : CCommandPage(kTemplate) {}
-
-TMessageMap CAnalysisACPage::GetMessageMap() const
+/// Builds ".ac " and a range of frequencies, its keyword in capitals.
+/// No node of the wizard's tree leads here.
+class CAnalysisACPage : public CCommandPage
 {
-    static constexpr TMessageMapEntry kHandlers[] = {
-        On<&CAnalysisACPage::OnSamplingType>(ENotify::Clicked, kDecade),
-        On<&CAnalysisACPage::OnSamplingType>(ENotify::Clicked, kOctave),
-        On<&CAnalysisACPage::OnSamplingType>(ENotify::Clicked, kLinear),
-    };
-    return kHandlers;
-}
+public:
+    CAnalysisACPage() : CCommandPage(kTemplate) {}
 
-void CAnalysisACPage::DoDataExchange(CDataExchange* pDX)
-{
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Text(pDX, kNumberOfSamples, msNumberOfSamples);
-    DDX_Text(pDX, kStartFrequency, msStartFrequency);
-    DDX_Text(pDX, kFinalFrequency, msFinalFrequency);
-}
+    TMessageMap GetMessageMap() const override
+    {
+        static constexpr TMessageMapEntry kHandlers[] = {
+            On<&CAnalysisACPage::OnSamplingType>(ENotify::Clicked, kDecade),
+            On<&CAnalysisACPage::OnSamplingType>(ENotify::Clicked, kOctave),
+            On<&CAnalysisACPage::OnSamplingType>(ENotify::Clicked, kLinear),
+        };
+        return kHandlers;
+    }
 
-bool CAnalysisACPage::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    CheckRadioButton(kDecade, kLinear, mnSamplingType);
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Text(pDX, kNumberOfSamples, msNumberOfSamples);
+        DDX_Text(pDX, kStartFrequency, msStartFrequency);
+        DDX_Text(pDX, kFinalFrequency, msFinalFrequency);
+    }
 
-void CAnalysisACPage::OnSamplingType(int nId)
-{
-    mnSamplingType = nId;
-    GetDlgItem(kSamplesGroup)->SetWindowText(xlang::gTranslate(SamplesLabel(nId)));
-}
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        CheckRadioButton(kDecade, kLinear, mnSamplingType);
+        return true;
+    }
 
-bool CAnalysisACPage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    for (CString* pField : {&msNumberOfSamples, &msStartFrequency, &msFinalFrequency})
-        gTrim(*pField);
-    if (msNumberOfSamples.IsEmpty())
-        return gReportFailure(*this, msMessage,
-                              "__$$Translatable$$_Missing number of frequency samples.");
-    if (msStartFrequency.IsEmpty())
-        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing starting frequency.");
-    if (msFinalFrequency.IsEmpty())
-        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing final frequency.");
-    rsCommand = CString(".ac ") + Keyword(mnSamplingType) + msNumberOfSamples + " " +
-                msStartFrequency + " " + msFinalFrequency;
-    return true;
-}
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        gTrim(msNumberOfSamples, msStartFrequency, msFinalFrequency);
+        if (msNumberOfSamples.IsEmpty())
+            return gReportFailure(*this, msMessage,
+                                  "__$$Translatable$$_Missing number of frequency samples.");
+        if (msStartFrequency.IsEmpty())
+            return gReportFailure(*this, msMessage,
+                                  "__$$Translatable$$_Missing starting frequency.");
+        if (msFinalFrequency.IsEmpty())
+            return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing final frequency.");
+        rsCommand = CString(".ac ") + Keyword(mnSamplingType) + msNumberOfSamples + " " +
+                    msStartFrequency + " " + msFinalFrequency;
+        return true;
+    }
+
+private:
+    void OnSamplingType(int nId)
+    {
+        mnSamplingType = nId;
+        GetDlgItem(kSamplesGroup)->SetWindowText(xlang::gTranslate(SamplesLabel(nId)));
+    }
+
+    CString msMessage;
+    CString msNumberOfSamples;
+    CString msStartFrequency;
+    CString msFinalFrequency;
+    int mnSamplingType = kDecade;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisACPage>();

@@ -1,54 +1,60 @@
-#include "wizard/analysis/AnalysisDCOpPage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/Remembered.h"
 
 namespace
 {
 enum EControlId { kFrame = 1001, kNote, kSuppress };
 
-constexpr auto kRows = JoinRows(
-    Row(kFrame, "frame", EControl::Group, "", {7, 7, 235, 56}, kUnlabelled),
-    Row(kNote, "note", EControl::Static, "DC Operating Point Calculation.",
-        {11, 20, 227, kLabelHeight}),
-    Row(kSuppress, "suppress", EControl::CheckBox,
-        "&Suppress automatic output of node voltages and source currents", {11, 40, 229, 12}));
-constexpr DialogTemplate kTemplate{111, "DC operating point", kPageSize, kRows};
+constexpr auto kRows = PageRows(
+    GroupBox(kFrame, "frame", "", NoteLine(kNote, "note", "DC Operating Point Calculation."),
+             CheckLine(kSuppress, "suppress",
+                       "&Suppress automatic output of node voltages and source currents")));
+constexpr DialogTemplate kTemplate{"DC operating point", kPageSize, kRows};
 
-Remembered<CAnalysisDCOpPage::TFields> sRemembered;
+struct TFields {
+    int mnSuppress = 0;
+};
+
+Remembered<TFields> sRemembered;
 } // namespace
 
-CAnalysisDCOpPage::CAnalysisDCOpPage() : CCommandPage(kTemplate) {}
-
-TMessageMap CAnalysisDCOpPage::GetMessageMap() const
+/// Builds ".op", the calculation of the DC operating point.
+class CAnalysisDCOpPage : public CCommandPage
 {
-    return {};
-}
+public:
+    CAnalysisDCOpPage() : CCommandPage(kTemplate) {}
 
-void CAnalysisDCOpPage::DoDataExchange(CDataExchange* pDX)
-{
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Check(pDX, kSuppress, mFields.mnSuppress);
-}
+    TMessageMap GetMessageMap() const override { return {}; }
 
-bool CAnalysisDCOpPage::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    mFields = sRemembered.Get();
-    UpdateData(false);
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Check(pDX, kSuppress, mFields.mnSuppress);
+    }
 
-bool CAnalysisDCOpPage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    rsCommand = ".op";
-    if (mFields.mnSuppress != 0)
-        rsCommand += " noprint";
-    sRemembered.Set(mFields);
-    return true;
-}
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        mFields = sRemembered.Get();
+        UpdateData(false);
+        return true;
+    }
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        rsCommand = ".op";
+        if (mFields.mnSuppress != 0)
+            rsCommand += " noprint";
+        sRemembered.Set(mFields);
+        return true;
+    }
+
+private:
+    TFields mFields;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisDCOpPage>();

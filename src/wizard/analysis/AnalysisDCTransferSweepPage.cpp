@@ -1,36 +1,36 @@
-#include "wizard/analysis/AnalysisDCTransferSweepPage.h"
-
 #include "platform/ui/RuntimeClassDefinition.h"
+#include "wizard/analysis/SweepRows.h"
+#include "wizard/frame/CommandPage.h"
 
 namespace
 {
-constexpr DialogTemplate kTemplate{112, "DC transfer sweep", kPageSize, kSweepRows};
+constexpr DialogTemplate kTemplate{"DC transfer sweep", kPageSize, kSweepRows};
 } // namespace
 
-CAnalysisDCTransferSweepPage::CAnalysisDCTransferSweepPage()
-    : CCommandPage(kTemplate), mSweeps(*this, ".dc ")
+/// Builds ".dc " and up to three nested sweeps. Without the first one it builds nothing and says
+/// nothing.
+class CAnalysisDCTransferSweepPage : public CCommandPage
 {
-}
+public:
+    CAnalysisDCTransferSweepPage() : CCommandPage(kTemplate), mSweeps(*this, ".dc ") {}
 
-TMessageMap CAnalysisDCTransferSweepPage::GetMessageMap() const
-{
-    static constexpr TMessageMapEntry kHandlers[] = {
-        On<&CAnalysisDCTransferSweepPage::OnSweep>(ENotify::Clicked, kSweep1),
-        On<&CAnalysisDCTransferSweepPage::OnSweep>(ENotify::Clicked, kSweep2),
-        On<&CAnalysisDCTransferSweepPage::OnSweep>(ENotify::Clicked, kSweep3),
-    };
-    return kHandlers;
-}
+    TMessageMap GetMessageMap() const override
+    {
+        static constexpr TMessageMapEntry kHandlers[] = {
+            On<&CAnalysisDCTransferSweepPage::OnSweep>(ENotify::Clicked, kSweep1),
+            On<&CAnalysisDCTransferSweepPage::OnSweep>(ENotify::Clicked, kSweep2),
+            On<&CAnalysisDCTransferSweepPage::OnSweep>(ENotify::Clicked, kSweep3),
+        };
+        return kHandlers;
+    }
 
-void CAnalysisDCTransferSweepPage::OnSweep(int nButton)
-{
-    mSweeps.Press(nButton);
-}
+    // Meant: without the first sweep it says nothing, and nothing is remembered.
+    bool BuildCommand(CString& rsCommand) override { return mSweeps.Compose(rsCommand); }
 
-// Meant: without the first sweep it says nothing, and nothing is remembered.
-bool CAnalysisDCTransferSweepPage::BuildCommand(CString& rsCommand)
-{
-    return mSweeps.Compose(rsCommand);
-}
+private:
+    void OnSweep(int nButton) { mSweeps.Press(nButton); }
+
+    SweepRows mSweeps;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisDCTransferSweepPage>();

@@ -1,8 +1,7 @@
-#include "wizard/analysis/AnalysisFourierPage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
@@ -16,66 +15,75 @@ enum EControlId {
     kInterpolate,
 };
 
-constexpr TGrid kGrid{7, 144, 155, 87, 0, 0, 7, 19};
-constexpr auto kRows = JoinRows(
-    EditLine(kGrid, 0, kBaseFrequency, "base-frequency", "&Base frequency:"),
-    EditLine(kGrid, 1, kNumberOfFrequencies, "number-of-frequencies",
+constexpr TColumns kFields{.nField = 155};
+constexpr auto kRows = PageRows(
+    EditLine(kFields, kBaseFrequency, "base-frequency", "&Base frequency:"),
+    EditLine(kFields, kNumberOfFrequencies, "number-of-frequencies",
              "&Number of frequencies (default is 9):"),
-    EditLine(kGrid, 2, kNumberOfPoints, "number-of-points", "N&umber of points (default is 100):"),
-    LabelAbove(Row(kSignals, "signals", EControl::Edit, "", {7, 80, 235, kEditHeight}),
-               "&Signals to be transformed:"),
-    Row(kInterpolate, "interpolate", EControl::CheckBox, "In&terpolate time domain data",
-        {7, 102, 235, 12}));
-constexpr DialogTemplate kTemplate{113, "Fourier", kPageSize, kRows};
+    EditLine(kFields, kNumberOfPoints, "number-of-points", "N&umber of points (default is 100):"),
+    WideEdit(kSignals, "signals", "&Signals to be transformed:"),
+    CheckLine(kInterpolate, "interpolate", "In&terpolate time domain data"));
+constexpr DialogTemplate kTemplate{"Fourier", kPageSize, kRows};
 
-Remembered<CAnalysisFourierPage::TFields> sRemembered;
+struct TFields {
+    CString msBaseFrequency;
+    CString msNumberOfFrequencies;
+    CString msNumberOfPoints;
+    CString msSignals;
+    int mnInterpolate = 0;
+};
+
+Remembered<TFields> sRemembered;
 } // namespace
 
-CAnalysisFourierPage::CAnalysisFourierPage() : CCommandPage(kTemplate) {}
-
-TMessageMap CAnalysisFourierPage::GetMessageMap() const
+/// Builds ".four " and what is to be transformed from a transient result.
+class CAnalysisFourierPage : public CCommandPage
 {
-    return {};
-}
+public:
+    CAnalysisFourierPage() : CCommandPage(kTemplate) {}
 
-void CAnalysisFourierPage::DoDataExchange(CDataExchange* pDX)
-{
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Text(pDX, kBaseFrequency, mFields.msBaseFrequency);
-    DDX_Text(pDX, kNumberOfFrequencies, mFields.msNumberOfFrequencies);
-    DDX_Text(pDX, kNumberOfPoints, mFields.msNumberOfPoints);
-    DDX_Text(pDX, kSignals, mFields.msSignals);
-    DDX_Check(pDX, kInterpolate, mFields.mnInterpolate);
-}
+    TMessageMap GetMessageMap() const override { return {}; }
 
-bool CAnalysisFourierPage::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    mFields = sRemembered.Get();
-    mFields.mnInterpolate = 1; // meant: the box comes up checked, whatever it was
-    sRemembered.Set(mFields);
-    UpdateData(false);
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Text(pDX, kBaseFrequency, mFields.msBaseFrequency);
+        DDX_Text(pDX, kNumberOfFrequencies, mFields.msNumberOfFrequencies);
+        DDX_Text(pDX, kNumberOfPoints, mFields.msNumberOfPoints);
+        DDX_Text(pDX, kSignals, mFields.msSignals);
+        DDX_Check(pDX, kInterpolate, mFields.mnInterpolate);
+    }
 
-bool CAnalysisFourierPage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    for (CString* pField : {&mFields.msBaseFrequency, &mFields.msNumberOfFrequencies,
-                            &mFields.msNumberOfPoints, &mFields.msSignals})
-        pField->TrimLeft();
-    if (mFields.msBaseFrequency.IsEmpty())
-        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing base frequency.");
-    if (mFields.msSignals.IsEmpty())
-        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing plot list.");
-    rsCommand = ".four " + mFields.msBaseFrequency + " " + mFields.msSignals;
-    if (!mFields.msNumberOfFrequencies.IsEmpty())
-        rsCommand += " nfreqs=" + mFields.msNumberOfFrequencies;
-    if (!mFields.msNumberOfPoints.IsEmpty())
-        rsCommand += " npoints=" + mFields.msNumberOfPoints;
-    rsCommand += mFields.mnInterpolate != 0 ? " interpolate=1" : " interpolate=0";
-    sRemembered.Set(mFields);
-    return true;
-}
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        mFields = sRemembered.Get();
+        mFields.mnInterpolate = 1; // meant: the box comes up checked, whatever it was
+        sRemembered.Set(mFields);
+        UpdateData(false);
+        return true;
+    }
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        gTrimLeft(mFields.msBaseFrequency, mFields.msNumberOfFrequencies, mFields.msNumberOfPoints,
+                  mFields.msSignals);
+        if (mFields.msBaseFrequency.IsEmpty())
+            return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing base frequency.");
+        if (mFields.msSignals.IsEmpty())
+            return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing plot list.");
+        rsCommand = ".four " + mFields.msBaseFrequency + " " + mFields.msSignals;
+        gAppendIfAny(rsCommand, " nfreqs=", mFields.msNumberOfFrequencies);
+        gAppendIfAny(rsCommand, " npoints=", mFields.msNumberOfPoints);
+        rsCommand += mFields.mnInterpolate != 0 ? " interpolate=1" : " interpolate=0";
+        sRemembered.Set(mFields);
+        return true;
+    }
+
+private:
+    CString msMessage;
+    TFields mFields;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisFourierPage>();

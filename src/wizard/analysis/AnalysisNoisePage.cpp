@@ -1,9 +1,8 @@
-#include "wizard/analysis/AnalysisNoisePage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
 #include "wizard/analysis/SourceName.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
@@ -18,63 +17,71 @@ enum EControlId {
     kInputSource,
 };
 
-constexpr TGrid kGrid{21, 112, 137, 91, 0, 0, 38, 19};
-constexpr TGrid kInputGrid{21, 112, 137, 91, 0, 0, 101, 0};
-constexpr auto kRows = JoinRows(
-    Row(kFrame, "frame", EControl::Group, "Noise analysis", {7, 7, 235, 122}),
-    Row(kOutputGroup, "output-group", EControl::Group, "Circuit output terminals",
-        {14, 22, 221, 56}),
-    EditLine(kGrid, 0, kOutputNode, "output-node", "&Output node:"),
-    EditLine(kGrid, 1, kReferenceNode, "reference-node", "&Reference node (GND):"),
-    Row(kInputGroup, "input-group", EControl::Group, "Circuit input", {14, 85, 221, 37}),
-    EditLine(kInputGrid, 0, kInputSource, "input-source", "&Voltage or current source name:"));
-constexpr DialogTemplate kTemplate{114, "Noise", kPageSize, kRows};
+constexpr TColumns kFields{.nField = 137};
+constexpr auto kRows = PageRows(GroupBox(
+    kFrame, "frame", "Noise analysis",
+    GroupBox(kOutputGroup, "output-group", "Circuit output terminals",
+             EditLine(kFields, kOutputNode, "output-node", "&Output node:"),
+             EditLine(kFields, kReferenceNode, "reference-node", "&Reference node (GND):")),
+    GroupBox(kInputGroup, "input-group", "Circuit input",
+             EditLine(kFields, kInputSource, "input-source", "&Voltage or current source name:"))));
+constexpr DialogTemplate kTemplate{"Noise", kPageSize, kRows};
 
-Remembered<CAnalysisNoisePage::TFields> sRemembered;
+struct TFields {
+    CString msOutputNode;
+    CString msReferenceNode;
+    CString msInputSource;
+};
+
+Remembered<TFields> sRemembered;
 } // namespace
 
-CAnalysisNoisePage::CAnalysisNoisePage() : CCommandPage(kTemplate) {}
-
-TMessageMap CAnalysisNoisePage::GetMessageMap() const
+/// Builds ".noise v(", the output of a noise analysis and its input source.
+class CAnalysisNoisePage : public CCommandPage
 {
-    return {};
-}
+public:
+    CAnalysisNoisePage() : CCommandPage(kTemplate) {}
 
-void CAnalysisNoisePage::DoDataExchange(CDataExchange* pDX)
-{
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Text(pDX, kOutputNode, mFields.msOutputNode);
-    DDX_Text(pDX, kReferenceNode, mFields.msReferenceNode);
-    DDX_Text(pDX, kInputSource, mFields.msInputSource);
-}
+    TMessageMap GetMessageMap() const override { return {}; }
 
-bool CAnalysisNoisePage::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    mFields = sRemembered.Get();
-    UpdateData(false);
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Text(pDX, kOutputNode, mFields.msOutputNode);
+        DDX_Text(pDX, kReferenceNode, mFields.msReferenceNode);
+        DDX_Text(pDX, kInputSource, mFields.msInputSource);
+    }
 
-bool CAnalysisNoisePage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    for (CString* pField :
-         {&mFields.msOutputNode, &mFields.msReferenceNode, &mFields.msInputSource})
-        pField->TrimLeft();
-    if (mFields.msInputSource.IsEmpty())
-        return gReportFailure(*this, msMessage,
-                              "__$$Translatable$$_Missing input voltage or current source name.");
-    if (!gIsSourceName(mFields.msInputSource))
-        return gReportFailure(*this, msMessage, kIllegalSourceName);
-    if (mFields.msOutputNode.IsEmpty())
-        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing output node.");
-    rsCommand = ".noise v(" + mFields.msOutputNode;
-    if (!mFields.msReferenceNode.IsEmpty())
-        rsCommand += "," + mFields.msReferenceNode;
-    rsCommand += ") " + mFields.msInputSource;
-    sRemembered.Set(mFields);
-    return true;
-}
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        mFields = sRemembered.Get();
+        UpdateData(false);
+        return true;
+    }
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        gTrimLeft(mFields.msOutputNode, mFields.msReferenceNode, mFields.msInputSource);
+        if (mFields.msInputSource.IsEmpty())
+            return gReportFailure(
+                *this, msMessage,
+                "__$$Translatable$$_Missing input voltage or current source name.");
+        if (!gIsSourceName(mFields.msInputSource))
+            return gReportFailure(*this, msMessage, kIllegalSourceName);
+        if (mFields.msOutputNode.IsEmpty())
+            return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing output node.");
+        rsCommand = ".noise v(" + mFields.msOutputNode;
+        gAppendIfAny(rsCommand, ",", mFields.msReferenceNode);
+        rsCommand += ") " + mFields.msInputSource;
+        sRemembered.Set(mFields);
+        return true;
+    }
+
+private:
+    CString msMessage;
+    TFields mFields;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisNoisePage>();

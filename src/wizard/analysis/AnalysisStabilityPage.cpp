@@ -1,53 +1,62 @@
-#include "wizard/analysis/AnalysisStabilityPage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
+#include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
 namespace
 {
 enum EControlId { kFrame = 1001, kSourceOrProbe };
 
-constexpr TGrid kGrid{14, 112, 130, 105, 0, 0, 24, 0};
-constexpr auto kRows = JoinRows(
-    Row(kFrame, "frame", EControl::Group, "Loop stability analysis", {7, 7, 235, 38}),
-    EditLine(kGrid, 0, kSourceOrProbe, "source-or-probe", "&Voltage source or Probe name:"));
-constexpr DialogTemplate kTemplate{115, "Stability", kPageSize, kRows};
+constexpr TColumns kFields{.nField = 130};
+constexpr auto kRows = PageRows(GroupBox(
+    kFrame, "frame", "Loop stability analysis",
+    EditLine(kFields, kSourceOrProbe, "source-or-probe", "&Voltage source or Probe name:")));
+constexpr DialogTemplate kTemplate{"Stability", kPageSize, kRows};
 
-Remembered<CAnalysisStabilityPage::TFields> sRemembered;
+struct TFields {
+    CString msSourceOrProbe;
+};
+
+Remembered<TFields> sRemembered;
 } // namespace
 
-CAnalysisStabilityPage::CAnalysisStabilityPage() : CCommandPage(kTemplate) {}
-
-TMessageMap CAnalysisStabilityPage::GetMessageMap() const
+/// Builds ".lstb " and the source or probe in the loop whose stability is analysed.
+class CAnalysisStabilityPage : public CCommandPage
 {
-    return {};
-}
+public:
+    CAnalysisStabilityPage() : CCommandPage(kTemplate) {}
 
-void CAnalysisStabilityPage::DoDataExchange(CDataExchange* pDX)
-{
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Text(pDX, kSourceOrProbe, mFields.msSourceOrProbe);
-}
+    TMessageMap GetMessageMap() const override { return {}; }
 
-bool CAnalysisStabilityPage::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    mFields = sRemembered.Get();
-    UpdateData(false);
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Text(pDX, kSourceOrProbe, mFields.msSourceOrProbe);
+    }
 
-bool CAnalysisStabilityPage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    mFields.msSourceOrProbe.TrimLeft();
-    // Meant: without a name it succeeds, and the text of the last page is inserted again.
-    if (!mFields.msSourceOrProbe.IsEmpty())
-        rsCommand = ".lstb " + mFields.msSourceOrProbe;
-    sRemembered.Set(mFields);
-    return true;
-}
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        mFields = sRemembered.Get();
+        UpdateData(false);
+        return true;
+    }
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        gTrimLeft(mFields.msSourceOrProbe);
+        // Meant: without a name it succeeds, and the text of the last page is inserted again.
+        if (!mFields.msSourceOrProbe.IsEmpty())
+            rsCommand = ".lstb " + mFields.msSourceOrProbe;
+        sRemembered.Set(mFields);
+        return true;
+    }
+
+private:
+    TFields mFields;
+};
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisStabilityPage>();

@@ -1,6 +1,8 @@
 #include "wizard/analysis/SourceName.h"
 
+#include "wizard/frame/PageText.h"
+
 bool gIsSourceName(const CString& rsText)
 {
-    return CString("VvIi").Find(rsText[0]) >= 0;
+    return gBeginsWithLetter(rsText, 'V') || gBeginsWithLetter(rsText, 'I');
 }

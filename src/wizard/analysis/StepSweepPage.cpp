@@ -200,10 +200,8 @@ bool CStepSweepPage::Reports(const char* pMissing)
 void CStepSweepPage::OnAccept()
 {
     UpdateData(true);
-    for (CString* pField :
-         {&mFields.msStart, &mFields.msStop, &mFields.msListOfValues, &mFields.msIncrement,
-          &mFields.msNumberOfPoints, &mFields.msParameterName, &mFields.msModelName})
-        pField->TrimLeft();
+    gTrimLeft(mFields.msStart, mFields.msStop, mFields.msListOfValues, mFields.msIncrement,
+              mFields.msNumberOfPoints, mFields.msParameterName, mFields.msModelName);
 
     const TSweepEntries entries{Type(), Parameter(), mFields};
     if (gVariesParameter(entries.type) && Reports(gMissingSweepParameter(entries))) {

@@ -74,7 +74,7 @@ inline constexpr auto kRows = JoinRows(
     Row(kAccept, "accept", EControl::PushButton, "&Accept", {252, 163, 50, 14}),
     Row(kCancel, "cancel", EControl::PushButton, "Cancel", {305, 163, 50, 14}));
 // Meant: no button is the default one, so that Enter ends the dialog without a new result.
-inline constexpr DialogTemplate kTemplate{121, "Sweep", {362, 184}, kRows};
+inline constexpr DialogTemplate kTemplate{"Sweep", {362, 184}, kRows};
 
 /// The labels of a type; empty where the field isn't shown.
 struct TTypeLabels {

@@ -6,12 +6,10 @@
 enum ESweepButton { kSweep1 = 1001, kSweep2 = 1011, kSweep3 = 1021 };
 
 /// The template of such a page.
-inline constexpr auto kSweepRows = JoinRows(
-    SweepLine(kSweep1, "sweep-1", "&Sweep 1", "sweep-1-summary-1", "sweep-1-summary-2", 7, 9),
-    SweepLine(kSweep2, "sweep-2", "S&weep 2", "sweep-2-summary-1", "sweep-2-summary-2", 7, 33,
-              kDisabled),
-    SweepLine(kSweep3, "sweep-3", "Sw&eep 3", "sweep-3-summary-1", "sweep-3-summary-2", 7, 57,
-              kDisabled));
+inline constexpr auto kSweepRows = PageRows(
+    SweepLine(kSweep1, "sweep-1", "&Sweep 1", "sweep-1-summary-1", "sweep-1-summary-2"),
+    SweepLine(kSweep2, "sweep-2", "S&weep 2", "sweep-2-summary-1", "sweep-2-summary-2", kDisabled),
+    SweepLine(kSweep3, "sweep-3", "Sw&eep 3", "sweep-3-summary-1", "sweep-3-summary-2", kDisabled));
 
 /// Up to three nested sweeps that make a command of their own. A sweep counts only while all before
 /// it are used.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/ui/TemplateRows.h"
 #include "wizard/analysis/StepSweepPage.h"
+#include "wizard/frame/PageLayout.h"
 
 /// Where a sweep button's two summaries stand: the ids behind the button's.
 constexpr int FirstSummaryOf(int nButton)
@@ -15,15 +15,19 @@ constexpr int SecondSummaryOf(int nButton)
 
 /// A sweep button with the two summaries of its sweep to the right of it.
 /// `pSummaryKey1`, `pSummaryKey2`: the summaries' keys; the ids are those above.
-constexpr std::array<TControlRow, 3> SweepLine(int nButton, const char* pKey, const char* pLabel,
-                                               const char* pSummaryKey1, const char* pSummaryKey2,
-                                               int nX, int nTop, unsigned nFlags = kNoFlags)
+constexpr TBlock<3> SweepLine(int nButton, const char* pKey, const char* pLabel,
+                              const char* pSummaryKey1, const char* pSummaryKey2,
+                              unsigned nFlags = kNoFlags)
 {
-    return {Row(nButton, pKey, EControl::PushButton, pLabel, {nX, nTop, 54, 14}, nFlags),
-            Row(FirstSummaryOf(nButton), pSummaryKey1, EControl::Static, "Not used",
-                {nX + 64, nTop + 3, 70, kLabelHeight}),
-            Row(SecondSummaryOf(nButton), pSummaryKey2, EControl::Static, "",
-                {nX + 140, nTop + 3, 80, kLabelHeight})};
+    const TControlRow button =
+        Row(nButton, pKey, EControl::PushButton, pLabel, {7, 0, 61, 14}, nFlags);
+    return {{{{button, true},
+              {Row(FirstSummaryOf(nButton), pSummaryKey1, EControl::Static, "Not used",
+                   {78, 3, 70, kLabelHeight})},
+              {Row(SecondSummaryOf(nButton), pSummaryKey2, EControl::Static, "",
+                   {154, 3, 80, kLabelHeight})}}},
+            button.rect.h,
+            PageLayout::kLineGap};
 }
 
 /// A sweep of a page: its clause, its dialog, and the summaries on the page. A page starts without

@@ -43,17 +43,14 @@ constexpr auto kVoltageSourceRows =
                  std::array{"Bit", "Bus", "Constant", "Current-controlled", "Exponential", "FM",
                             "Piecewise-linear", "Pulse", "Sinusoidal", "Voltage-controlled"});
 constexpr auto kOptimizationRows = CategoryRows("Optimization", std::array{"Wizard"});
-constexpr DialogTemplate kAnalysisTemplate{101, "Analysis", kPageSize, kAnalysisRows};
-constexpr DialogTemplate kCurrentSourceTemplate{102, "Current source", kPageSize,
-                                                kCurrentSourceRows};
-constexpr DialogTemplate kFilesTemplate{103, "Files", kPageSize, kFilesRows};
-constexpr DialogTemplate kInitializationTemplate{104, "Initialization", kPageSize,
-                                                 kInitializationRows};
-constexpr DialogTemplate kOutputTemplate{105, "Output", kPageSize, kOutputRows};
-constexpr DialogTemplate kSettingsTemplate{106, "Settings", kPageSize, kSettingsRows};
-constexpr DialogTemplate kVoltageSourceTemplate{107, "Voltage source", kPageSize,
-                                                kVoltageSourceRows};
-constexpr DialogTemplate kOptimizationTemplate{108, "Optimization", kPageSize, kOptimizationRows};
+constexpr DialogTemplate kAnalysisTemplate{"Analysis", kPageSize, kAnalysisRows};
+constexpr DialogTemplate kCurrentSourceTemplate{"Current source", kPageSize, kCurrentSourceRows};
+constexpr DialogTemplate kFilesTemplate{"Files", kPageSize, kFilesRows};
+constexpr DialogTemplate kInitializationTemplate{"Initialization", kPageSize, kInitializationRows};
+constexpr DialogTemplate kOutputTemplate{"Output", kPageSize, kOutputRows};
+constexpr DialogTemplate kSettingsTemplate{"Settings", kPageSize, kSettingsRows};
+constexpr DialogTemplate kVoltageSourceTemplate{"Voltage source", kPageSize, kVoltageSourceRows};
+constexpr DialogTemplate kOptimizationTemplate{"Optimization", kPageSize, kOptimizationRows};
 
 void SelectPage(CWnd& rPage, ECategory category, int nButtonId)
 {

@@ -13,15 +13,17 @@ bool Confirms(const char* pQuestion)
 }
 } // namespace
 
-ListEditing::ListEditing(CWnd& rPage, CListBox& rList, const TListEditingTexts& rTexts)
-    : mrPage(rPage), mrList(rList), mrTexts(rTexts)
+ListEditing::ListEditing(CWnd& rPage, CListBox& rList, const TListEditingParts& rParts)
+    : mrPage(rPage), mrList(rList), mrParts(rParts)
 {
 }
 
 bool ListEditing::Add(const CString& rsEntry, CString& rsMessage)
 {
+    if (mrList.GetParent() != &mrPage)
+        gThrowInvalidArg("list editing: the list isn't bound to a control of the page");
     if (mrList.FindStringExact(-1, rsEntry) >= 0) {
-        rsMessage = gShownText(mrTexts.pAlreadyThere);
+        rsMessage = gShownText(mrParts.pAlreadyThere);
         return gReportMessage(mrPage, rsMessage);
     }
     mrList.InsertString(0, rsEntry);
@@ -33,7 +35,7 @@ bool ListEditing::Add(const CString& rsEntry, CString& rsMessage)
 void ListEditing::Delete()
 {
     const int nSelected = mrList.GetCurSel();
-    if (nSelected < 0 || !Confirms(mrTexts.pDeleteQuestion))
+    if (nSelected < 0 || !Confirms(mrParts.pDeleteQuestion))
         return;
     mrList.DeleteString(nSelected);
     if (mrList.GetCount() > 0)
@@ -44,7 +46,7 @@ void ListEditing::Delete()
 
 void ListEditing::Clear()
 {
-    if (mrList.GetCurSel() < 0 || !Confirms(mrTexts.pClearQuestion))
+    if (mrList.GetCurSel() < 0 || !Confirms(mrParts.pClearQuestion))
         return;
     mrList.ResetContent();
     EnableButtons(false);
@@ -60,7 +62,7 @@ CString ListEditing::OldestFirst(const CString& rsSeparator) const
 
 void ListEditing::EnableButtons(bool bEnable)
 {
-    for (const int nButton : {mrTexts.nDeleteButton, mrTexts.nClearButton}) {
+    for (const int nButton : {mrParts.nDeleteButton, mrParts.nClearButton}) {
         CWnd* const pButton = mrPage.GetDlgItem(nButton);
         if (!pButton)
             gThrowInvalidArg("list editing: the page has no button of this id");

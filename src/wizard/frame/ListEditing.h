@@ -7,7 +7,7 @@ class CWnd;
 
 /// What differs between the lists of two pages. A text without the translation marker is shown in
 /// English in every language.
-struct TListEditingTexts {
+struct TListEditingParts {
     int nDeleteButton;
     int nClearButton;
     const char* pAlreadyThere; ///< the message of an entry that is refused
@@ -19,8 +19,8 @@ struct TListEditingTexts {
 class ListEditing
 {
 public:
-    /// `rPage`, `rList` and `rTexts` live longer than this.
-    ListEditing(CWnd& rPage, CListBox& rList, const TListEditingTexts& rTexts);
+    /// `rPage`, `rList` and `rParts` live longer than this.
+    ListEditing(CWnd& rPage, CListBox& rList, const TListEditingParts& rParts);
 
     /// Puts an entry on top, selects it, and enables Delete and Clear. An entry that is there
     /// already, letter case put aside, is refused with a message; then nothing changes.
@@ -42,5 +42,5 @@ private:
 
     CWnd& mrPage;
     CListBox& mrList;
-    const TListEditingTexts& mrTexts;
+    const TListEditingParts& mrParts;
 };

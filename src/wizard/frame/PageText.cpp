@@ -1,14 +1,20 @@
 #include "wizard/frame/PageText.h"
 
+#include "platform/base/Ascii.h"
 #include "platform/ui/Translate.h"
 #include "platform/ui/Wnd.h"
 
 #include <string_view>
 
-void gTrim(CString& rsField)
+void gAppendIfAny(CString& rsCommand, const char* pBefore, const CString& rsField)
 {
-    rsField.TrimLeft();
-    rsField.TrimRight();
+    if (!rsField.IsEmpty())
+        rsCommand += pBefore + rsField;
+}
+
+bool gBeginsWithLetter(const CString& rsName, char chCapital)
+{
+    return gToUpperAscii(rsName[0]) == chCapital;
 }
 
 CString gJoinLines(const CString& rsText)

@@ -19,7 +19,7 @@ constexpr auto kRows =
              Row(IDCANCEL, "close", EControl::PushButton, "Close", {309, 230, 50, 14}),
              Row(kTree, "tree", EControl::Tree, "", {5, 5, 100, 220}, kUnlabelled),
              Row(kPanePlace, "pane-place", EControl::Frame, "", {114, 5, 249, 220}));
-constexpr DialogTemplate kTemplate{100, "SPICE Command Wizard", {370, 247}, kRows};
+constexpr DialogTemplate kTemplate{"SPICE Command Wizard", {370, 247}, kRows};
 
 // A node's datum: the pane's index below, the mark of a category above.
 constexpr std::int32_t kIndexMask = 0xFFFF;

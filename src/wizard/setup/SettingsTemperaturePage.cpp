@@ -1,8 +1,7 @@
-#include "wizard/setup/SettingsTemperaturePage.h"
-
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
 
@@ -10,47 +9,56 @@ namespace
 {
 enum EControlId { kTemperatures = 1001, kNote };
 
-constexpr auto kRows =
-    JoinRows(LabelAbove(Row(kTemperatures, "temperature-list", EControl::MultilineEdit, "",
-                            {7, 27, 235, 60}, kWantReturn),
-                        "&List circuit temperatures, separated by spaces (in degrees Celsius):",
-                        2 * kLabelHeight),
-             Row(kNote, "note", EControl::Static, "(default is 27)", {7, 92, 235, kLabelHeight}));
-constexpr DialogTemplate kTemplate{150, "Temperature", kPageSize, kRows};
+constexpr auto kRows = PageRows(
+    TextBox(kTemperatures, "temperature-list",
+            "&List circuit temperatures, separated by spaces (in degrees Celsius):", 60, 2),
+    NoteLine(kNote, "note", "(default is 27)"));
+constexpr DialogTemplate kTemplate{"Temperature", kPageSize, kRows};
 
-Remembered<CSettingsTemperaturePage::TFields> sRemembered;
+struct TFields {
+    CString msTemperatures;
+};
+
+Remembered<TFields> sRemembered;
 } // namespace
 
-CSettingsTemperaturePage::CSettingsTemperaturePage() : CCommandPage(kTemplate) {}
-
-TMessageMap CSettingsTemperaturePage::GetMessageMap() const
+/// Builds ".temp " and the temperatures, in degrees Celsius, at which the circuit is analysed.
+class CSettingsTemperaturePage : public CCommandPage
 {
-    return {};
-}
+public:
+    CSettingsTemperaturePage() : CCommandPage(kTemplate) {}
 
-void CSettingsTemperaturePage::DoDataExchange(CDataExchange* pDX)
-{
-    CCommandPage::DoDataExchange(pDX);
-    DDX_Text(pDX, kTemperatures, mFields.msTemperatures);
-}
+    TMessageMap GetMessageMap() const override { return {}; }
 
-bool CSettingsTemperaturePage::OnInitDialog()
-{
-    CDialog::OnInitDialog();
-    mFields = sRemembered.Get();
-    UpdateData(false);
-    return true;
-}
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CCommandPage::DoDataExchange(pDX);
+        DDX_Text(pDX, kTemperatures, mFields.msTemperatures);
+    }
 
-bool CSettingsTemperaturePage::BuildCommand(CString& rsCommand)
-{
-    UpdateData(true);
-    gTrim(mFields.msTemperatures);
-    if (mFields.msTemperatures.IsEmpty())
-        return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing temperature value.");
-    rsCommand = ".temp " + gJoinLines(mFields.msTemperatures);
-    sRemembered.Set(mFields);
-    return true;
-}
+    bool OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        mFields = sRemembered.Get();
+        UpdateData(false);
+        return true;
+    }
+
+    bool BuildCommand(CString& rsCommand) override
+    {
+        UpdateData(true);
+        gTrim(mFields.msTemperatures);
+        if (mFields.msTemperatures.IsEmpty())
+            return gReportFailure(*this, msMessage,
+                                  "__$$Translatable$$_Missing temperature value.");
+        rsCommand = ".temp " + gJoinLines(mFields.msTemperatures);
+        sRemembered.Set(mFields);
+        return true;
+    }
+
+private:
+    CString msMessage;
+    TFields mFields;
+};
 
 template const CRuntimeClass& gRuntimeClass<CSettingsTemperaturePage>();

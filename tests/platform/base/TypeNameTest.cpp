@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -64,6 +65,23 @@ TEST(TypeNameTest, StaysValidWhileOthersAreAdded)
     }
     EXPECT_EQ(sFirst, "CTypeNamePage");
     EXPECT_EQ(gTypeName(typeid(CTypeNamePage)).data(), pFirst);
+}
+
+/// What the compiler makes of a class, in memory that comes and goes with a library.
+class CTypeOfALibrary : public std::type_info
+{
+public:
+    explicit CTypeOfALibrary(const char* pCompilersName) : std::type_info(pCompilersName) {}
+};
+
+TEST(TypeNameTest, TypesThatAreGoneAreLookedAtNoMore)
+{
+    for (int i = 1000; i < 2000; ++i) {
+        const std::string sName = "CGone" + std::to_string(i);
+        const auto pMangled = std::make_unique<std::string>("9" + sName);
+        const auto pType = std::make_unique<CTypeOfALibrary>(pMangled->c_str());
+        EXPECT_EQ(gTypeName(*pType), sName);
+    }
 }
 
 } // namespace

@@ -21,7 +21,7 @@ constexpr auto kRows = JoinRows(Row(kFirst, "first", EControl::Edit, "start", {1
                                 Row(kSecond, "second", EControl::DropDownList, "", {1, 20, 3, 13},
                                     kDisabled | kHidden, 6, kEntries),
                                 Row(kThird, "third", EControl::CheckBox, "&Third", {1, 40, 3, 12}));
-constexpr DialogTemplate kTemplate{901, "Binding", {50, 60}, kRows};
+constexpr DialogTemplate kTemplate{"Binding", {50, 60}, kRows};
 
 /// A dialog with members that it binds as told.
 struct TBindingDialog : CLogDialog {

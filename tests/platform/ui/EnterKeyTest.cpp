@@ -82,12 +82,12 @@ constexpr int kOther = 50;
 constexpr auto kOtherDefaultRows = JoinRows(Row(1000, "name", EControl::Edit, "", {}),
                                             Row(IDOK, "ok", EControl::PushButton, "", {}),
                                             Row(kOther, "other", EControl::DefaultButton, "", {}));
-constexpr DialogTemplate kOtherDefault{908, "Other default", {50, 50}, kOtherDefaultRows};
+constexpr DialogTemplate kOtherDefault{"Other default", {50, 50}, kOtherDefaultRows};
 constexpr auto kPlainOkRows = JoinRows(Row(1000, "name", EControl::Edit, "", {}),
                                        Row(IDOK, "ok", EControl::PushButton, "", {}));
-constexpr DialogTemplate kPlainOk{909, "Plain OK", {50, 50}, kPlainOkRows};
+constexpr DialogTemplate kPlainOk{"Plain OK", {50, 50}, kPlainOkRows};
 constexpr auto kNoButtonRows = JoinRows(Row(1000, "name", EControl::Edit, "", {}));
-constexpr DialogTemplate kNoButton{910, "No button", {50, 50}, kNoButtonRows};
+constexpr DialogTemplate kNoButton{"No button", {50, 50}, kNoButtonRows};
 
 TEST(EnterKeyTest, AnotherDefaultButtonRunsInsteadOfOnOK)
 {
@@ -157,7 +157,7 @@ TEST(EscapeKeyTest, DoesntRunACancelButtonOfAnotherId)
 {
     static constexpr auto kRows = JoinRows(Row(1000, "name", EControl::Edit, "", {}),
                                            Row(77, "cancel", EControl::PushButton, "Cancel", {}));
-    static constexpr DialogTemplate kTemplate{911, "Cancel", {50, 50}, kRows};
+    static constexpr DialogTemplate kTemplate{"Cancel", {50, 50}, kRows};
     HeadlessDesktop desktop;
     CLogDialog dialog(kTemplate);
     EXPECT_EQ(gRunTurns(desktop, dialog, {[](CDialog& r) { gAct(r, "key escape"); }}), IDCANCEL);

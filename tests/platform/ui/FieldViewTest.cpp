@@ -9,15 +9,15 @@
 
 namespace
 {
-constexpr TGrid kGrid{7, 60, 70, 80, 155, 30, 10, 18};
+constexpr TControlRow kDelay = Row(1, "delay", EControl::Edit, "", {70, 10, 80, 13}, kHidden);
 constexpr auto kPaneRows =
-    JoinRows(EditLineWithUnit(kGrid, 0, 1, "delay", "&Delay:", "seconds", kHidden),
-             Row(2, "place", EControl::Frame, "", {}),
+    JoinRows(LabelFor(kDelay, "&Delay:", {7, 12, 60, 9}), kDelay,
+             UnitFor(kDelay, "seconds", {155, 12, 30, 9}), Row(2, "place", EControl::Frame, "", {}),
              Row(3, "first", EControl::RadioButton, "a", {}, kFirstOfGroup),
              Row(4, "first", EControl::RadioButton, "b", {}),
              Row(5, "second", EControl::RadioButton, "c", {}, kFirstOfGroup),
              Row(6, "name", EControl::Edit, "", {}));
-constexpr DialogTemplate kPaneTemplate{916, "Pane", {200, 110}, kPaneRows};
+constexpr DialogTemplate kPaneTemplate{"Pane", {200, 110}, kPaneRows};
 
 TLog KeysOf(const std::vector<TFieldView>& rFields)
 {
@@ -59,6 +59,24 @@ TEST(FieldViewTest, AFieldHasWhatBelongsToIt)
         EXPECT_EQ(fields[1].pLabel, nullptr);
         EXPECT_EQ(fields[2].radios.size(), 1U);
         EXPECT_EQ(fields[3].pLabel, nullptr);
+    });
+}
+
+TEST(FieldViewTest, AFieldWithoutALabelHasTheTitleOfTheGroupThatBeginsBeforeIt)
+{
+    static constexpr auto kRows = JoinRows(
+        Row(1, "group", EControl::Group, "Values", {}), Row(2, "bare", EControl::Edit, "", {}),
+        Row(3, "next", EControl::Edit, "", {}), Row(4, "empty", EControl::Group, "", {}),
+        Row(5, "box", EControl::CheckBox, "Box", {}));
+    static constexpr DialogTemplate kTemplate{"Groups", {50, 50}, kRows};
+    CSampleDialog dialog;
+    CPropertyPage pane(kTemplate);
+    gLookInto(dialog, [&] {
+        ASSERT_TRUE(pane.CreatePane(dialog));
+        EXPECT_EQ(gFindField(pane, "bare").pLabel, pane.GetDlgItem(1));
+        EXPECT_EQ(gFindField(pane, "next").pLabel, nullptr);
+        EXPECT_EQ(gFindField(pane, "box").pLabel, nullptr);
+        EXPECT_EQ(gFindField(pane, "group").pLabel, nullptr);
     });
 }
 

@@ -8,14 +8,15 @@
 
 namespace
 {
-constexpr TGrid kGrid{7, 60, 70, 80, 155, 30, 10, 18};
-constexpr auto kRows =
-    JoinRows(EditLineWithUnit(kGrid, 0, 1, "delay", "&Delay:", "seconds"),
-             EditLine(kGrid, 1, 2, "name", "&Name:"),
-             Row(3, "both", EControl::Edit, "", {0, 50, 9, 13}, kUnlabelled, 3),
-             Row(4, "first", EControl::Edit, "", {0, 70, 9, 13}, kUnlabelled, 1),
-             Row(5, "second", EControl::Edit, "", {0, 90, 9, 13}, kUnlabelled | kHidden, 2));
-constexpr DialogTemplate kTemplate{915, "Fields", {200, 110}, kRows};
+constexpr TControlRow kDelay = Row(1, "delay", EControl::Edit, "", {70, 10, 80, 13});
+constexpr TControlRow kName = Row(2, "name", EControl::Edit, "", {70, 28, 80, 13});
+constexpr auto kRows = JoinRows(
+    LabelFor(kDelay, "&Delay:", {7, 12, 60, 9}), kDelay,
+    UnitFor(kDelay, "seconds", {155, 12, 30, 9}), LabelFor(kName, "&Name:", {7, 30, 60, 9}), kName,
+    Row(3, "both", EControl::Edit, "", {0, 50, 9, 13}, kUnlabelled, 3),
+    Row(4, "first", EControl::Edit, "", {0, 70, 9, 13}, kUnlabelled, 1),
+    Row(5, "second", EControl::Edit, "", {0, 90, 9, 13}, kUnlabelled | kHidden, 2));
+constexpr DialogTemplate kTemplate{"Fields", {200, 110}, kRows};
 
 class FieldsTest : public testing::Test
 {

@@ -140,9 +140,9 @@ TEST(FocusTest, TheLastControlThatGoesLeavesNone)
 constexpr auto kPaneRows = JoinRows(Row(1, "p1", EControl::Edit, "", {0, 0, 50, 13}),
                                     Row(2, "p2", EControl::Edit, "", {0, 20, 50, 13}),
                                     Row(3, "p3", EControl::PushButton, "", {0, 40, 50, 14}));
-constexpr DialogTemplate kPaneTemplate{902, "Pane", {60, 60}, kPaneRows};
+constexpr DialogTemplate kPaneTemplate{"Pane", {60, 60}, kPaneRows};
 constexpr auto kLabelRows = JoinRows(Row(1, "text", EControl::Static, "Text", {0, 0, 50, 9}));
-constexpr DialogTemplate kLabelTemplate{903, "Labels", {60, 60}, kLabelRows};
+constexpr DialogTemplate kLabelTemplate{"Labels", {60, 60}, kLabelRows};
 
 class PaneFocusTest : public testing::Test
 {
@@ -278,7 +278,7 @@ TEST(FirstFocusTest, IsTheFirstFieldElseAPushButton)
     };
     for (const TFirst& rCase : kCases) {
         SCOPED_TRACE(rCase.pName);
-        const DialogTemplate sTemplate{904, "First", {50, 50}, rCase.rows};
+        const DialogTemplate sTemplate{"First", {50, 50}, rCase.rows};
         CLogDialog dialog(sTemplate);
         gLookInto(dialog, [&] { EXPECT_EQ(gFocusName(), rCase.pExpected); });
         EXPECT_EQ(CWnd::GetFocus(), nullptr);

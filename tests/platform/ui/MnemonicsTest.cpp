@@ -129,7 +129,7 @@ constexpr auto kGroupRows =
              Row(kListGroup, "list-group", EControl::Group, "&List", {}),
              Row(kDeadEdit, "dead", EControl::Edit, "", {}, kDisabled),
              Row(kLiveEdit, "live", EControl::Edit, "", {}));
-constexpr DialogTemplate kGroupTemplate{912, "Groups", {50, 50}, kGroupRows};
+constexpr DialogTemplate kGroupTemplate{"Groups", {50, 50}, kGroupRows};
 
 struct TGroupPress {
     const char* pName;
@@ -167,7 +167,7 @@ TEST(MnemonicsTest, ALabelOrGroupNeverPressesWhatItLeadsTo)
 TEST(MnemonicsTest, ReachVisiblePanesOnly)
 {
     static constexpr auto kRows = JoinRows(Row(1, "pane-button", EControl::PushButton, "&Zap", {}));
-    static constexpr DialogTemplate kTemplate{913, "Pane", {50, 50}, kRows};
+    static constexpr DialogTemplate kTemplate{"Pane", {50, 50}, kRows};
     CSampleDialog dialog;
     CPropertyPage pane(kTemplate);
     gLookInto(dialog, [&] {

@@ -13,7 +13,7 @@ namespace
 {
 constexpr auto kRows = JoinRows(Row(1, "name", EControl::Edit, "", {}),
                                 Row(IDOK, "ok", EControl::DefaultButton, "OK", {}));
-constexpr DialogTemplate kTemplate{914, "Modal", {50, 50}, kRows};
+constexpr DialogTemplate kTemplate{"Modal", {50, 50}, kRows};
 
 const TLog kCreated{"+(dialog)", "+name", "+ok"};
 const TLog kDestroyed{"-ok", "-name", "-(dialog)"};

@@ -12,10 +12,10 @@ constexpr TRect kPageRect{5, 20, 90, 60};
 constexpr auto kSheetRows =
     JoinRows(Row(kTabsId, "tabs", EControl::Tabs, "", {5, 5, 90, 15}),
              Row(IDOK, "ok", EControl::DefaultButton, "OK", {5, 85, 50, 14}));
-constexpr DialogTemplate kSheetTemplate{917, "Sheet", {100, 100}, kSheetRows};
+constexpr DialogTemplate kSheetTemplate{"Sheet", {100, 100}, kSheetRows};
 constexpr auto kPageRows = JoinRows(Row(1, "edit", EControl::Edit, "", {1, 1, 50, 13}));
-constexpr DialogTemplate kFirstTemplate{918, "First", {90, 60}, kPageRows};
-constexpr DialogTemplate kSecondTemplate{919, "Second", {90, 60}, kPageRows};
+constexpr DialogTemplate kFirstTemplate{"First", {90, 60}, kPageRows};
+constexpr DialogTemplate kSecondTemplate{"Second", {90, 60}, kPageRows};
 
 /// A page that writes down its initialisation and its comings and goings.
 struct TPage : CPropertyPage {

@@ -37,7 +37,7 @@ constexpr auto kRows = JoinRows(
     Row(IDCANCEL, "cancel", EControl::PushButton, "Cancel", {115, 165, 50, 14}));
 } // namespace
 
-const DialogTemplate kSampleTemplate{900, "Sample", {200, 185}, kRows};
+const DialogTemplate kSampleTemplate{"Sample", {200, 185}, kRows};
 
 bool CSampleDialog::OnInitDialog()
 {

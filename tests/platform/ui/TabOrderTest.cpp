@@ -136,12 +136,12 @@ TEST(TabOrderTest, OtherKeysDownMoveNothing)
 
 constexpr auto kOuterRows =
     JoinRows(Row(1, "before", EControl::Edit, "", {}), Row(2, "after", EControl::Edit, "", {}));
-constexpr DialogTemplate kOuterTemplate{905, "Outer", {60, 60}, kOuterRows};
+constexpr DialogTemplate kOuterTemplate{"Outer", {60, 60}, kOuterRows};
 constexpr auto kPaneRows =
     JoinRows(Row(1, "p1", EControl::Edit, "", {}), Row(2, "p2", EControl::Edit, "", {}),
              Row(3, "p3", EControl::Edit, "", {}));
-constexpr DialogTemplate kPaneTemplate{906, "Pane", {60, 60}, kPaneRows};
-constexpr DialogTemplate kEmptyTemplate{907, "Empty", {60, 60}, {}};
+constexpr DialogTemplate kPaneTemplate{"Pane", {60, 60}, kPaneRows};
+constexpr DialogTemplate kEmptyTemplate{"Empty", {60, 60}, {}};
 
 /// A dialog with the controls "before" and "after" and, behind them, a pane.
 struct TWithPane {

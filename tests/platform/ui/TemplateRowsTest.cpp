@@ -7,7 +7,6 @@
 
 namespace
 {
-constexpr TGrid kGrid{7, 60, 70, 80, 155, 30, 10, 18};
 constexpr const char* kEntries[] = {"a", "b"};
 
 constexpr auto kField = Row(1, "f", EControl::DropDownList, "", {10, 40, 50, 13},
@@ -65,35 +64,19 @@ TEST(TemplateRowsTest, LabelAboveStandsTwoUnitsAboveTheField)
     EXPECT_EQ(kTwoLines[1].rect, kField.rect);
 }
 
-TEST(TemplateRowsTest, EditLineFollowsTheGrid)
+TEST(TemplateRowsTest, AUnitSharesThemToo)
 {
-    constexpr auto kFirst = EditLine(kGrid, 0, 5, "name", "&Name:");
-    ExpectRow(kFirst[0], {10005, "name", EControl::Label, "&Name:", {7, 12, 60, 9}});
-    ExpectRow(kFirst[1], {5, "name", EControl::Edit, "", {70, 10, 80, 13}});
-
-    constexpr auto kThird = EditLine(kGrid, 2, 6, "step", "&Step:", kReadOnly | kHidden, 3);
-    ExpectRow(kThird[0], {10006, "step", EControl::Label, "&Step:", {7, 48, 60, 9}, kHidden, 3});
-    ExpectRow(kThird[1], {6, "step", EControl::Edit, "", {70, 46, 80, 13}, kReadOnly | kHidden, 3});
+    ExpectRow(UnitFor(kField, "s", {1, 2, 3, 4}),
+              {20001, "f", EControl::Label, "s", {1, 2, 3, 4}, kDisabled | kHidden, 4, {}});
 }
 
-TEST(TemplateRowsTest, EditLineWithUnitAddsTheUnitBehind)
+TEST(TemplateRowsTest, JoinRowsKeepsTheOrder)
 {
-    constexpr auto kLine =
-        EditLineWithUnit(kGrid, 1, 8, "delay", "&Delay:", "seconds", kDisabled | kReadOnly, 2);
-    ExpectRow(kLine[0], {10008, "delay", EControl::Label, "&Delay:", {7, 30, 60, 9}, kDisabled, 2});
-    ExpectRow(kLine[1],
-              {8, "delay", EControl::Edit, "", {70, 28, 80, 13}, kDisabled | kReadOnly, 2});
-    ExpectRow(kLine[2],
-              {20008, "delay", EControl::Label, "seconds", {155, 30, 30, 9}, kDisabled, 2});
-}
-
-TEST(TemplateRowsTest, JoinRowsKeepsTheOrderOfLinesAndRows)
-{
-    constexpr auto kRows = JoinRows(
-        Row(1, "a", EControl::Static, "A", {}), EditLine(kGrid, 0, 2, "b", "B"),
-        Row(3, "c", EControl::Static, "C", {}), EditLineWithUnit(kGrid, 1, 4, "d", "D", "s"));
-    static_assert(kRows.size() == 7);
-    constexpr std::array kIds{1, LabelOf(2), 2, 3, LabelOf(4), 4, UnitOf(4)};
+    constexpr auto kRows =
+        JoinRows(Row(1, "a", EControl::Static, "A", {}), LabelAbove(kField, "&F:"),
+                 Row(3, "c", EControl::Static, "C", {}));
+    static_assert(kRows.size() == 4);
+    constexpr std::array kIds{1, LabelOf(1), 1, 3};
     for (std::size_t n = 0; n < kIds.size(); ++n) {
         EXPECT_EQ(kRows[n].nId, kIds[n]);
     }

@@ -1,18 +1,17 @@
-#include "exports/Quorvawiz.h"
-#include "platform/ui/Dialog.h"
-#include "platform/ui/SampleDialog.h"
-#include "platform/ui/TreeCtrl.h"
 #include "qt/Player.h"
-#include "support/WizardRun.h"
+#include "qt/Visits.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDialog>
 #include <QDir>
+#include <QFont>
+#include <QPalette>
+#include <QPixmap>
 #include <QProcess>
 #include <QTextStream>
-#include <utility>
+#include <QWidget>
+#include <string>
 
 // Takes a picture of every window, to be looked at: `qt-pictures FOLDER` makes one folder per
 // palette and scale in FOLDER. Each of these is a process of its own, because the scale is Qt's for
@@ -23,9 +22,10 @@ namespace
 QString sFolder;
 int snPictures = 0;
 
-void TakePicture(QWidget& rWindow, QString sName)
+void TakePicture(const std::string& rsName, QWidget& rWindow)
 {
-    sName = sName.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+    const QString sName =
+        QString::fromStdString(rsName).toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
     const QString sNumber = QString::number(++snPictures).rightJustified(3, QLatin1Char('0'));
     rWindow.grab().save(
         QDir(sFolder).filePath(sNumber + QLatin1Char('-') + sName + QLatin1String(".png")));
@@ -34,78 +34,9 @@ void TakePicture(QWidget& rWindow, QString sName)
 QPalette DarkPalette()
 {
     QPalette palette(QColor(53, 53, 53), QColor(42, 42, 42));
+    palette.setColor(QPalette::Base, QColor(30, 31, 34));
     palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
     return palette;
-}
-
-/// The nodes of the wizard's tree from top to bottom.
-std::vector<HTREEITEM> NodesOf(const CTreeCtrl& rTree)
-{
-    std::vector<HTREEITEM> nodes;
-    for (HTREEITEM h = rTree.GetRootItem(); h; h = rTree.GetNextSiblingItem(h)) {
-        nodes.push_back(h);
-        for (HTREEITEM c = rTree.GetChildItem(h); c; c = rTree.GetNextSiblingItem(c))
-            nodes.push_back(c);
-    }
-    return nodes;
-}
-
-class CWizardTour
-{
-public:
-    /// Two turns for each node: to select it, and to take the picture of what has come of that.
-    CPlayer::TTurn NextTurn()
-    {
-        auto& rTree = const_cast<CTreeCtrl&>(gOpenWizard().GetTree());
-        const auto nodes = NodesOf(rTree);
-        if (mnNext == nodes.size())
-            return std::exchange(mbDone, true) ? CPlayer::TTurn() : [] { gInput("press Escape"); };
-        const HTREEITEM hNode = nodes[mnNext];
-        if (!std::exchange(mbSelected, true))
-            return [&rTree, hNode] { rTree.UserSelect(hNode); };
-        mbSelected = false;
-        ++mnNext;
-        return [&rTree, hNode] {
-            TakePicture(*gWidgetOf(gOpenWizard()),
-                        QString::fromUtf8(rTree.GetItemText(hNode).GetString()));
-        };
-    }
-
-private:
-    std::size_t mnNext = 0;
-    bool mbSelected = false;
-    bool mbDone = false;
-};
-
-void TakeWizard()
-{
-    CWizardTour tour;
-    CPlayer player;
-    player.SetMore([&tour] { return tour.NextTurn(); });
-    CRecordingTarget target;
-    player.Play([&target] { quorvawiz::gInvokeSpiceCommandWizard(nullptr, &target); });
-}
-
-void TakeSample()
-{
-    CSampleDialog dialog;
-    CPlayer player;
-    player.Do({"type Text", "click again", "click level#1", "click shape", "pick 2",
-               "click fruit@1", "branch places@A", "click cells@1"});
-    player.Then("take", [&dialog] { TakePicture(*gWidgetOf(dialog), QStringLiteral("sample")); });
-    player.Do({"press Escape"}).Play([&dialog] { dialog.DoModal(); });
-}
-
-void TakeBox(UINT nFlags, const char* pName)
-{
-    CPlayer player;
-    player.Then("take", [pName] {
-        TakePicture(*QApplication::activeModalWidget(), QString::fromUtf8(pName));
-        gInput("press Return");
-    });
-    player.Play([nFlags] {
-        gShowMessageBox({nullptr, "Missing temperature value.", "SPICE Command Wizard", nFlags});
-    });
 }
 
 int TakeAll(const QStringList& rOptions)
@@ -119,10 +50,10 @@ int TakeAll(const QStringList& rOptions)
     }
     QDir().mkpath(sFolder);
     CTestDesktop desktop;
-    TakeWizard();
-    TakeSample();
-    TakeBox(MB_OK | MB_ICONEXCLAMATION, "box");
-    TakeBox(MB_YESNO | MB_ICONQUESTION, "question");
+    gVisitWizard(TakePicture);
+    gVisitSweep(TakePicture);
+    gVisitSample(TakePicture);
+    gVisitBoxes(TakePicture);
     QTextStream(stdout) << snPictures << " pictures in " << sFolder << '\n';
     return 0;
 }

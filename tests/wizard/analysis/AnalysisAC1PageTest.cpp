@@ -1,5 +1,3 @@
-#include "wizard/analysis/AnalysisAC1Page.h"
-
 #include "platform/ui/ComboBox.h"
 #include "platform/ui/FieldView.h"
 #include "support/Look.h"
@@ -220,6 +218,21 @@ TEST_F(ACPage, BuildsTheAcCommand)
                            .Do({Insert()}));
         EXPECT_EQ(outcome.inserted, rCase.inserted);
         EXPECT_EQ(outcome.messages, rCase.messages);
+    }
+}
+
+TEST_F(ACPage, WithAllFieldsEmptyARangeReportsTheSamplesAndPoiTheList)
+{
+    for (const auto& [pType, pMessage] :
+         {std::pair{"linear", "Missing number of frequency samples."},
+          {"decade", "Missing number of frequency samples."},
+          {"octave", "Missing number of frequency samples."},
+          {"list", "Missing list of frequency values."},
+          {"poi", "Missing list of frequency values."}}) {
+        const auto outcome =
+            gRunWizard({Open("Analysis/AC"), Select("sampling-type", pType), Insert()});
+        EXPECT_TRUE(outcome.inserted.empty()) << pType;
+        EXPECT_EQ(outcome.messages, std::vector<std::string>{pMessage}) << pType;
     }
 }
 

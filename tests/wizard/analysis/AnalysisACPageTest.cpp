@@ -1,5 +1,3 @@
-#include "wizard/analysis/AnalysisACPage.h"
-
 #include "platform/ui/Button.h"
 #include "platform/ui/FieldView.h"
 #include "support/Look.h"

@@ -1,5 +1,4 @@
-#include "wizard/analysis/AnalysisDCSweepPage.h"
-
+#include "platform/ui/FieldView.h"
 #include "support/Look.h"
 #include "support/Steps.h"
 #include "support/TranslationScope.h"
@@ -114,6 +113,19 @@ TEST(OlderDCSweepPage, AFailureLeavesTheCommandAsItWas)
                                .Do(Direction(1, "v1", "0", "5", "1"))
                                .Do({Insert(), Set("source-name-2", "v2"), Insert()})
                                .Look({look::Command(".dc v1 0 5 1")}));
+}
+
+TEST(OlderDCSweepPage, AllTwelveAreTrimmedBeforeTheFirstCheck)
+{
+    // Seen once the members go back into the controls.
+    const auto showMembers = [](CDialog& rDialog) { gCurrentPane(rDialog).UpdateData(false); };
+    gRunSinglePage(kClass,
+                   CScript()
+                       .Do(Direction(1, "r1", "0", "5", "1"))
+                       .Do(Direction(3, " v3 ", " 1 ", " 2 ", " 3 "))
+                       .Do({Insert()})
+                       .Then(showMembers)
+                       .Look({look::Text("source-name-3", "v3"), look::Text("increment-3", "3")}));
 }
 
 TEST(OlderDCSweepPage, NothingIsRemembered)

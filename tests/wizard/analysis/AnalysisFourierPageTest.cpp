@@ -1,5 +1,3 @@
-#include "wizard/analysis/AnalysisFourierPage.h"
-
 #include "support/Look.h"
 #include "support/Steps.h"
 #include "support/TranslationScope.h"

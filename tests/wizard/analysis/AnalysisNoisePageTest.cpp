@@ -1,5 +1,3 @@
-#include "wizard/analysis/AnalysisNoisePage.h"
-
 #include "support/Look.h"
 #include "support/Steps.h"
 #include "support/TranslationScope.h"
@@ -57,6 +55,19 @@ const TCase kCases[] = {
     {"a wrong source before a missing output", "", "", "r1", {}, {kIllegalName}},
     {"no output", " ", "in2", "vin", {}, {"[Missing output node.]"}},
 };
+
+TEST_F(NoisePage, ReportsAMissingSourceBeforeAWrongOneAndThatBeforeAMissingOutput)
+{
+    const CBracketTranslation translation;
+    const auto outcome = gRunWizard(
+        {Open("[Analysis]/[Noise]"), Set("output-node", "out"), Insert(), Set("output-node", ""),
+         Insert(), Set("input-source", "r1"), Insert(), Set("input-source", "v1"), Insert()});
+    EXPECT_TRUE(outcome.inserted.empty());
+    EXPECT_EQ(outcome.messages,
+              (std::vector<std::string>{"[Missing input voltage or current source name.]",
+                                        "[Missing input voltage or current source name.]",
+                                        kIllegalName, "[Missing output node.]"}));
+}
 
 TEST_F(NoisePage, BuildsTheNoiseCommand)
 {

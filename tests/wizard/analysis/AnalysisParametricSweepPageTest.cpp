@@ -1,5 +1,3 @@
-#include "wizard/analysis/AnalysisParametricSweepPage.h"
-
 #include "support/Steps.h"
 #include "support/WizardRun.h"
 #include "wizard/analysis/SweepSteps.h"

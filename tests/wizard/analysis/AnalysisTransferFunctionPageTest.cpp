@@ -1,5 +1,3 @@
-#include "wizard/analysis/AnalysisTransferFunctionPage.h"
-
 #include "support/Look.h"
 #include "support/Steps.h"
 #include "support/TranslationScope.h"

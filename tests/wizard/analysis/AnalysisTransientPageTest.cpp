@@ -1,5 +1,3 @@
-#include "wizard/analysis/AnalysisTransientPage.h"
-
 #include "platform/ui/Button.h"
 #include "platform/ui/FieldView.h"
 #include "support/Look.h"
@@ -84,6 +82,14 @@ TEST_F(TransientPage, ASweepThatWasAcceptedAndLeftByCancelStaysInUse)
                        .Do({Click("sweep"), Set("increment", "2"), Click("cancel"), Insert()}));
     EXPECT_EQ(outcome.inserted,
               std::vector<std::string>{".tran 1n 100n sweep lin param vdd 1 5 1"});
+}
+
+TEST_F(TransientPage, ABlankInTheOutputStartTimeIsNotEmpty)
+{
+    const auto outcome =
+        gRunWizard({Open("Analysis/Transient"), Set("maximum-time-step", "1n"),
+                    Set("simulation-length", "2n"), Set("output-start-time", " "), Insert()});
+    EXPECT_EQ(outcome.inserted, std::vector<std::string>{".tran 1n 2n start= "});
 }
 
 TEST_F(TransientPage, ChecksTheTimeStepBeforeTheLength)

@@ -209,6 +209,18 @@ TEST_F(StepSweepAccept, EveryTypeWithAParameterChecksItFirst)
             << pType;
 }
 
+TEST_F(StepSweepAccept, ForPoiTheTotalIsTheSecondEditNotTheFourth)
+{
+    const std::vector<TStep> poi{Select("sweep-type", "Poi"), Select("parameter-type", "Source"),
+                                 Set("parameter-name", "vin"), Set("list-of-values", "1 2")};
+    Open(CScript()
+             .Do(poi)
+             .Look({look::Shown("number-of-points", false),
+                    look::Label("stop", "T&otal number of points for sweep:")})
+             .Do({Set("stop", "2"), Click("accept")}));
+    EXPECT_EQ(mpDialog->GetResult(), "sweep source vin poi 2 1 2");
+}
+
 TEST_F(StepSweepAccept, AMessageIsABoxOfTheDialogItself)
 {
     Open(CScript().Do({Click("accept"), Click("cancel")}));

@@ -169,6 +169,16 @@ TEST_F(StepSweepLife, WhatAHandlerPulledBeforeCancelStaysForTheNextOpening)
     EXPECT_EQ(mpDialog->GetResult(), "sweep lin param vdd 9 5 2");
 }
 
+TEST_F(StepSweepLife, WhatAFailedAcceptTrimmedIsTrimmedAtTheNextOpening)
+{
+    AcceptLinear();
+    Open(CScript()
+             .Do({Set("start", " 9 "), Set("stop", " "), Click("accept")})
+             .Look({look::Text("start", " 9 ")})
+             .Do({Click("cancel")}));
+    Open(CScript().Look({look::Text("start", "9 "), look::Text("stop", "")}).Do({Click("cancel")}));
+}
+
 TEST_F(StepSweepLife, AMissingStartLeavesTheTypeAsItWas)
 {
     AcceptLinear();

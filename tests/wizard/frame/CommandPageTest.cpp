@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr DialogTemplate kTemplate{9006, "Page", kPageSize, {}};
+constexpr DialogTemplate kTemplate{"Page", kPageSize, {}};
 
 class CPage : public CCommandPage
 {

@@ -13,10 +13,10 @@ namespace
 {
 constexpr auto kPaneRows =
     JoinRows(LabelAbove(Row(1001, "text", EControl::Edit, "", {7, 20, 80, kEditHeight}), "Te&xt:"));
-constexpr DialogTemplate kPaneTemplate{9001, "Pane", {120, 90}, kPaneRows};
+constexpr DialogTemplate kPaneTemplate{"Pane", {120, 90}, kPaneRows};
 constexpr auto kFrameRows =
     JoinRows(Row(1, "ok", EControl::PushButton, "OK", {150, 80, 40, 14}, kUnlabelled));
-constexpr DialogTemplate kFrameTemplate{9002, "Frame", {200, 100}, kFrameRows};
+constexpr DialogTemplate kFrameTemplate{"Frame", {200, 100}, kFrameRows};
 
 /// A window with two panes and a plain window in layers; the test runs inside its modal run.
 class CLayerTest : public testing::Test

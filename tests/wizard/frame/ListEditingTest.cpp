@@ -22,9 +22,9 @@ constexpr auto kRows = JoinRows(
     Row(kAdd, "add", EControl::PushButton, "&Add", {100, 50, 50, 14}),
     Row(kDelete, "delete", EControl::PushButton, "&Delete", {100, 70, 50, 14}, kDisabled),
     Row(kClear, "clear", EControl::PushButton, "&Clear", {100, 90, 50, 14}, kDisabled));
-constexpr DialogTemplate kTemplate{9005, "List", {160, 120}, kRows};
+constexpr DialogTemplate kTemplate{"List", {160, 120}, kRows};
 
-constexpr TListEditingTexts kTexts{kDelete, kClear,
+constexpr TListEditingParts kTexts{kDelete, kClear,
                                    "__$$Translatable$$_This entry is already in the list.",
                                    "__$$Translatable$$_Delete it?", "Clear all?"};
 
@@ -168,7 +168,7 @@ TEST(ListEditing, QuestionsAreTheApplicationsBoxesAndTheRefusalIsThePages)
 
 TEST(ListEditing, AButtonThatThePageDoesNotHaveIsAnError)
 {
-    static constexpr TListEditingTexts kWrong{9998, 9999, "", "", ""};
+    static constexpr TListEditingParts kWrong{9998, 9999, "", "", ""};
     HeadlessDesktop desktop;
     CListDlg dialog;
     CScript()

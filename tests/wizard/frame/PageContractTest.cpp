@@ -4,10 +4,10 @@
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/FieldView.h"
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/TemplateRows.h"
 #include "support/Steps.h"
 #include "support/WizardRun.h"
 #include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/QuorvaCommandDlg.h"
 #include "wizard/frame/Remembered.h"
@@ -21,10 +21,10 @@ using namespace steps;
 
 enum EControlId { kFirst = 1001, kSecond };
 
-constexpr TGrid kGrid{7, 60, 70, 80, 155, 30, 7, 18};
-constexpr auto kRows = JoinRows(EditLine(kGrid, 0, kFirst, "first", "&First:"),
-                                EditLine(kGrid, 1, kSecond, "second", "&Second:"));
-constexpr DialogTemplate kTemplate{9010, "Sample", kPageSize, kRows};
+constexpr TColumns kColumns{.nField = 70};
+constexpr auto kRows = PageRows(EditLine(kColumns, kFirst, "first", "&First:"),
+                                EditLine(kColumns, kSecond, "second", "&Second:"));
+constexpr DialogTemplate kTemplate{"Sample", kPageSize, kRows};
 
 class CSamplePage : public CCommandPage
 {
@@ -123,6 +123,13 @@ TEST_F(PageContract, AValueOfOnlyBlanksIsPresentOnAPageThatDoesNotTrim)
 {
     Run(CScript().Do({Open("C/Sample"), Set("first", "  "), Set("second", " "), Insert()}));
     EXPECT_EQ(mTarget.mCommands, std::vector<std::string>{".sample     "});
+}
+
+TEST_F(PageContract, ASecondPressWithUnchangedFieldsInsertsTheSameTextAgain)
+{
+    Run(CScript().Do(
+        {Open("C/Sample"), Set("first", "a"), Set("second", "b"), Insert(), Insert()}));
+    EXPECT_EQ(mTarget.mCommands, (std::vector<std::string>{".sample a b", ".sample a b"}));
 }
 
 TEST_F(PageContract, AFailedCheckLeavesTheRememberedValuesOfAllFieldsEvenOfThoseThatPassed)

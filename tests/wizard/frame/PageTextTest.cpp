@@ -21,6 +21,37 @@ TEST(PageText, TrimTakesWhiteSpaceAwayAtBothEndsOfTheFieldItself)
     EXPECT_TRUE(sField.IsEmpty());
 }
 
+TEST(PageText, TrimTakesEveryFieldInItsTurnAndTheLeftEndAlone)
+{
+    CString sFirst = " a ";
+    CString sSecond = "\tb ";
+    gTrimLeft(sFirst, sSecond);
+    EXPECT_EQ(sFirst, "a ");
+    EXPECT_EQ(sSecond, "b ");
+    gTrim(sFirst, sSecond);
+    EXPECT_EQ(sFirst, "a");
+    EXPECT_EQ(sSecond, "b");
+}
+
+TEST(PageText, AnEmptyFieldIsNotAppendedWithWhatStandsBeforeIt)
+{
+    CString sCommand = ".four";
+    gAppendIfAny(sCommand, " nfreqs=", "");
+    gAppendIfAny(sCommand, " npoints=", " ");
+    EXPECT_EQ(sCommand, ".four npoints= ");
+}
+
+TEST(PageText, ALetterIsLookedAtInEitherCaseAndAloneAtTheBeginning)
+{
+    for (const auto& [pName, bBegins] : {std::pair{"v1", true},
+                                         {"V", true},
+                                         {"1v", false},
+                                         {" v", false},
+                                         {"", false},
+                                         {"i", false}})
+        EXPECT_EQ(gBeginsWithLetter(pName, 'V'), bBegins) << pName;
+}
+
 struct TJoinCase {
     const char* pName;
     std::string sText;

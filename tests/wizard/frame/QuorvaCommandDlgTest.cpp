@@ -20,7 +20,7 @@ namespace
 {
 using namespace steps;
 
-constexpr DialogTemplate kEmptyTemplate{9004, "Test pane", kPageSize, {}};
+constexpr DialogTemplate kEmptyTemplate{"Test pane", kPageSize, {}};
 
 /// A pane that stands for the page of row N of the tree, where that isn't built.
 template <std::size_t N> class CTestPane : public CCommandPage

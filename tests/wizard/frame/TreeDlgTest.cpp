@@ -21,7 +21,7 @@ constexpr auto kRows = JoinRows(
     LabelAbove(Row(1001, "first", EControl::Edit, "", {7, 20, 80, kEditHeight}), "First:"),
     LabelAbove(Row(1002, "second", EControl::Edit, "", {7, 50, 80, kEditHeight}), "Second:"),
     Row(1003, "third", EControl::CheckBox, "Third", {7, 80, 80, 12}));
-constexpr DialogTemplate kPaneTemplate{9003, "Pane", kPageSize, kRows};
+constexpr DialogTemplate kPaneTemplate{"Pane", kPageSize, kRows};
 
 /// A page that builds what the test says.
 class CTestPage : public CCommandPage

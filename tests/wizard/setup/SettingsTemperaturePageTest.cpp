@@ -1,10 +1,8 @@
-#include "wizard/setup/SettingsTemperaturePage.h"
-
 #include "platform/ui/FieldView.h"
+#include "support/Look.h"
+#include "support/PageTest.h"
 #include "support/Steps.h"
 #include "support/TranslationScope.h"
-#include "support/WizardRun.h"
-#include "wizard/frame/Remembered.h"
 
 #include <gtest/gtest.h>
 
@@ -15,18 +13,7 @@ using namespace steps;
 constexpr const char* kPath = "Settings/Temperature";
 constexpr const char* kList = "temperature-list";
 
-class TemperaturePage : public testing::Test
-{
-protected:
-    TemperaturePage() { CRememberedBase::ResetAll(); }
-
-    static CScript::TAction ShowsList(const char* pText)
-    {
-        return [pText](CDialog& rDialog) {
-            EXPECT_EQ(gFindField(rDialog, kList).pControl->GetWindowText(), pText);
-        };
-    }
-};
+using TemperaturePage = PageTest;
 
 struct TCase {
     const char* pName;
@@ -37,10 +24,10 @@ struct TCase {
 
 const TCase kCases[] = {
     {"values in a line", "0 27 85", {".temp 0 27 85"}, {}},
-    {"trimmed, its lines joined by blanks", " 0 27\r\n85 ", {".temp 0 27 85"}, {}},
+    {"trimmed, its lines joined by blanks", " 0 27\n85 ", {".temp 0 27 85"}, {}},
     {"three blanks are missing", "   ", {}, {"[Missing temperature value.]"}},
     {"nothing is missing", "", {}, {"[Missing temperature value.]"}},
-    {"line ends alone are missing", "\r\n\r\n", {}, {"[Missing temperature value.]"}},
+    {"line ends alone are missing", "\n\n", {}, {"[Missing temperature value.]"}},
     {"not looked into", "warm, {t0+5} 27 27", {".temp warm, {t0+5} 27 27"}, {}},
     {"a lone CR is kept", "1\r2", {".temp 1\r2"}, {}},
 };
@@ -50,8 +37,7 @@ TEST_F(TemperaturePage, BuildsTheTempCommand)
     const CBracketTranslation translation;
     for (const TCase& rCase : kCases) {
         SCOPED_TRACE(rCase.pName);
-        const auto outcome =
-            gRunWizard({Open("[Settings]/[Temperature]"), Set(kList, rCase.pTyped), Insert()});
+        const auto outcome = gCompose(kPath, {std::string(kList) + "=" + rCase.pTyped});
         EXPECT_EQ(outcome.inserted, rCase.inserted);
         EXPECT_EQ(outcome.messages, rCase.messages);
     }
@@ -87,26 +73,28 @@ TEST_F(TemperaturePage, TwoPressesInARowInsertTheSameTextTwice)
 TEST_F(TemperaturePage, TheNextRunShowsTheLastSuccessTrimmedWithItsLines)
 {
     gRunWizard({Open(kPath), Set(kList, " 0 27\r\n85 "), Insert()});
-    gRunWizard(CScript().Do({Open(kPath)}).Then(ShowsList("0 27\r\n85")));
+    gRunWizard(CScript().Do({Open(kPath)}).Look({look::Text(kList, "0 27\r\n85")}));
 }
 
 TEST_F(TemperaturePage, TheControlKeepsWhatWasTypedAfterAnInsertion)
 {
-    gRunWizard(CScript().Do({Open(kPath), Set(kList, " 27 "), Insert()}).Then(ShowsList(" 27 ")));
+    gRunWizard(CScript()
+                   .Do({Open(kPath), Set(kList, " 27 "), Insert()})
+                   .Look({look::Text(kList, " 27 ")}));
 }
 
 TEST_F(TemperaturePage, AFailedAttemptIsNotRemembered)
 {
     gRunWizard({Open(kPath), Set(kList, "27"), Insert(), Set(kList, "  "), Insert()});
-    gRunWizard(CScript().Do({Open(kPath)}).Then(ShowsList("27")));
+    gRunWizard(CScript().Do({Open(kPath)}).Look({look::Text(kList, "27")}));
 }
 
 TEST_F(TemperaturePage, WhatWasTypedButNotInsertedLivesForOneRun)
 {
     gRunWizard(CScript()
                    .Do({Open(kPath), Set(kList, "99"), Open("Analysis"), Open(kPath)})
-                   .Then(ShowsList("99")));
-    gRunWizard(CScript().Do({Open(kPath)}).Then(ShowsList("")));
+                   .Look({look::Text(kList, "99")}));
+    gRunWizard(CScript().Do({Open(kPath)}).Look({look::Text(kList, "")}));
 }
 
 TEST_F(TemperaturePage, ATextThatIsNotAsciiIsRefusedByTheFrameButRememberedByThen)
@@ -114,7 +102,7 @@ TEST_F(TemperaturePage, ATextThatIsNotAsciiIsRefusedByTheFrameButRememberedByThe
     const auto outcome = gRunWizard({Open(kPath), Set(kList, "27\xC2\xB0"), Insert()});
     EXPECT_TRUE(outcome.inserted.empty());
     EXPECT_EQ(outcome.messages, std::vector<std::string>{"Only ASCII characters are allowed"});
-    gRunWizard(CScript().Do({Open(kPath)}).Then(ShowsList("27\xC2\xB0")));
+    gRunWizard(CScript().Do({Open(kPath)}).Look({look::Text(kList, "27\xC2\xB0")}));
 }
 
 TEST_F(TemperaturePage, AFailureLeavesTheRunsCommandAsItWas)

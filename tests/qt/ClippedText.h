@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+class QWidget;
+
+/// What of a window's texts has too little room, widget by widget: a text that is wider or higher
+/// than its label, button, frame or list, a field too low for a line of text, and a widget that
+/// reaches beyond its parent. Empty when everything can be read.
+std::vector<std::string> gFindClippedText(const QWidget& rWindow);

@@ -1,0 +1,133 @@
+#include "qt/ClippedText.h"
+
+#include "qt/Player.h"
+#include "qt/Visits.h"
+#include "wizard/frame/Remembered.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QScreen>
+#include <algorithm>
+#include <string>
+
+namespace
+{
+/// A text that is known to lack room.
+struct TKnown {
+    const char* pWhere;
+    const char* pWhat;
+};
+constexpr TKnown kKnown[] = {
+    // One pixel, with the desktop's own font: the given text is as wide as a group box can be.
+    {"DC operating point", "QCheckBox 'suppress' is too small"},
+};
+
+bool IsKnown(const std::string& rsName, const std::string& rsFinding)
+{
+    return std::ranges::any_of(kKnown, [&](const TKnown& rKnown) {
+        return rsName == rKnown.pWhere && rsFinding.starts_with(rKnown.pWhat);
+    });
+}
+
+/// By how many points the font is larger than the desktop's own.
+class ClippedText : public testing::TestWithParam<int>
+{
+protected:
+    ClippedText()
+    {
+        QFont larger = mBefore;
+        larger.setPointSizeF(mBefore.pointSizeF() + GetParam());
+        QApplication::setFont(larger);
+        CRememberedBase::ResetAll();
+    }
+    ~ClippedText() override { QApplication::setFont(mBefore); }
+
+    const QFont mBefore = QApplication::font();
+    int mnLooks = 0;
+    const TLook mLook = [this](const std::string& rsName, QWidget& rWindow) {
+        ++mnLooks;
+        auto findings = gFindClippedText(rWindow);
+        std::erase_if(findings, [&](const std::string& rsWhat) { return IsKnown(rsName, rsWhat); });
+        EXPECT_THAT(findings, testing::IsEmpty()) << "in " << rsName;
+    };
+    CTestDesktop mDesktop;
+};
+
+TEST_P(ClippedText, NoneInTheWizard)
+{
+    gVisitWizard(mLook);
+    EXPECT_GT(mnLooks, 20);
+}
+
+TEST_P(ClippedText, NoneInTheSweepDialog)
+{
+    gVisitSweep(mLook);
+    EXPECT_EQ(mnLooks, 8 + 5);
+}
+
+TEST_P(ClippedText, NoneAmongEveryKindOfControl)
+{
+    gVisitSample(mLook);
+    EXPECT_EQ(mnLooks, 1);
+}
+
+TEST_P(ClippedText, NoneInMessageBoxes)
+{
+    gVisitBoxes(mLook);
+    EXPECT_EQ(mnLooks, 5);
+}
+
+INSTANTIATE_TEST_SUITE_P(Fonts, ClippedText, testing::Values(0, 1));
+
+/// The scale is the toolkit's for the whole of a process.
+TEST(ClippedTextAtScale, NoneAnywhere)
+{
+    for (const char* pScale : {"1", "1.5", "2"}) {
+        QProcess process;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::fromUtf8(pScale));
+        process.setProcessEnvironment(environment);
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(QApplication::applicationFilePath(),
+                      {QStringLiteral("--gtest_filter=Fonts/ClippedText.*:ScaleFactor.*")});
+        ASSERT_TRUE(process.waitForFinished(-1));
+        const std::string sOutput = process.readAll().toStdString();
+        EXPECT_EQ(process.exitCode(), 0) << "at scale " << pScale << ":\n" << sOutput;
+        EXPECT_THAT(sOutput, testing::HasSubstr("[  PASSED  ] 9 tests")) << "at scale " << pScale;
+    }
+}
+
+TEST(ScaleFactor, IsThatOfTheEnvironment)
+{
+    const qreal dExpected = qEnvironmentVariableIsSet("QT_SCALE_FACTOR")
+                                ? qEnvironmentVariable("QT_SCALE_FACTOR").toDouble()
+                                : 1;
+    EXPECT_EQ(QGuiApplication::primaryScreen()->devicePixelRatio(), dExpected);
+}
+
+TEST(ClippedTextProof, WhatHasTooLittleRoomIsFound)
+{
+    QWidget window;
+    window.resize(200, 100);
+    QLabel label(QStringLiteral("A text of some length"), &window);
+    QPushButton button(QStringLiteral("Another text"), &window);
+    label.setGeometry(QRect(QPoint(0, 0), label.sizeHint()));
+    button.setGeometry(QRect(QPoint(0, 40), button.sizeHint()));
+    window.show();
+    EXPECT_THAT(gFindClippedText(window), testing::IsEmpty());
+    label.resize(label.width() - 1, label.height());
+    EXPECT_THAT(gFindClippedText(window),
+                testing::ElementsAre(testing::HasSubstr("QLabel '' is too small")));
+    button.resize(button.width() / 2, button.height());
+    button.move(190, 40);
+    EXPECT_THAT(gFindClippedText(window),
+                testing::ElementsAre(testing::HasSubstr("QLabel"),
+                                     testing::HasSubstr("beyond its parent"),
+                                     testing::HasSubstr("QPushButton '' is too small")));
+}
+} // namespace

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+class QWidget;
+
+/// Gets a window in one of its states, painted, under a name of that state.
+using TLook = std::function<void(const std::string& rsName, QWidget& rWindow)>;
+
+// Visits show windows one after the other in every state that choices bring about. The current
+// desktop is a QtDesktop.
+
+/// The wizard on each node of its tree; on a page, each entry of each list and each radio button.
+void gVisitWizard(const TLook& rLook);
+
+/// The sweep dialog with each type, and each kind of parameter.
+void gVisitSweep(const TLook& rLook);
+
+/// The dialog with every kind of control, filled in.
+void gVisitSample(const TLook& rLook);
+
+/// Message boxes of each kind, with a short text and with a long one.
+void gVisitBoxes(const TLook& rLook);

@@ -1,0 +1,9 @@
+#include "support/examples/ExampleLines.h"
+
+TExampleLines gAllExamples()
+{
+    TExampleLines all;
+    for (const TExampleLines* pExamples : {&gAnalysisExamples()})
+        all.insert(all.end(), pExamples->begin(), pExamples->end());
+    return all;
+}

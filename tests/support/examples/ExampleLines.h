@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// A command as a user writes it for the command line, and what comes of it.
+struct TExampleLine {
+    std::string sPage;                  ///< path in the tree, or the class of a page without a node
+    std::vector<std::string> arguments; ///< `key=value`, `button.key=value` in that button's dialog
+    std::string sLine;         ///< what is inserted, lines joined by LF; empty when nothing is
+    std::string sMessage = {}; ///< what the page says when it refuses; empty when it says nothing
+};
+
+using TExampleLines = std::vector<TExampleLine>;
+
+/// The examples of the pages of a category.
+const TExampleLines& gAnalysisExamples();
+
+/// All of them.
+TExampleLines gAllExamples();
