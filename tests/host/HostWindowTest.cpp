@@ -2,11 +2,11 @@
 
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
-#include "support/Unprivileged.h"
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/NetlistEdit.h"
 #include "quorvahost/RecentFiles.h"
 #include "quorvahost/tour/User.h"
+#include "support/Unprivileged.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
