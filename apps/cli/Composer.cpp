@@ -110,7 +110,11 @@ bool CComposer::Act(CDialog& rInnermost)
 
     const TComposeArgument* const pNext =
         mnNext < mrArguments.size() ? &mrArguments[mnNext] : nullptr;
+    const bool bJustRefused = mLast.kind == TComposeMove::EKind::Act && msPressed == "accept" &&
+                              mOpen.size() == mnDepthBefore;
     mLast = gNextMove(mOpen, pNext);
+    if (mLast.kind == TComposeMove::EKind::Accept)
+        Expect(!bJustRefused, "the dialog of " + gQuoted(mOpen.back()) + " stayed open");
     mnDepthBefore = mOpen.size();
     mnBoxesBefore = mBoxes.size();
     switch (mLast.kind) {
@@ -162,10 +166,10 @@ void CComposer::Insert()
         throw CStopped("the page on display has no command to insert");
 }
 
-std::string AsLines(CString sCommand)
+std::string LinesOf(CString sText)
 {
-    sCommand.Replace("\r\n", "\n");
-    return gToUtf8(sCommand);
+    sText.Replace("\r\n", "\n");
+    return gToUtf8(sText);
 }
 } // namespace
 
@@ -188,12 +192,12 @@ TComposition gCompose(const TWizard& rWizard, const TPage& rPage,
     }
 
     for (const CString& rsCommand : target.Take())
-        composition.command = AsLines(rsCommand);
+        composition.command = LinesOf(rsCommand);
     const std::vector<TShownBox> shownBoxes = composer.TakeBoxes();
     composition.boxes.reserve(shownBoxes.size());
     for (const TShownBox& rShown : shownBoxes)
         composition.boxes.push_back(
-            {gToUtf8(rShown.box.sText), (rShown.box.nFlags & MB_TYPEMASK) == MB_YESNO});
+            {LinesOf(rShown.box.sText), (rShown.box.nFlags & MB_TYPEMASK) == MB_YESNO});
     return composition;
 }
 

@@ -34,7 +34,7 @@ TEST(ExampleLines, ASweepThatIsRefusedLeavesItsDialogOpen)
 {
     EXPECT_EQ(gRunQuorvawiz({"compose", "Analysis/Transient", "sweep.accept"}),
               (TProgramRun{"",
-                           "Missing parameter name.\nMissing parameter name.\n"
+                           "Missing parameter name.\n"
                            "quorvawiz: the dialog of \"sweep\" stayed open\n",
                            1}));
 }

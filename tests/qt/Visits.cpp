@@ -9,6 +9,8 @@
 #include "qt/Player.h"
 #include "support/WizardRun.h"
 #include "wizard/analysis/StepSweepPage.h"
+#include "wizard/frame/SinglePageDlg.h"
+#include "wizard/frame/WizardPages.h"
 
 #include <QApplication>
 #include <deque>
@@ -109,6 +111,22 @@ void gVisitWizard(const TLook& rLook)
     });
     CRecordingTarget target;
     visit.Go([&target] { quorvawiz::gInvokeSpiceCommandWizard(nullptr, &target); });
+}
+
+void gVisitSinglePages(const TLook& rLook)
+{
+    for (const CRuntimeClass* pClass : gWizardPagesWithoutNode()) {
+        CVisit visit(rLook);
+        visit.Add([&visit] {
+            visit.Insert([&visit] {
+                const std::string sName = gOpenWizard().GetWindowText().GetString();
+                visit.AddLook(sName);
+                AddChoices(visit, sName);
+            });
+        });
+        CRecordingTarget target;
+        visit.Go([pClass, &target] { CSinglePageDlg(nullptr, &target, *pClass).DoModal(); });
+    }
 }
 
 void gVisitSweep(const TLook& rLook)

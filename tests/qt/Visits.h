@@ -14,6 +14,9 @@ using TLook = std::function<void(const std::string& rsName, QWidget& rWindow)>;
 /// The wizard on each node of its tree; on a page, each entry of each list and each radio button.
 void gVisitWizard(const TLook& rLook);
 
+/// Each page that no node leads to, in the dialog of its own, as `gVisitWizard` shows the others.
+void gVisitSinglePages(const TLook& rLook);
+
 /// The sweep dialog with each type, and each kind of parameter.
 void gVisitSweep(const TLook& rLook);
 

@@ -4,16 +4,17 @@
 #include <QItemSelectionModel>
 #include <utility>
 
-void gOnRowMoved(QAbstractItemView& rView, QObject& rContext, std::function<void()> onMoved)
+void gOnRowMoved(QAbstractItemView& rView, QObject& rContext, const std::function<void()>& rOnMoved)
 {
     rView.setSelectionMode(QAbstractItemView::SingleSelection);
     rView.setSelectionBehavior(QAbstractItemView::SelectRows);
     // Keys and mouse move the two in different orders.
     QItemSelectionModel* const pSelection = rView.selectionModel();
-    QObject::connect(pSelection, &QItemSelectionModel::selectionChanged, &rContext,
-                     [onMoved](const QItemSelection&, const QItemSelection&) { onMoved(); });
+    QObject::connect(
+        pSelection, &QItemSelectionModel::selectionChanged, &rContext,
+        [onMoved = rOnMoved](const QItemSelection&, const QItemSelection&) { onMoved(); });
     QObject::connect(pSelection, &QItemSelectionModel::currentChanged, &rContext,
-                     [onMoved](const QModelIndex&, const QModelIndex&) { onMoved(); });
+                     [onMoved = rOnMoved](const QModelIndex&, const QModelIndex&) { onMoved(); });
 }
 
 int gSelectedRowOf(const QAbstractItemView& rView)

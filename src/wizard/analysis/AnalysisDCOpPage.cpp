@@ -8,10 +8,10 @@ namespace
 {
 enum EControlId { kFrame = 1001, kNote, kSuppress };
 
-constexpr auto kRows = PageRows(
-    GroupBox(kFrame, "frame", "", NoteLine(kNote, "note", "DC Operating Point Calculation."),
-             CheckLine(kSuppress, "suppress",
-                       "&Suppress automatic output of node voltages and source currents")));
+constexpr auto kRows = PageRows(GroupBox(
+    kFrame, "frame", "", NoteLine(kNote, "note", "DC Operating Point Calculation."),
+    At(Row(kSuppress, "suppress", EControl::CheckBox,
+           "&Suppress automatic output of node voltages and source currents", {14, 0, 226, 12}))));
 constexpr DialogTemplate kTemplate{"DC operating point", kPageSize, kRows};
 
 struct TFields {

@@ -13,7 +13,7 @@ CStepSweepPage::CStepSweepPage(CWnd* pOwner) : CDialog(kTemplate, pOwner) {}
 void CStepSweepPage::Prepare(const CString& rsPrefix, bool bReset)
 {
     msPrefix = rsPrefix;
-    mbReset = bReset || mResultType == ESweepType::NotUsed;
+    mbReset = bReset;
 }
 
 TMessageMap CStepSweepPage::GetMessageMap() const

@@ -12,8 +12,8 @@ public:
     /// `pOwner` (may be null): the page whose sweep this is.
     explicit CStepSweepPage(CWnd* pOwner = nullptr);
 
-    /// Before each opening: what the clause starts with, and whether to start anew. A dialog
-    /// without a result has nothing to show and starts anew all the same.
+    /// Before each opening: what the clause starts with, and whether to start anew. A page asks for
+    /// that as long as it has no sweep; otherwise the dialog would open with no type selected.
     void Prepare(const CString& rsPrefix, bool bReset);
 
     bool OnInitDialog() override;

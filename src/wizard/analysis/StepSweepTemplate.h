@@ -28,10 +28,10 @@ inline constexpr const char* kTypes[] = {"Linear", "Decade", "Octave",      "Lis
 inline constexpr const char* kParameters[] = {"Model parameter", "Parameter", "Parameter name",
                                               "Source", "Temperature"};
 
-/// The layer of what a type shows.
+/// The layer of what a type shows; 0 without a type.
 constexpr unsigned LayerOf(ESweepType type)
 {
-    return 1U << static_cast<unsigned>(type);
+    return type == ESweepType::NotUsed ? 0 : 1U << static_cast<unsigned>(type);
 }
 
 inline constexpr unsigned kLinear = LayerOf(ESweepType::Linear);
@@ -108,10 +108,12 @@ inline constexpr const char* kParameterLabels[] = {
     "__$$Translatable$$_Para&meter name:", "__$$Translatable$$_Para&meter:",
     "__$$Translatable$$_Para&meter name:", "__$$Translatable$$_So&urce name:", ""};
 
-/// The labels of a type other than `NotUsed`.
+inline constexpr TTypeLabels kNoLabels{"", "", "", "", ""};
+
+/// The labels of a type; none without one.
 constexpr const TTypeLabels& TypeLabels(ESweepType type)
 {
-    return kTypeLabels[static_cast<std::size_t>(type)];
+    return type == ESweepType::NotUsed ? kNoLabels : kTypeLabels[static_cast<std::size_t>(type)];
 }
 
 /// The label of the parameter's name.

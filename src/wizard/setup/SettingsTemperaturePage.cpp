@@ -9,10 +9,10 @@ namespace
 {
 enum EControlId { kTemperatures = 1001, kNote };
 
-constexpr auto kRows = PageRows(
-    TextBox(kTemperatures, "temperature-list",
-            "&List circuit temperatures, separated by spaces (in degrees Celsius):", 60, 2),
-    NoteLine(kNote, "note", "(default is 27)"));
+constexpr auto kRows =
+    PageRows(TextBox(kTemperatures, "temperature-list",
+                     "&List circuit temperatures, separated by spaces (in degrees Celsius):", 60),
+             NoteLine(kNote, "note", "(default is 27)"));
 constexpr DialogTemplate kTemplate{"Temperature", kPageSize, kRows};
 
 struct TFields {

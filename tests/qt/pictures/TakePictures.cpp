@@ -51,6 +51,7 @@ int TakeAll(const QStringList& rOptions)
     QDir().mkpath(sFolder);
     CTestDesktop desktop;
     gVisitWizard(TakePicture);
+    gVisitSinglePages(TakePicture);
     gVisitSweep(TakePicture);
     gVisitSample(TakePicture);
     gVisitBoxes(TakePicture);

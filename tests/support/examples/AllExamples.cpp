@@ -3,7 +3,7 @@
 TExampleLines gAllExamples()
 {
     TExampleLines all;
-    for (const TExampleLines* pExamples : {&gAnalysisExamples()})
+    for (const TExampleLines* pExamples : {&gAnalysisExamples(), &gSetupExamples()})
         all.insert(all.end(), pExamples->begin(), pExamples->end());
     return all;
 }

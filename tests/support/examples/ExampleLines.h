@@ -15,6 +15,7 @@ using TExampleLines = std::vector<TExampleLine>;
 
 /// The examples of the pages of a category.
 const TExampleLines& gAnalysisExamples();
+const TExampleLines& gSetupExamples();
 
 /// All of them.
 TExampleLines gAllExamples();

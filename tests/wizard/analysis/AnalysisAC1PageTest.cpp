@@ -268,11 +268,22 @@ TEST_F(ACPage, WithoutATypeTheTextStaysAcAndABlank)
 
 TEST_F(ACPage, AFailedAttemptLeavesAcAndABlankInTheRunsCommand)
 {
-    const auto outcome = gRunWizard(CScript()
-                                        .Do({Open(kPath), Insert()})
-                                        .Look({look::Command(".ac ")})
-                                        .Do({Open("Analysis/Stability"), Insert()}));
-    EXPECT_EQ(outcome.inserted, std::vector<std::string>{".ac "});
+    for (const char* pType : {"linear", "decade", "octave", "list", "poi"}) {
+        SCOPED_TRACE(pType);
+        const auto outcome = gRunWizard(CScript()
+                                            .Do({Open(kPath), Select("sampling-type", pType)})
+                                            .Do({Insert()})
+                                            .Look({look::Command(".ac ")})
+                                            .Do({Open("Analysis/Stability"), Insert()}));
+        EXPECT_EQ(outcome.inserted, std::vector<std::string>{".ac "});
+    }
+}
+
+TEST_F(ACPage, EnterStartsANewLineInTheListOfValues)
+{
+    const auto outcome = gRunWizard({Open(kPath), Select("sampling-type", "list"),
+                                     Set("list-of-values", "1k"), Key("enter"), Insert()});
+    EXPECT_EQ(outcome.inserted, std::vector<std::string>{".ac list 1k"});
 }
 
 // --- what is remembered

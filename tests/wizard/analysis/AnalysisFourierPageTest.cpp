@@ -82,6 +82,15 @@ const TCase kCases[] = {
     {"no signals", "1k", "", "", " ", true, {}, {"[Missing plot list.]"}},
 };
 
+TEST_F(FourierPage, AFailureLeavesTheRunsCommandAsItWas)
+{
+    gRunWizard(CScript()
+                   .Do({Open("Analysis/Fourier")})
+                   .Fill({"base-frequency=1", "signals=v(1)"})
+                   .Do({Insert(), Set("signals", ""), Insert()})
+                   .Look({look::Command(".four 1 v(1) interpolate=1")}));
+}
+
 TEST_F(FourierPage, BuildsTheFourCommand)
 {
     const CBracketTranslation translation;

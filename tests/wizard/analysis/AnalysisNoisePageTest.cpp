@@ -56,6 +56,15 @@ const TCase kCases[] = {
     {"no output", " ", "in2", "vin", {}, {"[Missing output node.]"}},
 };
 
+TEST_F(NoisePage, AFailureLeavesTheRunsCommandAsItWas)
+{
+    gRunWizard(CScript()
+                   .Do({Open("Analysis/Noise")})
+                   .Fill({"output-node=1", "input-source=v1"})
+                   .Do({Insert(), Set("input-source", ""), Insert()})
+                   .Look({look::Command(".noise v(1) v1")}));
+}
+
 TEST_F(NoisePage, ReportsAMissingSourceBeforeAWrongOneAndThatBeforeAMissingOutput)
 {
     const CBracketTranslation translation;

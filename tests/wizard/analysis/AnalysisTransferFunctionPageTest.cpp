@@ -51,6 +51,15 @@ const TCase kCases[] = {
     {"no output", " ", "vin", {}, {"[Missing circuit output specification.]"}},
 };
 
+TEST_F(TransferFunctionPage, AFailureLeavesTheRunsCommandAsItWas)
+{
+    gRunWizard(CScript()
+                   .Do({Open("Analysis/Transfer function")})
+                   .Fill({"output=v(1)", "input-source=v1"})
+                   .Do({Insert(), Set("input-source", ""), Insert()})
+                   .Look({look::Command(".tf v(1) v1")}));
+}
+
 TEST_F(TransferFunctionPage, BuildsTheTfCommand)
 {
     const CBracketTranslation translation;

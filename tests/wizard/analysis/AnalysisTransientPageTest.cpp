@@ -107,6 +107,19 @@ TEST_F(TransientPage, ChecksTheTimeStepBeforeTheLength)
                                                           "[Missing maximum time step value.]"}));
 }
 
+TEST_F(TransientPage, ItsFieldsStandInTheOrderOfTheTemplate)
+{
+    gRunWizard(CScript().Do({Open("Analysis/Transient")}).Then([](CDialog& rDialog) {
+        std::vector<std::string> keys;
+        for (const TFieldView& rField : gCollectFields(gCurrentPane(rDialog)))
+            keys.emplace_back(rField.sKey);
+        EXPECT_EQ(keys,
+                  (std::vector<std::string>{"mode-group", "mode", "maximum-time-step",
+                                            "simulation-length", "output-start-time", "sweep-group",
+                                            "sweep", "sweep-summary-1", "sweep-summary-2"}));
+    }));
+}
+
 TEST_F(TransientPage, ItsTextsAreThoseOfTheTemplate)
 {
     const CBracketTranslation translation;

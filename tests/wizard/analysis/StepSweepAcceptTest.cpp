@@ -234,7 +234,7 @@ TEST_F(StepSweepAccept, AFailedCheckLeavesTheControlsAsTheyWereTyped)
 {
     Open(CScript()
              .Do({Set("parameter-name", "  r1 "), Click("accept")})
-             .Look({look::Text("parameter-name", "  r1 ")})
+             .Look({look::Text("parameter-name", "  r1 "), look::Focused("accept")})
              .Do({Click("cancel")}));
 }
 

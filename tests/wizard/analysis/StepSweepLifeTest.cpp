@@ -54,13 +54,25 @@ protected:
     }
 };
 
-TEST_F(StepSweepLife, WithoutAResultItStartsAnewEvenIfNotAskedTo)
+TEST_F(StepSweepLife, NotAskedToStartAnewWithoutAResultItSelectsNoType)
 {
     CScript script;
-    for (const CScript::TAction& rLook : Fresh())
-        script.Then(rLook);
+    script.Look({look::Selected("sweep-type", -1), look::Shown("parameter-type", false),
+                 look::Shown("start", false), look::Shown("list-of-values", false)});
+    script.Do({Select("sweep-type", "Data"), Set("start", "d1"), Click("accept")});
     mpDialog->Prepare("sweep ", false);
     script.Run(mDesktop, [this] { mpDialog->DoModal(); });
+    EXPECT_EQ(mpDialog->GetResult(), "sweep data=d1");
+}
+
+TEST_F(StepSweepLife, AcceptedWithoutATypeItHasNoResultButThePrefix)
+{
+    CScript script;
+    script.Do({Click("accept")});
+    mpDialog->Prepare("sweep ", false);
+    script.Run(mDesktop, [this] { mpDialog->DoModal(); });
+    EXPECT_EQ(mpDialog->GetResultType(), ESweepType::NotUsed);
+    EXPECT_EQ(mpDialog->GetResult(), "sweep ");
 }
 
 TEST_F(StepSweepLife, AFreshDialogHasNoResult)

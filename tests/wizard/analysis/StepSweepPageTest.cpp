@@ -23,6 +23,13 @@ void LookAtField(CScript& rScript, const char* pKey, const char* pLabel)
         rScript.Look({look::Label(pKey, pLabel)});
 }
 
+/// The same of an edit whose label a change of type empties first.
+void LookAtEdit(CScript& rScript, const char* pKey, const char* pLabel)
+{
+    LookAtField(rScript, pKey, pLabel);
+    rScript.Look({look::Label(pKey, pLabel ? pLabel : "")});
+}
+
 struct TTypeCase {
     const char* pType;
     const char* pStart; ///< the labels; null where the field is hidden
@@ -51,11 +58,11 @@ const TTypeCase kTypes[] = {
 
 void LookAtType(CScript& rScript, const TTypeCase& rCase)
 {
-    LookAtField(rScript, "start", rCase.pStart);
-    LookAtField(rScript, "stop", rCase.pStop);
-    LookAtField(rScript, "increment", rCase.pIncrement);
-    LookAtField(rScript, "number-of-points", rCase.pNumberOfPoints);
-    LookAtField(rScript, "list-of-values", rCase.pListOfValues);
+    LookAtEdit(rScript, "start", rCase.pStart);
+    LookAtEdit(rScript, "stop", rCase.pStop);
+    LookAtEdit(rScript, "increment", rCase.pIncrement);
+    LookAtEdit(rScript, "number-of-points", rCase.pNumberOfPoints);
+    LookAtEdit(rScript, "list-of-values", rCase.pListOfValues);
     LookAtField(rScript, "parameter-type", rCase.bParameter ? "&Parameter type:" : nullptr);
     LookAtField(rScript, "parameter-name", rCase.bParameter ? "[Para&meter name:]" : nullptr);
     LookAtField(rScript, "model-name", nullptr);

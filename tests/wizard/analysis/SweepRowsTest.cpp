@@ -138,9 +138,11 @@ TEST_P(SweepRowsTest, TheFirstSweepNotUsedWithTheSecondAcceptedInsertsNothingAnd
     const auto outcome = gRunWizard(OnPage()
                                         .Do(MonteCarlo("sweep-1", "1"))
                                         .Do(MonteCarlo("sweep-2", "2"))
+                                        .Do({Insert()})
                                         .Do(Unuse("sweep-1"))
-                                        .Do({Insert()}));
-    EXPECT_TRUE(outcome.inserted.empty());
+                                        .Do({Insert()})
+                                        .Look({look::Command(Line("monte=1 sweep monte=2")[0])}));
+    EXPECT_EQ(outcome.inserted, Line("monte=1 sweep monte=2")) << "once, before";
     EXPECT_EQ(outcome.messages, std::vector<std::string>{"Missing parameter name."})
         << "the sweep dialog alone has spoken";
 }
