@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <map>
 #include <string>
@@ -171,11 +172,13 @@ TEST(ParseModel, PlainNumbersAreThoseOfTheStandardLibrary)
     CRandomNumbers random(1002);
     for (int nRound = 0; nRound < kRounds; ++nRound) {
         const double dValue = random.Written();
-        char text[64];
-        std::snprintf(text, sizeof(text), "%.*e", random.Int(17), dValue);
+        char text[64] = {};
+        const auto written = std::to_chars(text, text + sizeof(text) - 1, dValue,
+                                           std::chars_format::scientific, random.Int(17));
         double dResult = 0;
         ASSERT_EQ(gParseEngineering(text, dResult, nullptr, false), "");
-        const double dStandard = std::strtod(text, nullptr);
+        double dStandard = 0;
+        std::from_chars(text, written.ptr, dStandard);
         // Close to the end of the range the power leaves it before the number does.
         if (std::abs(dStandard) > 1e-290) {
             ASSERT_NEAR(dResult, dStandard, std::abs(dStandard) * 2e-15) << text;
