@@ -1,6 +1,6 @@
 #include "foundation/SystemPaths.h"
 
-#include "foundation/PathRules.h"
+#include "foundation/PathParts.h"
 #include "foundation/UnixSide.h"
 #include "platform/base/FileSystem.h"
 #include "platform/base/ProgramFile.h"
