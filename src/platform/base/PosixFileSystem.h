@@ -15,4 +15,6 @@ public:
     bool MakeFolder(std::u16string_view sPath) override;
     [[nodiscard]] std::u16string GetCurrentFolder() override;
     [[nodiscard]] std::int64_t GetModificationTime(std::string_view sName) override;
+    [[nodiscard]] std::u16string GetProgramFile() override;
+    [[nodiscard]] std::u16string GetModuleFile(const void* pAddress) override;
 };
