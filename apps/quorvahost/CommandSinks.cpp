@@ -21,7 +21,7 @@ namespace
 
 QString SystemWords(int nCode)
 {
-    return QString::fromLocal8Bit(gSystemErrorMessage(nCode).c_str());
+    return QString::fromStdU16String(gSystemErrorMessageWide(nCode));
 }
 
 /// What a file has that decides how a line is added to it.

@@ -30,7 +30,7 @@ TFileFault CannotSave(const QString& rsPath, const QString& rsWhy)
 
 QString SystemWords(int nCode)
 {
-    return QString::fromLocal8Bit(gSystemErrorMessage(nCode).c_str());
+    return QString::fromStdU16String(gSystemErrorMessageWide(nCode));
 }
 } // namespace
 

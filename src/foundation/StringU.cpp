@@ -106,8 +106,9 @@ void CStringU::Assign(std::string_view sText, TTextKind kind)
 void CStringU::AppendUtf8(std::string_view sBytes)
 {
     const bool bUtf8 = IsUtf8() || !gIsAscii(sBytes);
+    const bool bLikeMarker = IsEmpty() && sBytes.starts_with(kUtf8Marker);
     Bytes() += sBytes;
-    if (bUtf8 && !IsUtf8()) {
+    if ((bUtf8 && !IsUtf8()) || bLikeMarker) {
         Bytes().insert(0, 1, kUtf8Marker);
     }
 }

@@ -75,7 +75,8 @@ public:
     /// @param kind how to read them
     void Assign(std::string_view sText, TTextKind kind);
 
-    /// Appends bytes of UTF-8, perhaps cut inside a character, by the marker rule.
+    /// Appends bytes of UTF-8, perhaps cut inside a character, by the marker rule. None is lost: a
+    /// first byte that reads as the marker gets one in front of it.
     void AppendUtf8(std::string_view sBytes);
 
     /// A text with its values filled in, as printf does; the result is taken as

@@ -197,7 +197,8 @@ void TTextFile::SetLength(std::uint64_t nNewLength)
     if (mbInMemory) {
         std::string sText(mpText->Text());
         sText.resize(nNewLength);
-        *mpText = CStringU(sText, TTextKind::Utf8IfNeeded);
+        mpText->Empty();
+        mpText->AppendUtf8(sText);
     } else {
         CFile::SetLength(nNewLength);
     }

@@ -37,7 +37,8 @@ void TTextFile::WriteIntoMemory(std::string_view sBytes)
     } else {
         std::string sJoined(sText);
         sJoined.replace(nFirst, sBytes.size(), sBytes);
-        *mpText = CStringU(sJoined, TTextKind::Utf8IfNeeded);
+        mpText->Empty();
+        mpText->AppendUtf8(sJoined);
     }
     mnMemoryPosition = nFirst + sBytes.size();
 }

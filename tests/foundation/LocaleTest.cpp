@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <locale>
 #include <string>
 
@@ -22,24 +21,16 @@ protected:
     std::string do_grouping() const override { return "\3"; }
 };
 
-/// While it lives, the program runs in a locale with a decimal comma: that of the C++ library
-/// always, that of the C library where the system has such a one.
+/// While it lives, the C++ library runs in a locale with a decimal comma and grouped digits. The C
+/// library's turn is the run of all tests in such a locale: see RunLocale.cpp.
 class CCommaLocale
 {
 public:
     CCommaLocale()
         : mOld(std::locale::global(std::locale(std::locale::classic(), new CCommaPunctuation)))
     {
-        for (const char* const pName : {"de_DE.UTF-8", "fr_FR.UTF-8", "tr_TR.UTF-8"}) {
-            if (std::setlocale(LC_ALL, pName) != nullptr)
-                break;
-        }
     }
-    ~CCommaLocale()
-    {
-        std::locale::global(mOld);
-        std::setlocale(LC_ALL, "C");
-    }
+    ~CCommaLocale() { std::locale::global(mOld); }
     CCommaLocale(const CCommaLocale&) = delete;
     CCommaLocale& operator=(const CCommaLocale&) = delete;
 

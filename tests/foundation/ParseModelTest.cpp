@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <map>
 #include <string>
@@ -163,6 +164,12 @@ TEST(ParseModel, RandomTextsAgree)
         ASSERT_EQ(sMessage, expected.bNumber ? "" : "Not a number") << sText;
         ASSERT_EQ(dResult, expected.dResult) << sText;
         ASSERT_EQ(static_cast<std::size_t>(pEnd - sText.c_str()), expected.nUsed) << sText;
+        const std::u16string sWide(sText.begin(), sText.end());
+        double dWide = 99;
+        const char16_t* pWideEnd = nullptr;
+        ASSERT_EQ(gParseEngineering(sWide.c_str(), dWide, &pWideEnd, bUseSi), sMessage) << sText;
+        ASSERT_EQ(dWide, dResult) << sText;
+        ASSERT_EQ(pWideEnd - sWide.c_str(), pEnd - sText.c_str()) << sText;
     }
 }
 
@@ -171,11 +178,13 @@ TEST(ParseModel, PlainNumbersAreThoseOfTheStandardLibrary)
     CRandomNumbers random(1002);
     for (int nRound = 0; nRound < kRounds; ++nRound) {
         const double dValue = random.Written();
-        char text[64];
-        std::snprintf(text, sizeof(text), "%.*e", random.Int(17), dValue);
+        char text[64] = {};
+        const auto written = std::to_chars(text, text + sizeof(text) - 1, dValue,
+                                           std::chars_format::scientific, random.Int(17));
         double dResult = 0;
         ASSERT_EQ(gParseEngineering(text, dResult, nullptr, false), "");
-        const double dStandard = std::strtod(text, nullptr);
+        double dStandard = 0;
+        std::from_chars(text, written.ptr, dStandard);
         // Close to the end of the range the power leaves it before the number does.
         if (std::abs(dStandard) > 1e-290) {
             ASSERT_NEAR(dResult, dStandard, std::abs(dStandard) * 2e-15) << text;

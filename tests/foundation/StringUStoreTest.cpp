@@ -245,6 +245,35 @@ TEST(StringUStoreTest, FormatTakesTheTextBehindTheMarker)
     EXPECT_EQ(sText.Stored(), "");
 }
 
+TEST(StringUStoreTest, AssignIsConstructionInPlace)
+{
+    const CCodePageScope scope(1252);
+    for (const std::string_view sBytes : {"abc"sv, "a\xE9"sv, "\xC3\xA9"sv, ""sv, "a\0\xE9"sv}) {
+        for (int nKind = 0; nKind < 5; ++nKind) {
+            CStringU sText(u"old \u20ac");
+            sText.Assign(sBytes, static_cast<TTextKind>(nKind));
+            EXPECT_EQ(sText, CStringU(sBytes, static_cast<TTextKind>(nKind))) << nKind;
+        }
+    }
+}
+
+TEST(StringUStoreTest, AppendedUtf8MayBeCutInsideACharacter)
+{
+    CStringU sText("a");
+    sText.AppendUtf8("\xC4");
+    EXPECT_EQ(sText.Stored(), "\x80"
+                              "a\xC4");
+    sText.AppendUtf8("\x80z"); // the second half, and no marker
+    EXPECT_EQ(sText, u"a\u0100z");
+    CStringU sEmpty;
+    sEmpty.AppendUtf8("");
+    sEmpty.AppendUtf8("\xC3\xA9");
+    EXPECT_EQ(sEmpty.Stored(), "\xC3\xA9");
+    CStringU sStray;
+    sStray.AppendUtf8("\x80z"); // a byte of its own, and no marker either
+    EXPECT_EQ(sStray.Stored(), "\x80\x80z");
+}
+
 TEST(StringUStoreTest, EqualTextsHaveOneHash)
 {
     std::unordered_set<CStringU> texts{CStringU(u"a\u00e9"), CStringU("abc")};
