@@ -117,6 +117,14 @@ void CNetlistEdit::wheelEvent(QWheelEvent* pEvent)
     pEvent->accept();
 }
 
+void CNetlistEdit::insertFromMimeData(const QMimeData* pSource)
+{
+    // The base would render what comes as Markdown, and an empty clipboard is its end.
+    if (pSource && pSource->hasText() && !isReadOnly())
+        textCursor().insertText(pSource->text());
+    ensureCursorVisible();
+}
+
 void CNetlistEdit::dragEnterEvent(QDragEnterEvent* pEvent)
 {
     if (pEvent->mimeData()->hasUrls())
