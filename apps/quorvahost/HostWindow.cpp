@@ -2,6 +2,7 @@
 
 #include "exports/Quorvawiz.h"
 #include "platform/qt/QtDesktop.h"
+#include "quorvahost/CloseListener.h"
 #include "quorvahost/CommandText.h"
 #include "quorvahost/FileQuestions.h"
 #include "quorvahost/FindBar.h"
@@ -27,6 +28,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 #include <exception>
+#include <functional>
 #include <utility>
 
 namespace quorvawiz::host
@@ -36,11 +38,13 @@ namespace
 const QString kGeometryKey = QStringLiteral("window-geometry");
 
 /// Puts what the wizard inserts into the editor.
-class CEditTarget : public QuorvaCommandWizardTarget
+class CEditTarget : public CTextTarget
 {
 public:
     explicit CEditTarget(CNetlistEdit& rEdit) : mrEdit(rEdit) {}
-    void InsertCommand(CString sCommand) override { mrEdit.InsertCommand(gCommandText(sCommand)); }
+
+protected:
+    void Take(const QString& rsText) override { mrEdit.InsertCommand(rsText); }
 
 private:
     CNetlistEdit& mrEdit;
@@ -57,6 +61,32 @@ public:
 
 private:
     bool& mrbFlag;
+};
+
+/// Acts once when a widget has been painted for the first time. The widget's child.
+class CFirstPaint : public QObject
+{
+public:
+    CFirstPaint(QWidget& rWidget, std::function<void()> act)
+        : QObject(&rWidget), mAct(std::move(act))
+    {
+        rWidget.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* pWidget, QEvent* pEvent) override
+    {
+        if (pEvent->type() == QEvent::Paint) {
+            pWidget->removeEventFilter(this);
+            // Behind the painting of all the window.
+            QMetaObject::invokeMethod(pWidget, mAct, Qt::QueuedConnection);
+            deleteLater();
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> mAct;
 };
 
 /// Shows the waiting pointer while it lives.
@@ -161,6 +191,11 @@ bool CHostWindow::OpenFile(const QString& rsPath)
     return true;
 }
 
+void CHostWindow::OpenFileOnceShown(const QString& rsPath)
+{
+    new CFirstPaint(*mpEdit->viewport(), [this, rsPath] { OpenFile(rsPath); });
+}
+
 void CHostWindow::NewFile()
 {
     if (!MayLeaveNetlist())
@@ -235,9 +270,10 @@ void CHostWindow::RunWizard()
     mbWizardRuns = true;
     QString sFault;
     try {
+        const CCloseListener closeListener(*this);
         gInvokeSpiceCommandWizard(gWindowOf(this), mpTarget.get());
     } catch (const std::exception& rError) {
-        sFault = tr("The wizard has ended: %1.").arg(QString::fromUtf8(rError.what()));
+        sFault = tr("the wizard has ended: %1").arg(QString::fromUtf8(rError.what()));
     }
     if (!pAlive)
         return;

@@ -35,6 +35,10 @@ public:
     /// @return false if the user kept what was there, or the file can't be read; it was told then
     bool OpenFile(const QString& rsPath);
 
+    /// `OpenFile` as soon as the window has been painted for the first time: a large file takes a
+    /// while, and a message stands in front of a window that is there.
+    void OpenFileOnceShown(const QString& rsPath);
+
     /// The netlist's editor.
     CNetlistEdit& Edit() { return *mpEdit; }
 
