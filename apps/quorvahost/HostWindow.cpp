@@ -132,7 +132,7 @@ CHostWindow::CHostWindow(QtDesktop& rDesktop) : mrDesktop(rDesktop)
     connect(mpEdit, &QPlainTextEdit::modificationChanged, this, &QWidget::setWindowModified);
 
     setAcceptDrops(true);
-    SetRecentFiles(gLoadRecentFiles());
+    ShowRecentFiles(gLoadRecentFiles());
     SetFile({}, {}, {});
     constexpr QSize kFirstSize(900, 640);
     resize(kFirstSize);
@@ -179,7 +179,7 @@ bool CHostWindow::OpenFile(const QString& rsPath)
     if (const auto* pFault = std::get_if<TFileFault>(&read)) {
         QStringList recent = gLoadRecentFiles();
         if (!QFileInfo::exists(sPath) && recent.removeAll(sPath) > 0)
-            SetRecentFiles(recent);
+            KeepRecentFiles(recent);
         gShowFault(this, *pFault);
         return false;
     }
@@ -187,7 +187,7 @@ bool CHostWindow::OpenFile(const QString& rsPath)
     const TNetlistFile& rFile = std::get<TNetlistFile>(read);
     mpEdit->LoadText(rFile.netlist.sText);
     SetFile(sPath, rFile.netlist.form, rFile.stamp);
-    SetRecentFiles(gWithRecentFile(gLoadRecentFiles(), sPath));
+    KeepRecentFiles(gWithRecentFile(gLoadRecentFiles(), sPath));
     return true;
 }
 
@@ -237,7 +237,7 @@ bool CHostWindow::SaveTo(const QString& rsPath)
     }
     mpEdit->document()->setModified(false);
     SetFile(rsPath, mForm, gStampOf(rsPath));
-    SetRecentFiles(gWithRecentFile(gLoadRecentFiles(), rsPath));
+    KeepRecentFiles(gWithRecentFile(gLoadRecentFiles(), rsPath));
     statusBar()->showMessage(tr("Saved"), 3000);
     return true;
 }
@@ -326,9 +326,14 @@ void CHostWindow::SetFile(const QString& rsPath, TTextForm form, const TFileStam
     setWindowModified(mpEdit->document()->isModified());
 }
 
-void CHostWindow::SetRecentFiles(const QStringList& rFiles)
+void CHostWindow::KeepRecentFiles(const QStringList& rFiles)
 {
     gSaveRecentFiles(rFiles);
+    ShowRecentFiles(rFiles);
+}
+
+void CHostWindow::ShowRecentFiles(const QStringList& rFiles)
+{
     mActions.pRecent->clear();
     mActions.pRecent->setEnabled(!rFiles.isEmpty());
     const QStringList labels = gRecentFileLabels(rFiles);

@@ -62,7 +62,8 @@ private:
     bool SaveTo(const QString& rsPath);
     bool MayLeaveNetlist();
     void SetFile(const QString& rsPath, TTextForm form, const TFileStamp& rStamp);
-    void SetRecentFiles(const QStringList& rFiles);
+    void KeepRecentFiles(const QStringList& rFiles);
+    void ShowRecentFiles(const QStringList& rFiles);
     QString ShownName() const;
     QString Folder() const;
     void About();

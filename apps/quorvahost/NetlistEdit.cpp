@@ -97,9 +97,7 @@ void CNetlistEdit::Zoom(int nDirection)
 void CNetlistEdit::resizeEvent(QResizeEvent* pEvent)
 {
     QPlainTextEdit::resizeEvent(pEvent);
-    const QRect inside = contentsRect();
-    mpLineNumbers->setGeometry(
-        QRect(inside.topLeft(), QSize(mpLineNumbers->NeededWidth(), inside.height())));
+    PlaceLineNumbers();
 }
 
 void CNetlistEdit::changeEvent(QEvent* pEvent)
@@ -189,10 +187,15 @@ void CNetlistEdit::UpdateColoured()
 void CNetlistEdit::UpdateMargin()
 {
     setViewportMargins(mpLineNumbers->NeededWidth(), 0, 0, 0);
+    PlaceLineNumbers();
+    mpLineNumbers->update();
+}
+
+void CNetlistEdit::PlaceLineNumbers()
+{
     const QRect inside = contentsRect();
     mpLineNumbers->setGeometry(
         QRect(inside.topLeft(), QSize(mpLineNumbers->NeededWidth(), inside.height())));
-    mpLineNumbers->update();
 }
 
 } // namespace quorvawiz::host

@@ -61,6 +61,7 @@ private:
     void ShowCurrentLine();
     void UpdateColoured();
     void UpdateMargin();
+    void PlaceLineNumbers();
 
     CLineNumbers* mpLineNumbers;
     CSpiceHighlighter* mpHighlighter;
