@@ -59,10 +59,11 @@ TEST_P(HostClippedText, NoneInTheEditor)
     window.activateWindow();
     CUser::Settle();
     EXPECT_THAT(gFindClippedText(window), testing::IsEmpty());
-    window.Edit().LoadText(QStringLiteral("a\n").repeated(kLargestColoured));
+    window.Edit().LoadText(
+        (QString(99, QLatin1Char('a')) + QLatin1Char('\n')).repeated(kLargestColoured / 100 + 1));
     mUser.Press(QKeySequence(Qt::CTRL | Qt::Key_End));
     mUser.Press(QKeySequence::Find);
-    for (const char* const pText : {"a", "zzz"}) { // wrapped around, not found
+    for (const char* const pText : {"aaa", "zzz"}) { // wrapped around, not found
         mUser.Press(QKeySequence::SelectAll);
         mUser.Type(QString::fromLatin1(pText));
         EXPECT_THAT(gFindClippedText(window), testing::IsEmpty()) << pText;
