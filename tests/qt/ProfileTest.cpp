@@ -31,6 +31,21 @@ TEST(Profile, ValuesLive)
     EXPECT_EQ(desktop.ReadProfile("Other", "Path"), std::nullopt);
 }
 
+TEST(Profile, ASectionMayHaveNoName)
+{
+    const QTemporaryDir folder;
+    const QString sFile = folder.filePath(QStringLiteral("profile.ini"));
+    {
+        QtDesktop desktop(sFile);
+        EXPECT_TRUE(desktop.WriteProfile("", "MRPATH", "/tmp/a.lib"));
+        EXPECT_TRUE(desktop.WriteProfile("General", "MRPATH", "another"));
+    }
+    QtDesktop desktop(sFile);
+    EXPECT_EQ(desktop.ReadProfile("", "MRPATH"), CString("/tmp/a.lib"));
+    EXPECT_EQ(desktop.ReadProfile("General", "MRPATH"), CString("another"));
+    EXPECT_EQ(desktop.ReadProfile("", "Never"), std::nullopt);
+}
+
 TEST(Profile, AValueThatCannotBeWrittenIsToldOf)
 {
     const QTemporaryDir folder;

@@ -8,8 +8,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFontDatabase>
-#include <QPlainTextEdit>
+#include <QMenu>
+#include <QTest>
 #include <QTreeWidget>
+#include <QWindow>
 
 namespace
 {
@@ -175,10 +177,22 @@ TEST_F(WizardWindow, TheMouseAloneReachesThePageAndCloses)
 {
     CPlayer player;
     player.Do({"branch tree@Settings", "click tree@Temperature", "click temperature-list"});
-    // What a mouse can bring in is a text from elsewhere: the context menu's "Paste".
-    player.Then("paste", [] {
+    // What a mouse can bring in is a text from elsewhere.
+    player.Then("open the context menu", [] {
         QGuiApplication::clipboard()->setText(QStringLiteral("0 27 85"));
-        dynamic_cast<QPlainTextEdit&>(*gFrontWidget("temperature-list")).paste();
+        const QWidget& rField = *gFrontWidget("temperature-list");
+        QTest::mouseClick(rField.window()->windowHandle(), Qt::RightButton, Qt::NoModifier,
+                          rField.mapTo(rField.window(), rField.rect().center()));
+    });
+    player.Then("click on Paste", [] {
+        auto* const pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(pMenu);
+        for (QAction* const pAction : pMenu->actions())
+            if (pAction->objectName() == QStringLiteral("edit-paste")) {
+                gClickAt(*pMenu, pMenu->actionGeometry(pAction).center());
+                return;
+            }
+        FAIL() << "the menu has no Paste";
     });
     player.Do({"click insert", "click close"});
     Play(player);
