@@ -57,6 +57,7 @@ public:
         return mEntries.try_emplace(KeyOf(sPath), TFileAttributes{.mbDirectory = true}).second;
     }
     std::u16string GetCurrentFolder() override { return u"/f"; }
+    bool SetCurrentFolder(std::u16string_view) override { return false; }
     std::int64_t GetModificationTime(std::string_view) override { return 1; }
     std::u16string GetProgramFile() override { return u"/f/a"; }
     std::u16string GetModuleFile(const void*) override { return u"/f/a"; }

@@ -108,8 +108,8 @@ std::string LabelCell(const TJson& rControl)
 {
     const TJson& rLabel = rControl["label"];
     std::string sLabel = rLabel.is_string() ? rLabel.get<std::string>() : "-";
-    if (rControl.contains("unit"))
-        sLabel += " (" + rControl["unit"].get<std::string>() + ')';
+    if (const std::string sUnit = rControl.value("unit", ""); !sUnit.empty())
+        sLabel += " (" + sUnit + ')';
     return Cell(sLabel);
 }
 

@@ -4,6 +4,7 @@
 #include "cli/Quote.h"
 #include "cli/RequestMembers.h"
 #include "cli/Suggest.h"
+#include "foundation/Paths.h"
 
 #include <nlohmann/json.hpp>
 
@@ -118,8 +119,13 @@ TRequest ReadFile(const TMembers& rMembers)
         int{rMembers.Has("path")} + int{rMembers.Has("cancel")} + int{rMembers.Has("invalid")};
     if (nGiven != 1)
         throw CRequestError("one of the members \"path\", \"cancel\" and \"invalid\" is wanted");
-    if (rMembers.Has("path"))
-        return TFileRequest{{TFileChoice::EEnd::Chosen, rMembers.Text("path")}};
+    if (rMembers.Has("path")) {
+        const CString sPath = rMembers.Text("path");
+        // What a file dialog hands over is whole.
+        if (!gIsAbsolutePath(CStringU(sPath)))
+            throw CRequestError("the path " + gQuoted(sPath.GetString()) + " isn't a whole one");
+        return TFileRequest{{TFileChoice::EEnd::Chosen, sPath}};
+    }
     const bool bCancel = rMembers.Has("cancel");
     const char* const pName = bCancel ? "cancel" : "invalid";
     if (!rMembers.Flag(pName))

@@ -100,6 +100,16 @@ void AddChoices(CVisit& rVisit, const std::string& rsName)
         auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl);
         if (pCombo && pCombo->IsWindowVisible())
             AddEntries(rVisit, rsName, *pCombo);
+        if (rField.kind == EControl::CheckBox) {
+            rVisit.Add([&rVisit, rsName, rField] {
+                auto& rBox = dynamic_cast<CButton&>(*rField.pControl);
+                rBox.UserClick();
+                const char* const pState = rBox.GetCheck() ? "-on" : "-off";
+                rVisit.Insert(
+                    [&] { rVisit.AddLook(rsName + "-" + std::string(rField.sKey) + pState); });
+            });
+            rVisit.Add([rField] { dynamic_cast<CButton&>(*rField.pControl).UserClick(); });
+        }
         for (CButton* const pRadio : rField.radios) {
             rVisit.Add([pRadio] { pRadio->UserClick(); });
             CString sLabel = pRadio->GetWindowText();

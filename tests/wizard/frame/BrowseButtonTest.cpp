@@ -262,12 +262,12 @@ TEST_F(BrowseButton, CancelAtTheSecondAttemptLeavesTheEdit)
 TEST_F(BrowseButton, ProgramsAndLibrariesOfCodeStartInTheFolderOfTheProgram)
 {
     mDesktop.WriteProfile("", "MRPATH", "/last");
+    mpFiles->msProgramFile = u"/programs/host";
     for (const char* const pFilter : {kProgramsFilter, kCodeLibrariesFilter}) {
         CBrowseDlg dialog(pFilter);
         Click(dialog, {Chosen("/bin/x")}, "/bin/x");
         ASSERT_EQ(mShown.size(), 1U);
-        EXPECT_EQ(mShown[0].sFolder, gGetPathWithoutFileName(gGetExecutablePath()).ToAnsi());
-        EXPECT_NE(mShown[0].sFolder, "");
+        EXPECT_EQ(mShown[0].sFolder, CString("/programs"));
         EXPECT_EQ(CStringU(mpFiles->msCurrentFolder).ToAnsi(), mShown[0].sFolder);
         EXPECT_EQ(Profile(), CString("/bin"));
     }

@@ -69,7 +69,7 @@ TEST_F(ExponentialSourcePages, CheckTheFieldsInTheirOrder)
             {"nothing", {}, "", "[Missing @ source name.]"},
             {"a name of blanks", {"name= ", "positive-terminal=a"}, "", "[Missing @ source name.]"},
             {"no positive terminal",
-             {"name=1", "positive-terminal= ", "initial=1"},
+             {"name=1", "positive-terminal= "},
              "",
              "[Missing positive terminal name.]"},
             {"no initial level",

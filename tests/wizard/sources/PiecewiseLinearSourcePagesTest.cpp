@@ -92,7 +92,7 @@ TEST_F(PiecewiseLinearSourcePages, CheckTheFieldsInTheirOrder)
             {"nothing", {}, "", "[Missing @ source name.]"},
             {"a name of blanks", {"name= ", "positive-terminal=a"}, "", "[Missing @ source name.]"},
             {"no positive terminal",
-             {"name=1", "positive-terminal= ", "corners=1"},
+             {"name=1", "positive-terminal= "},
              "",
              "[Missing positive terminal name.]"},
         });

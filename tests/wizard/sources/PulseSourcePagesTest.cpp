@@ -105,7 +105,7 @@ TEST_F(PulseSourcePages, CheckTheFieldsInTheirOrder)
                             "",
                             "[Missing @ source name.]"},
                            {"no positive terminal",
-                            {"name=1", "positive-terminal= ", "peak=5"},
+                            {"name=1", "positive-terminal= "},
                             "",
                             "[Missing positive terminal name.]"},
                            {"no peak, before the times are looked at",

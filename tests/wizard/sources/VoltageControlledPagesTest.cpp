@@ -155,6 +155,7 @@ TEST_F(VoltageControlledPages, BuildTheLineWithAnExpression)
              ""},
             {"no voltage", {"first-control-field= "}, "", "[Missing voltage expression.]"},
             {"no name", {"name="}, "", kVoltage.pMissingName},
+            {"neither", {"name=", "positive-terminal="}, "", kVoltage.pMissingName},
             {"no positive terminal", {"positive-terminal= "}, "", kVoltage.pMissingPositive},
         });
 }
@@ -210,7 +211,7 @@ TEST_F(VoltageControlledPages, CheckTheFieldsOfAPolynomialInTheirOrder)
                          {"nothing", {}, "", rTwin.pMissingNamePolynomial},
                          {"a name", {"name=1"}, "", rTwin.pMissingPositive},
                          {"no controlling terminal",
-                          {"name=1", "positive-terminal=a", "coefficients=1"},
+                          {"name=1", "positive-terminal=a"},
                           "",
                           kMissingFirst},
                          {"coefficients of line ends, before the further pairs are looked at",
