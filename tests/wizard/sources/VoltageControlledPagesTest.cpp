@@ -206,20 +206,18 @@ TEST_F(VoltageControlledPages, CheckTheFieldsOfAGainInTheirOrder)
 TEST_F(VoltageControlledPages, CheckTheFieldsOfAPolynomialInTheirOrder)
 {
     for (const TTwin& rTwin : {kCurrent, kVoltage})
-        gExpectLines(rTwin.pPage, {"mode=Polynomial"},
-                     {
-                         {"nothing", {}, "", rTwin.pMissingNamePolynomial},
-                         {"a name", {"name=1"}, "", rTwin.pMissingPositive},
-                         {"no controlling terminal",
-                          {"name=1", "positive-terminal=a"},
-                          "",
-                          kMissingFirst},
-                         {"coefficients of line ends, before the further pairs are looked at",
-                          {"name=1", "positive-terminal=a", "first-control-field=c",
-                           "coefficients=\n \n", "third-positive=x"},
-                          "",
-                          "[Missing polynomial coefficients.]"},
-                     });
+        gExpectLines(
+            rTwin.pPage, {"mode=Polynomial"},
+            {
+                {"nothing", {}, "", rTwin.pMissingNamePolynomial},
+                {"a name", {"name=1"}, "", rTwin.pMissingPositive},
+                {"no controlling terminal", {"name=1", "positive-terminal=a"}, "", kMissingFirst},
+                {"coefficients of line ends, before the further pairs are looked at",
+                 {"name=1", "positive-terminal=a", "first-control-field=c", "coefficients=\n \n",
+                  "third-positive=x"},
+                 "",
+                 "[Missing polynomial coefficients.]"},
+            });
 }
 
 TEST_F(VoltageControlledPages, CheckTheFurtherPairsOfAPolynomial)
