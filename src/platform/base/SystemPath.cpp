@@ -4,18 +4,13 @@
 
 #include <algorithm>
 
-std::string gToSystemName(std::string_view sPath)
+std::string gToSystemPath(std::u16string_view sPath)
 {
-    constexpr std::string_view noLimit = R"(\\?\)";
+    constexpr std::u16string_view noLimit = uR"(\\?\)";
     if (sPath.starts_with(noLimit)) {
         sPath.remove_prefix(noLimit.size());
     }
-    std::string sName(sPath);
-    std::ranges::replace(sName, '\\', '/');
-    return sName;
-}
-
-std::string gToSystemPath(std::u16string_view sPath)
-{
-    return gToSystemName(gWideToMultiByte(sPath, kCodePageUtf8));
+    std::u16string sName(sPath);
+    std::ranges::replace(sName, u'\\', u'/');
+    return gWideToMultiByte(sName, kCodePageUtf8);
 }

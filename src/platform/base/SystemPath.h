@@ -3,11 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// A path as the calls of a POSIX system take it: "\" reads as "/", and the prefix `\\?\` is left
-/// out.
-/// @param sPath 8-bit text
-[[nodiscard]] std::string gToSystemName(std::string_view sPath);
-
-/// A path in 16-bit text as the calls of a POSIX system take it: as gToSystemName, in UTF-8.
+/// A path as the calls of a POSIX system take it: in UTF-8, "\" reads as "/", and the prefix `\\?\`
+/// is left out. 8-bit text is decoded first, as a byte of it that looks like a separator may be
+/// half of a character.
 /// @param sPath 16-bit text; a unit that is no character becomes "?"
 [[nodiscard]] std::string gToSystemPath(std::u16string_view sPath);
