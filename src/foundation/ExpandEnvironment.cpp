@@ -40,7 +40,7 @@ class CReferenceReader
 public:
     explicit CReferenceReader(std::u16string_view sText) : msText(sText) {}
 
-    /// The reference that begins at a place.
+    /// The reference that begins at a "$" or "%".
     std::optional<TReference> ReadAt(std::size_t nAt)
     {
         const std::u16string_view sRest = msText.substr(nAt);
@@ -53,10 +53,7 @@ public:
             return nLength > 1 ? std::optional(TReference{sRest.substr(1, nLength - 1), nLength})
                                : std::nullopt;
         }
-        if (sRest.starts_with(u'%')) {
-            return ReadClosed(sRest, 1, u'%', mbPercentAhead);
-        }
-        return std::nullopt;
+        return ReadClosed(sRest, 1, u'%', mbPercentAhead);
     }
 
 private:

@@ -66,7 +66,7 @@ bool TTextFile::Open(const CStringU& rsFileName, unsigned nOpenFlags, CFileExcep
         return false;
     }
     DetectEncoding(EncodingAnsi);
-    TTextFile::Seek(0, begin);
+    GoToStart();
     return true;
 }
 
@@ -80,8 +80,17 @@ bool TTextFile::Open(const CStringU& rsFileName, TTextEncoding encoding, unsigne
         Close();
         return false;
     }
-    TTextFile::Seek(0, begin);
+    GoToStart();
     return true;
+}
+
+void TTextFile::GoToStart()
+{
+    try {
+        TTextFile::Seek(0, begin);
+    } catch (const CFileException&) {
+        return; // what has no positions, such as a pipe, starts where it is
+    }
 }
 
 bool TTextFile::OpenOnDisk(const CStringU& rsFileName, unsigned nOpenFlags, CFileException* pError)

@@ -153,6 +153,7 @@ private:
     bool MakeFolder(const CStringU& rsFileName);
     void DetectEncoding(TTextEncoding whenUnknown);
     bool ApplyMarkRule(TTextEncoding encoding);
+    void GoToStart();
 
     void KeepError(const CStringU& rsError);
     void KeepWriteError(int nOsError);

@@ -5,12 +5,17 @@
 #include "support/PrintStringU.h"
 #include "support/TempFolder.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace
 {
@@ -47,6 +52,43 @@ private:
     rlimit mOld{};
     void (*mOldHandler)(int) = nullptr;
 };
+
+TEST(TextFileFailureTest, APipeIsReadFromWhereItIs)
+{
+    const CTempFolder folder;
+    const std::string sName = folder.Path("pipe");
+    ASSERT_EQ(::mkfifo(sName.c_str(), 0600), 0);
+    const int nBothEnds = ::open(sName.c_str(), O_RDWR); // so that opening one end doesn't wait
+    ASSERT_GE(nBothEnds, 0);
+    ASSERT_EQ(::write(nBothEnds, "a\nb\n", 4), 4);
+    TTextFile detected;
+    EXPECT_TRUE(detected.Open(CStringU(sName), CFile::modeRead, nullptr));
+    TTextFile given;
+    EXPECT_TRUE(given.Open(CStringU(sName), EncodingUtf8, CFile::modeRead, nullptr));
+    ::close(nBothEnds); // now the pipe ends
+    EXPECT_EQ(given.ReadAll(), "a\nb\n");
+    EXPECT_EQ(given.GetLastErrorText(), "");
+    EXPECT_EQ(detected.ReadAll(), "");
+    EXPECT_EQ(detected.GetLastErrorText(), "");
+}
+
+TEST(TextFileFailureTest, AnErrorThatTheSystemTellsWhenClosingIsKept)
+{
+    const CTempFolder folder;
+    const std::string sName = folder.Write("file", "abc\n");
+    TTextFile file;
+    ASSERT_TRUE(file.Open(CStringU(sName), CFile::modeRead, nullptr));
+    for (const auto& rEntry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code ignored;
+        if (std::filesystem::read_symlink(rEntry.path(), ignored) == sName) {
+            ::close(std::stoi(rEntry.path().filename().string()));
+            break;
+        }
+    }
+    file.Close();
+    EXPECT_EQ(file.GetLastErrorText(), WriteError(sName, EBADF));
+    EXPECT_FALSE(file.IsOpen());
+}
 
 TEST(TextFileFailureTest, AFullDiskIsToldWhenTheBufferIsWrittenOut)
 {
