@@ -114,5 +114,5 @@ std::int64_t CPosixFileSystem::GetModificationTime(std::string_view sName)
 {
     struct stat status {
     };
-    return ::stat(gToSystemName(sName).c_str(), &status) == 0 ? status.st_mtime : -1;
+    return ::stat(gToSystemFileName(sName).c_str(), &status) == 0 ? status.st_mtime : -1;
 }

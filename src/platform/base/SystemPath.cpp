@@ -15,6 +15,12 @@ std::string gToSystemName(std::string_view sPath)
     return sName;
 }
 
+std::string gToSystemFileName(const CString& rsName)
+{
+    return gGetSystemCodePage() == kCodePageUtf8 ? gToSystemName(rsName)
+                                                 : gToSystemName(gToUtf8(rsName));
+}
+
 std::string gToSystemPath(std::u16string_view sPath)
 {
     return gToSystemName(gWideToMultiByte(sPath, kCodePageUtf8));
