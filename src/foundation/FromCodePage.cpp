@@ -1,6 +1,6 @@
 #include "foundation/FromCodePage.h"
 
-#include "foundation/StringOrder.h"
+#include "foundation/MarkerRule.h"
 #include "foundation/Utf8Units.h"
 #include "platform/base/Ascii.h"
 #include "platform/base/CodePage.h"
@@ -44,8 +44,5 @@ void gStoreCodePage(std::string_view sText, std::string& rsStored)
             AppendUnits(sUnits, rsStored);
         }
     }
-    const std::size_t nAscii = gFindNonAscii(rsStored);
-    if (nAscii > 0 && nAscii < rsStored.size()) {
-        rsStored.insert(0, 1, kUtf8Marker);
-    }
+    gMark(rsStored);
 }

@@ -19,15 +19,6 @@ struct CStringU::TStored {
 namespace
 {
 
-void StoreUtf8(std::string_view sText, std::string& rsStored)
-{
-    const bool bMarker = !sText.empty() && sText.front() != '\0' && gIsAscii(sText.substr(0, 1));
-    rsStored.clear();
-    rsStored.reserve(sText.size() + 1);
-    rsStored.append(bMarker ? 1 : 0, kUtf8Marker);
-    rsStored += sText;
-}
-
 void StoreKind(std::string_view sText, TTextKind kind, std::string& rsStored)
 {
     switch (kind) {
@@ -47,7 +38,7 @@ void StoreKind(std::string_view sText, TTextKind kind, std::string& rsStored)
         }
         [[fallthrough]];
     case TTextKind::Utf8:
-        StoreUtf8(sText, rsStored);
+        gStoreUtf8(sText, rsStored);
         return;
     }
     rsStored = sText;
@@ -105,11 +96,17 @@ void CStringU::Assign(std::string_view sText, TTextKind kind)
 
 void CStringU::AppendUtf8(std::string_view sBytes)
 {
-    const bool bUtf8 = IsUtf8() || !gIsAscii(sBytes);
-    Bytes() += sBytes;
-    if (bUtf8 && !IsUtf8()) {
-        Bytes().insert(0, 1, kUtf8Marker);
-    }
+    gOverwriteStored(Bytes(), std::string_view::npos, sBytes);
+}
+
+void CStringU::OverwriteUtf8(std::size_t nFirst, std::string_view sBytes)
+{
+    gOverwriteStored(Bytes(), nFirst, sBytes);
+}
+
+void CStringU::ResizeUtf8(std::size_t nSize)
+{
+    gResizeStored(Bytes(), nSize);
 }
 
 CStringA CStringU::ToUtf8() const
@@ -189,11 +186,7 @@ CStringU CStringU::Mid(int nFirst, int nCount) const
 
 CStringU& CStringU::operator+=(const CStringU& rsText)
 {
-    const bool bUtf8 = rsText.IsUtf8();
-    Bytes() += rsText.Text();
-    if (bUtf8 && !IsUtf8()) {
-        Bytes().insert(0, 1, kUtf8Marker);
-    }
+    gAppendStored(Bytes(), rsText.Stored());
     return *this;
 }
 

@@ -75,8 +75,17 @@ public:
     /// @param kind how to read them
     void Assign(std::string_view sText, TTextKind kind);
 
-    /// Appends bytes of UTF-8, perhaps cut inside a character, by the marker rule.
+    /// Appends bytes of UTF-8, perhaps cut inside a character. Text gives all of them back, also
+    /// where the first one is 0x80.
+    /// @param sBytes the bytes, none of them of this text
     void AppendUtf8(std::string_view sBytes);
+    /// Puts bytes of UTF-8 in the place of as many, as AppendUtf8 where they go past the end.
+    /// @param nFirst the first byte to go, behind the marker; past the end is the end
+    /// @param sBytes the bytes, none of them of this text
+    void OverwriteUtf8(std::size_t nFirst, std::string_view sBytes);
+    /// Cuts the text, perhaps inside a character, or lengthens it with zeros.
+    /// @param nSize the new length in bytes behind the marker
+    void ResizeUtf8(std::size_t nSize);
 
     /// A text with its values filled in, as printf does; the result is taken as
     /// TTextKind::Utf8IfNeeded. For "%s" give the text of a CStringU by Data. Not for floating
