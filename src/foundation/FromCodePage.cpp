@@ -16,7 +16,7 @@ constexpr char16_t kReplacement = 0xFFFD;
 void AppendUnits(std::u16string_view sUnits, std::string& rsStored)
 {
     const std::size_t nOld = rsStored.size();
-    rsStored.resize(nOld + gMeasureUnits(sUnits));
+    rsStored.resize(nOld + gMeasureUnits(sUnits).nBytes);
     gEncodeUnits(sUnits, rsStored.data() + nOld);
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/base/ByteBlock.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -20,19 +21,14 @@ template <class TUnit> [[nodiscard]] constexpr bool gIsLineEndUnit(TUnit unit) n
 template <class TUnit>
 [[nodiscard]] std::size_t gFindLineEnd(std::basic_string_view<TUnit> sText) noexcept
 {
-    std::size_t nAt = 0;
     if constexpr (sizeof(TUnit) == 1) {
-        for (; nAt + kByteBlock <= sText.size(); nAt += kByteBlock) {
-            const TByteBlock block = gLoadBlock(sText.data() + nAt);
-            if (gAnySet((block >= 0) & (block < kLineEndLimit))) {
-                break;
-            }
-        }
+        return gFindByBlocks(
+            sText, [](TByteBlock block) { return (block >= 0) & (block < kLineEndLimit); },
+            gIsLineEndUnit<TUnit>);
+    } else {
+        return static_cast<std::size_t>(
+            std::find_if(sText.begin(), sText.end(), gIsLineEndUnit<TUnit>) - sText.begin());
     }
-    while (nAt < sText.size() && !gIsLineEndUnit(sText[nAt])) {
-        ++nAt;
-    }
-    return nAt;
 }
 
 /// Finds the first byte that a line of plain text doesn't have: a zero, a line feed, a carriage
@@ -40,22 +36,9 @@ template <class TUnit>
 /// @return its index, or sText.size()
 [[nodiscard]] inline std::size_t gFindNotPlain(std::string_view sText) noexcept
 {
-    const auto isSpecial = [](char ch) { return ch < 0 || gIsLineEndUnit(ch); };
-    std::size_t nAt = 0;
-    for (; nAt + kByteBlock <= sText.size(); nAt += kByteBlock) {
-        const TByteBlock mayBeSpecial = gLoadBlock(sText.data() + nAt) < kLineEndLimit;
-        if (gAnySet(mayBeSpecial)) {
-            const std::size_t nFound = nAt + gFindSet(mayBeSpecial);
-            if (isSpecial(sText[nFound])) {
-                return nFound;
-            }
-            break;
-        }
-    }
-    while (nAt < sText.size() && !isSpecial(sText[nAt])) {
-        ++nAt;
-    }
-    return nAt;
+    return gFindByBlocks(
+        sText, [](TByteBlock block) { return block < kLineEndLimit; },
+        [](char chByte) { return (chByte & 0x80) != 0 || gIsLineEndUnit(chByte); });
 }
 
 /// The line end rule of a text file: a line feed goes out as carriage return and line feed and

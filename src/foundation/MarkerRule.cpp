@@ -40,11 +40,10 @@ void gMark(std::string& rsText)
 
 std::string gStoreWide(std::u16string_view sText)
 {
-    const std::u16string_view sUnits = gCutAtZero(sText);
-    const std::size_t nBytes = gMeasureUnits(sUnits);
-    const bool bMarker = nBytes > sUnits.size() && sUnits.front() < 0x80;
+    const auto [nUnits, nBytes] = gMeasureUnits(sText);
+    const bool bMarker = nBytes > nUnits && sText.front() < 0x80;
     std::string sStored(nBytes + (bMarker ? 1 : 0), kUtf8Marker);
-    gEncodeUnits(sUnits, sStored.data() + (bMarker ? 1 : 0));
+    gEncodeUnits(sText.substr(0, nUnits), sStored.data() + (bMarker ? 1 : 0));
     return sStored;
 }
 

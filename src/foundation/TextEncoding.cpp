@@ -18,16 +18,6 @@ std::string_view gMarkOf(TTextEncoding encoding) noexcept
     return {};
 }
 
-bool gHasTwoByteUnits(TTextEncoding encoding) noexcept
-{
-    return encoding == EncodingUtf16 || encoding == EncodingUtf16Bom || gIsBigEndian(encoding);
-}
-
-bool gIsBigEndian(TTextEncoding encoding) noexcept
-{
-    return encoding == EncodingUtf16BigEndian || encoding == EncodingUtf16BigEndianBom;
-}
-
 TTextEncoding gDetectEncoding(std::string_view sFirst, TTextEncoding whenUnknown) noexcept
 {
     for (const TTextEncoding encoding :

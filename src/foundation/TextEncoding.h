@@ -16,11 +16,17 @@ enum TTextEncoding {
 /// The mark that an encoding puts in front of the text, perhaps empty.
 [[nodiscard]] std::string_view gMarkOf(TTextEncoding encoding) noexcept;
 
-/// Tells whether a character is two bytes.
-[[nodiscard]] bool gHasTwoByteUnits(TTextEncoding encoding) noexcept;
-
 /// Tells whether the high byte of a character stands first.
-[[nodiscard]] bool gIsBigEndian(TTextEncoding encoding) noexcept;
+[[nodiscard]] constexpr bool gIsBigEndian(TTextEncoding encoding) noexcept
+{
+    return encoding == EncodingUtf16BigEndian || encoding == EncodingUtf16BigEndianBom;
+}
+
+/// Tells whether a character is two bytes.
+[[nodiscard]] constexpr bool gHasTwoByteUnits(TTextEncoding encoding) noexcept
+{
+    return encoding == EncodingUtf16 || encoding == EncodingUtf16Bom || gIsBigEndian(encoding);
+}
 
 /// How many bytes gDetectEncoding looks at.
 inline constexpr unsigned kDetectedBytes = 3;

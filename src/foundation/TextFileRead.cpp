@@ -29,23 +29,22 @@ bool TTextFile::ReadLine(CStringU& rsLine)
 
 bool TTextFile::ReadLineOfBytes(CStringU& rsLine)
 {
-    if (!FillIfEmpty()) {
+    if (mnIndex >= mnValid && !FillIfEmpty()) {
         return false;
     }
     // Nearly every line stands whole in the buffer and is read from there, and nearly every one is
     // plain: the first byte of another kind is its end.
     const std::string_view sBuffered = Buffered();
-    const std::size_t nPlain = gFindNotPlain(sBuffered);
-    const std::string_view sBehind = sBuffered.substr(nPlain, 2);
-    if (sBehind.starts_with('\n') || sBehind == "\r\n") {
-        rsLine.Assign(sBuffered.substr(0, nPlain), TTextKind::Plain);
-        mnIndex += nPlain + (sBehind.front() == '\n' ? 1 : 2);
-        return true;
+    std::size_t nEnd = gFindNotPlain(sBuffered);
+    TTextKind kind = TTextKind::Plain;
+    if (nEnd < sBuffered.size() && !gIsLineEndUnit(sBuffered[nEnd])) {
+        kind = mEncoding == EncodingAnsi ? TTextKind::CodePage : TTextKind::Utf8;
+        nEnd += gFindLineEnd(sBuffered.substr(nEnd));
     }
-    const std::size_t nEnd = sBuffered.find('\n', nPlain);
-    if (nEnd != std::string_view::npos) {
-        SetLine(rsLine, sBuffered.substr(0, nEnd));
-        mnIndex += nEnd + 1;
+    const std::string_view sBehind = sBuffered.substr(nEnd, 2);
+    if (sBehind.starts_with('\n') || sBehind == "\r\n") {
+        rsLine.Assign(sBuffered.substr(0, nEnd), kind);
+        mnIndex += nEnd + (sBehind.front() == '\n' ? 1 : 2);
         return true;
     }
     msLineBuffer.reserve(kFirstLineCapacity);

@@ -3,15 +3,47 @@
 #include "platform/base/Ascii.h"
 
 #include <algorithm>
+#include <array>
 
 namespace
 {
 
 constexpr std::size_t kMostSteps = 4;
+constexpr std::size_t kMostBlocks = 0x7FFF; // so many can add 2 to 16 bits
 
 unsigned ByteAt(std::string_view sText, std::size_t nIndex) noexcept
 {
     return nIndex < sText.size() ? static_cast<unsigned char>(sText[nIndex]) : 0U;
+}
+
+bool IsHigh(char chByte) noexcept
+{
+    return static_cast<unsigned char>(chByte) >= 0x80;
+}
+
+// The bytes of a unit.
+std::size_t SizeOf(char16_t chUnit) noexcept
+{
+    return 1U + (chUnit < 0x80 ? 0U : 1U) + (chUnit < 0x800 ? 0U : 1U);
+}
+
+char* Encode(char16_t chUnit, char* pOut) noexcept
+{
+    const unsigned nUnit = chUnit;
+    const auto append = [&pOut](unsigned nByte) { *pOut++ = static_cast<char>(nByte); };
+    switch (SizeOf(chUnit)) {
+    case 1:
+        append(nUnit);
+        return pOut;
+    case 2:
+        append(0xC0U | (nUnit >> 6U));
+        break;
+    default:
+        append(0xE0U | (nUnit >> 12U));
+        append(0x80U | ((nUnit >> 6U) & 0x3FU));
+    }
+    append(0x80U | (nUnit & 0x3FU));
+    return pOut;
 }
 
 } // namespace
@@ -77,56 +109,75 @@ std::size_t gCharacterStart(std::string_view sText, std::size_t nIndex) noexcept
 
 std::u16string gDecodeUnits(std::string_view sText)
 {
+    // By way of room of its own, which spares the text the filling of new room with zeros.
+    constexpr std::size_t room = 512;
+    std::array<char16_t, room> units;
+    std::size_t nCount = 0;
     std::u16string sUnits;
     sUnits.reserve(sText.size()); // a sequence gives one unit and has at least a byte
     std::size_t nIndex = 0;
     while (nIndex < sText.size()) {
-        const std::string_view sRest = sText.substr(nIndex);
-        const std::string_view sAscii = sRest.substr(0, gFindNonAscii(sRest));
-        const std::string_view sRun = sAscii.substr(0, sAscii.find('\0'));
-        gAppendWidened(sRun, sUnits);
-        nIndex += sRun.size();
-        if (sRun.size() < sAscii.size()) {
+        if (nCount + kByteBlock > room) {
+            sUnits.append(units.data(), nCount);
+            nCount = 0;
+        }
+        const TByteBlock block = gLoadSome(sText.substr(nIndex));
+        gStoreWidened(block, units.data() + nCount);
+        const std::size_t nAscii = std::min(gFindSet(block <= 0), kByteBlock);
+        nIndex += nAscii;
+        nCount += nAscii;
+        while (nIndex < sText.size() && IsHigh(sText[nIndex]) && nCount < room) {
+            units[nCount++] = gDecodeUnit(sText, nIndex);
+        }
+        if (nIndex < sText.size() && sText[nIndex] == '\0') {
             break; // a zero ends the text
         }
-        while (nIndex < sText.size() && static_cast<unsigned char>(sText[nIndex]) >= 0x80) {
-            sUnits += gDecodeUnit(sText, nIndex);
-        }
     }
-    return sUnits;
+    return sUnits.append(units.data(), nCount);
 }
 
-std::size_t gMeasureUnits(std::u16string_view sText) noexcept
+TMeasuredUnits gMeasureUnits(std::u16string_view sText) noexcept
 {
-    std::size_t nBytes = sText.size();
-    std::size_t nAt = gFindNonAscii(sText);
-    while (nAt < sText.size()) {
-        for (; nAt < sText.size() && sText[nAt] >= 0x80; ++nAt) {
-            nBytes += sText[nAt] < 0x800 ? 1U : 2U;
+    TMeasuredUnits measured;
+    std::size_t& rnAt = measured.nUnits;
+    bool bZero = false;
+    while (rnAt + kUnitBlock <= sText.size() && !bZero) {
+        TUnitBlock further{}; // bytes of each unit behind its first, summed up over the blocks
+        const std::size_t nEnd = rnAt + std::min(sText.size() - rnAt, kMostBlocks * kUnitBlock);
+        for (; rnAt + kUnitBlock <= nEnd; rnAt += kUnitBlock) {
+            const TUnitBlock block = gLoadBlock(sText.data() + rnAt);
+            bZero = gAnySet(block == 0);
+            if (bZero) {
+                break;
+            }
+            // What holds is all bits set, which is less 1.
+            further -= (block >= 0x80) + (block >= 0x800);
         }
-        nAt += gFindNonAscii(sText.substr(nAt));
+        for (std::size_t i = 0; i < kUnitBlock; ++i) {
+            measured.nBytes += further[i];
+        }
     }
-    return nBytes;
+    measured.nBytes += rnAt;
+    for (; rnAt < sText.size() && sText[rnAt] != 0; ++rnAt) {
+        measured.nBytes += SizeOf(sText[rnAt]);
+    }
+    return measured;
 }
 
 char* gEncodeUnits(std::u16string_view sText, char* pOut) noexcept
 {
-    const auto append = [&pOut](unsigned nByte) { *pOut++ = static_cast<char>(nByte); };
     std::u16string_view sRest = sText;
     while (!sRest.empty()) {
-        const std::size_t nAscii = gFindNonAscii(sRest);
-        gNarrowAscii(sRest.substr(0, nAscii), pOut);
-        pOut += nAscii;
-        sRest.remove_prefix(nAscii);
-        for (; !sRest.empty() && sRest.front() >= 0x80; sRest.remove_prefix(1)) {
-            const unsigned nUnit = sRest.front();
-            if (nUnit < 0x800) {
-                append(0xC0U | (nUnit >> 6U));
-            } else {
-                append(0xE0U | (nUnit >> 12U));
-                append(0x80U | ((nUnit >> 6U) & 0x3FU));
-            }
-            append(0x80U | (nUnit & 0x3FU));
+        if (sRest.size() >= kByteBlock) {
+            // There is room for all of the block, ASCII or not: a unit has at least a byte.
+            gNarrowBlock(sRest.data(), pOut);
+            const std::size_t nAscii = gFindNonAscii(sRest.substr(0, kByteBlock));
+            pOut += nAscii;
+            sRest.remove_prefix(nAscii);
+        }
+        while (!sRest.empty() && (sRest.front() >= 0x80 || sRest.size() < kByteBlock)) {
+            pOut = Encode(sRest.front(), pOut);
+            sRest.remove_prefix(1);
         }
     }
     return pOut;

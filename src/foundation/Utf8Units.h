@@ -65,14 +65,20 @@
 /// @return the units
 [[nodiscard]] std::u16string gDecodeUnits(std::string_view sText);
 
-/// The size of a text in bytes, each unit encoded by itself.
+/// What a text of 16-bit units takes when each unit is encoded by itself.
+struct TMeasuredUnits {
+    std::size_t nUnits = 0; ///< how many units, up to the first zero
+    std::size_t nBytes = 0; ///< their size in bytes, without a marker; nUnits if all are ASCII
+};
+
+/// Measures a text up to its end or its first zero.
 /// @param sText the units
-/// @return the size without a marker; sText.size() exactly where all units are ASCII
-[[nodiscard]] std::size_t gMeasureUnits(std::u16string_view sText) noexcept;
+/// @return how much of it counts, and how long it gets
+[[nodiscard]] TMeasuredUnits gMeasureUnits(std::u16string_view sText) noexcept;
 
 /// Encodes each unit by itself.
 /// @param sText the units
-/// @param pOut room for gMeasureUnits(sText) bytes
+/// @param pOut room for all their bytes; see gMeasureUnits. A zero has one
 /// @return behind the last byte written
 char* gEncodeUnits(std::u16string_view sText, char* pOut) noexcept;
 

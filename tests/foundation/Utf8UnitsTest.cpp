@@ -119,7 +119,8 @@ TEST(Utf8UnitsTest, EveryUnitComesBack)
     for (int nUnit = 0; nUnit < 0x10000; ++nUnit) {
         const char16_t chUnit = static_cast<char16_t>(nUnit);
         const std::u16string_view sUnit(&chUnit, 1);
-        std::string sBytes(gMeasureUnits(sUnit), '\0');
+        // A zero ends what is measured, but is encoded as any other.
+        std::string sBytes(nUnit == 0 ? 1 : gMeasureUnits(sUnit).nBytes, '\0');
         ASSERT_EQ(gEncodeUnits(sUnit, sBytes.data()), sBytes.data() + sBytes.size());
         ASSERT_EQ(sBytes, EncodeByTable(chUnit));
         std::size_t nIndex = 0;
@@ -153,10 +154,28 @@ TEST(Utf8UnitsTest, RandomUnitsEncodeAsTheTable)
         std::string sExpected;
         for (const char16_t chUnit : sText)
             sExpected += EncodeByTable(chUnit);
-        std::string sBytes(gMeasureUnits(sText), '\0');
+        ASSERT_EQ(gMeasureUnits(sText).nUnits, sText.size());
+        std::string sBytes(gMeasureUnits(sText).nBytes, '\0');
         ASSERT_EQ(gEncodeUnits(sText, sBytes.data()) - sBytes.data(),
                   static_cast<std::ptrdiff_t>(sExpected.size()));
         ASSERT_EQ(sBytes, sExpected);
+    }
+}
+
+TEST(Utf8UnitsTest, MeasuringEndsAtTheFirstZeroAtEveryPlace)
+{
+    for (std::size_t nLength = 0; nLength <= 40; ++nLength) {
+        for (const char16_t chUnit : {u'a', u'\u0080', u'\u07ff', u'\u0800', u'\uffff'}) {
+            std::u16string sText(nLength, chUnit);
+            EXPECT_EQ(gMeasureUnits(sText).nUnits, nLength);
+            for (std::size_t nAt = 0; nAt < nLength; ++nAt) {
+                sText.back() = u'\0';
+                sText[nAt] = u'\0';
+                EXPECT_EQ(gMeasureUnits(sText).nUnits, nAt) << "length " << nLength;
+                EXPECT_EQ(gMeasureUnits(sText).nBytes, nAt * EncodeByTable(chUnit).size());
+                sText[nAt] = chUnit;
+            }
+        }
     }
 }
 

@@ -13,17 +13,8 @@
 /// @return its index in bytes, or sText.size() where all bytes are 7-bit
 [[nodiscard]] inline std::size_t gFindNonAscii(std::string_view sText) noexcept
 {
-    std::size_t nAt = 0;
-    for (; nAt + kByteBlock <= sText.size(); nAt += kByteBlock) {
-        const TByteBlock isHigh = gLoadBlock(sText.data() + nAt) < 0;
-        if (gAnySet(isHigh)) {
-            return nAt + gFindSet(isHigh);
-        }
-    }
-    while (nAt < sText.size() && (static_cast<unsigned char>(sText[nAt]) & 0x80U) == 0) {
-        ++nAt;
-    }
-    return nAt;
+    return gFindByBlocks(
+        sText, [](TByteBlock block) { return block < 0; }, [](char /*chByte*/) { return true; });
 }
 
 /// Finds the first 16-bit unit that is no ASCII character.
@@ -41,19 +32,15 @@
     return nAt;
 }
 
-/// Cuts 16-bit text at its first zero.
-/// @param sText 16-bit text of any length
-/// @return what stands in front of the zero, or all of it
-[[nodiscard]] inline std::u16string_view gCutAtZero(std::u16string_view sText) noexcept
+/// Stores each byte of a block as one 16-bit unit, high bytes as unsigned.
+/// @param pOut room for kByteBlock units
+inline void gStoreWidened(TByteBlock block, char16_t* pOut) noexcept
 {
-    std::size_t nAt = 0;
-    while (nAt + kUnitBlock <= sText.size() && !gAnySet(gLoadBlock(sText.data() + nAt) == 0)) {
-        nAt += kUnitBlock;
+    char16_t units[kByteBlock];
+    for (std::size_t i = 0; i < kByteBlock; ++i) {
+        units[i] = static_cast<unsigned char>(block[i]);
     }
-    while (nAt < sText.size() && sText[nAt] != 0) {
-        ++nAt;
-    }
-    return sText.substr(0, nAt);
+    std::memcpy(pOut, units, sizeof(units));
 }
 
 /// Appends each byte as one 16-bit unit, high bytes as unsigned.
@@ -66,17 +53,25 @@ inline void gAppendWidened(std::string_view sText, std::u16string& rsOut)
     char16_t units[room];
     for (std::size_t nDone = 0; nDone < sText.size(); nDone += room) {
         const std::string_view sPart = sText.substr(nDone, room);
-        std::size_t nAt = 0;
-        for (; nAt + kByteBlock <= sPart.size(); nAt += kByteBlock) {
-            for (std::size_t i = nAt; i < nAt + kByteBlock; ++i) {
-                units[i] = static_cast<unsigned char>(sPart[i]);
-            }
-        }
-        for (; nAt < sPart.size(); ++nAt) {
-            units[nAt] = static_cast<unsigned char>(sPart[nAt]);
+        for (std::size_t nAt = 0; nAt < sPart.size(); nAt += kByteBlock) {
+            gStoreWidened(gLoadSome(sPart.substr(nAt)), units + nAt);
         }
         rsOut.append(units, sPart.size());
     }
+}
+
+/// Narrows a block of 16-bit units to bytes, of each unit the low byte.
+/// @param pUnits kByteBlock units at any address
+/// @param pOut room for kByteBlock bytes
+inline void gNarrowBlock(const char16_t* pUnits, char* pOut) noexcept
+{
+    char16_t units[kByteBlock];
+    unsigned char bytes[kByteBlock];
+    std::memcpy(units, pUnits, sizeof(units));
+    for (std::size_t i = 0; i < kByteBlock; ++i) {
+        bytes[i] = static_cast<unsigned char>(units[i]);
+    }
+    std::memcpy(pOut, bytes, sizeof(bytes));
 }
 
 /// Narrows ASCII text from 16-bit units to bytes.
@@ -86,13 +81,7 @@ inline void gNarrowAscii(std::u16string_view sText, char* pOut) noexcept
 {
     std::size_t nAt = 0;
     for (; nAt + kByteBlock <= sText.size(); nAt += kByteBlock) {
-        char16_t units[kByteBlock];
-        unsigned char bytes[kByteBlock];
-        std::memcpy(units, sText.data() + nAt, sizeof(units));
-        for (std::size_t i = 0; i < kByteBlock; ++i) {
-            bytes[i] = static_cast<unsigned char>(units[i]);
-        }
-        std::memcpy(pOut + nAt, bytes, sizeof(bytes));
+        gNarrowBlock(sText.data() + nAt, pOut + nAt);
     }
     for (; nAt < sText.size(); ++nAt) {
         pOut[nAt] = static_cast<char>(sText[nAt]);
