@@ -6,7 +6,7 @@
 #include <string_view>
 
 /// Where environment variables are read and written. Names are exact, letters of different case are
-/// different. Implementations may be called from any thread.
+/// different.
 class IEnvironment
 {
 public:
@@ -47,8 +47,7 @@ void gSetEnvironment(std::string_view sName, std::string_view sValue);
 void gUnsetEnvironment(std::string_view sName);
 
 /// Puts a source in the place of the current one, for the whole process.
-/// @param pSource the new source; null for the environment of the process, as
-/// gResetEnvironmentSource
+/// @param pSource the new source; null for the environment of the process
 void gSetEnvironmentSource(std::shared_ptr<IEnvironment> pSource);
 
 /// Goes back to the environment of the process, the source at the start.
