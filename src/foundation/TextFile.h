@@ -196,13 +196,15 @@ private:
 
     bool ReadLineOfBytes(CStringU& rsLine);
     bool ReadLineOfUnits(CStringU& rsLine);
+    std::size_t TakeUnits(std::string_view sBytes, bool& rbLineEnd);
     void SetLine(CStringU& rsLine, std::string_view sBytes) const;
     bool WriteBytes(std::string_view sBytes);
     bool WriteUnits(std::u16string_view sUnits);
     template <class TWrite> bool CatchWriteError(const TWrite& rWrite);
     template <class TNumber> TTextFile& WriteNumber(TNumber number);
 
-    std::string msLineBuffer; // grows, and is freed by Close
+    std::string msLineBuffer;    // grows, and is freed by Close
+    std::u16string msUnitBuffer; // the same for 16-bit units
     std::unique_ptr<char[]> mpBuffer;
     std::uint64_t mnValid = 0;          // how much of the buffer is filled
     std::uint64_t mnBufferPosition = 0; // where in the file its first byte is, if it has any

@@ -25,6 +25,7 @@ void TTextFile::AllocateBuffer()
 void TTextFile::ResetBuffer() noexcept
 {
     std::string().swap(msLineBuffer);
+    std::u16string().swap(msUnitBuffer);
     mnValid = 0;
     mnBufferPosition = 0;
     mnIndex = 0;
