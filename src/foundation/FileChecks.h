@@ -30,7 +30,6 @@ void gSetFileCheckMode(int nMode);
 /// Makes a folder and those above it that are missing. A drive or a share is never made.
 /// @param rPath the folder; one that can be accessed, folder or not, is left alone
 /// @param rErrors a message about a file in the way is appended; the system's text for a folder
-/// that
-///                can't be made takes its place; otherwise it stays
+///                that can't be made takes its place; otherwise it stays
 /// @return true if every folder is there now
 bool gCreateDirectories(const CStringU& rPath, CStringU& rErrors);

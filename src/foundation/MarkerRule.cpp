@@ -47,6 +47,25 @@ std::string gStoreWide(std::u16string_view sText)
     return sStored;
 }
 
+std::string gStoreUnits(std::u16string_view sText)
+{
+    std::string sStored;
+    std::u16string_view sRest = sText;
+    while (!sRest.empty()) {
+        const auto [nUnits, nBytes] = gMeasureUnits(sRest);
+        const std::size_t nOld = sStored.size();
+        sStored.resize(nOld + nBytes);
+        gEncodeUnits(sRest.substr(0, nUnits), sStored.data() + nOld);
+        sRest.remove_prefix(nUnits);
+        if (!sRest.empty()) { // it stopped at a zero
+            sStored += '\0';
+            sRest.remove_prefix(1);
+        }
+    }
+    gMark(sStored);
+    return sStored;
+}
+
 void gStoreUtf8(std::string_view sUtf8, std::string& rsStored)
 {
     const bool bMarker = !sUtf8.empty() && sUtf8.front() != '\0' && !gIsStoredUtf8(sUtf8);

@@ -44,6 +44,10 @@ void gMark(std::string& rsText);
 /// @param sText the units; what stands behind a zero is left out
 [[nodiscard]] std::string gStoreWide(std::u16string_view sText);
 
+/// Encodes a text into the stored form, zeros included.
+/// @param sText the units
+[[nodiscard]] std::string gStoreUnits(std::u16string_view sText);
+
 /// Takes bytes that are said to be UTF-8, perhaps with a marker already: the marker is put in front
 /// of a first byte of 1 to 127, also where all bytes are 7-bit.
 /// @param sUtf8 the bytes, none of them of rsStored

@@ -1,12 +1,13 @@
 #include "foundation/StringU.h"
 
 #include "foundation/FromCodePage.h"
+#include "foundation/Literal.h"
 #include "foundation/MarkerRule.h"
 #include "foundation/Utf8Units.h"
 #include "platform/base/Ascii.h"
 #include "platform/base/CodePage.h"
+#include "platform/base/StringIndex.h"
 
-#include <algorithm>
 #include <type_traits>
 #include <utility>
 
@@ -44,16 +45,6 @@ void StoreKind(std::string_view sText, TTextKind kind, std::string& rsStored)
     rsStored = sText;
 }
 
-std::u16string_view ViewOf(const char16_t* pText) noexcept
-{
-    return pText != nullptr ? std::u16string_view(pText) : std::u16string_view();
-}
-
-std::size_t Clamp(int nValue, std::size_t nMost) noexcept
-{
-    return nValue < 0 ? 0 : std::min(static_cast<std::size_t>(nValue), nMost);
-}
-
 } // namespace
 
 CStringU::CStringU(std::string sStored, const TStored& /*rTag*/) noexcept
@@ -61,7 +52,7 @@ CStringU::CStringU(std::string sStored, const TStored& /*rTag*/) noexcept
 {
 }
 
-CStringU::CStringU(const char* pText) : CStringU(gOperandView(pText)) {}
+CStringU::CStringU(const char* pText) : CStringU(gViewOf(pText)) {}
 
 CStringU::CStringU(std::string_view sText) : CStringU(sText, TTextKind::CodePageIfNeeded) {}
 
@@ -74,19 +65,24 @@ CStringU::CStringU(std::string_view sText, TTextKind kind)
     StoreKind(sText, kind, Bytes());
 }
 
-CStringU::CStringU(const char* pText, TTextKind kind) : CStringU(gOperandView(pText), kind) {}
+CStringU::CStringU(const char* pText, TTextKind kind) : CStringU(gViewOf(pText), kind) {}
 
-CStringU::CStringU(const char16_t* pText) : CStringU(ViewOf(pText)) {}
+CStringU::CStringU(const char16_t* pText) : CStringU(gViewOf(pText)) {}
 
 CStringU::CStringU(std::u16string_view sText) : CStringA(gStoreWide(sText)) {}
 
 CStringU::CStringU(const std::u16string& rsText) : CStringU(std::u16string_view(rsText)) {}
 
-CStringU::CStringU(char16_t chChar) : CStringU(std::u16string_view(&chChar, 1)) {}
+CStringU::CStringU(TCharacter character) : CStringU(std::u16string_view(&character.mchUnit, 1)) {}
 
 CStringU CStringU::FromWideBigEndian(std::u16string_view sText)
 {
     return {gSwapUnitBytes(sText)};
+}
+
+CStringU CStringU::FromWideBigEndian(const char16_t* pText)
+{
+    return FromWideBigEndian(gViewOf(pText));
 }
 
 void CStringU::Assign(std::string_view sText, TTextKind kind)
@@ -164,29 +160,39 @@ CStringU CStringU::Piece(std::size_t nFirst, std::size_t nCount) const
 
 CStringU CStringU::Left(int nCount) const
 {
-    return Piece(0, Clamp(nCount, Text().size()));
+    return Piece(0, gClampIndex(nCount, Text().size()));
 }
 
 CStringU CStringU::Right(int nCount) const
 {
-    const std::size_t nClamped = Clamp(nCount, Text().size());
+    const std::size_t nClamped = gClampIndex(nCount, Text().size());
     return Piece(Text().size() - nClamped, nClamped);
 }
 
 CStringU CStringU::Mid(int nFirst) const
 {
-    return Piece(Clamp(nFirst, Text().size()), std::string_view::npos);
+    return Piece(gClampIndex(nFirst, Text().size()), std::string_view::npos);
 }
 
 CStringU CStringU::Mid(int nFirst, int nCount) const
 {
-    const std::size_t nAt = Clamp(nFirst, Text().size());
-    return Piece(nAt, Clamp(nCount, Text().size() - nAt));
+    const std::size_t nAt = gClampIndex(nFirst, Text().size());
+    return Piece(nAt, gClampIndex(nCount, Text().size() - nAt));
 }
 
 CStringU& CStringU::operator+=(const CStringU& rsText)
 {
     gAppendStored(Bytes(), rsText.Stored());
+    return *this;
+}
+
+CStringU& CStringU::operator+=(const char* pText)
+{
+    const std::string_view sText = gViewOf(pText);
+    if (!gIsAscii(sText)) {
+        return *this += CStringU(sText);
+    }
+    Bytes() += sText;
     return *this;
 }
 
@@ -201,5 +207,51 @@ CStringU& CStringU::operator+=(char16_t chChar)
 
 CStringU& CStringU::operator+=(char chChar)
 {
-    return *this += CStringU(std::string_view(&chChar, 1));
+    return *this += CStringU(std::string_view(&chChar, 1)); // of one byte, so without a block
+}
+
+CStringU CStringU::Joined(std::string_view sLeft, std::string_view sRight)
+{
+    CStringU sJoined;
+    sJoined.Bytes().reserve(sLeft.size() + sRight.size() + 1); // a marker may come to the front
+    sJoined.Bytes() = sLeft;
+    gAppendStored(sJoined.Bytes(), sRight);
+    return sJoined;
+}
+
+CStringU operator+(const CStringU& rsLeft, const CStringU& rsRight)
+{
+    return CStringU::Joined(rsLeft.Stored(), rsRight.Stored());
+}
+
+CStringU operator+(CStringU&& rsLeft, const CStringU& rsRight)
+{
+    return std::move(rsLeft += rsRight);
+}
+
+CStringU operator+(const CStringU& rsLeft, const char* pRight)
+{
+    const CLiteral right(pRight);
+    return CStringU::Joined(rsLeft.Stored(), right.Stored());
+}
+
+CStringU operator+(CStringU&& rsLeft, const char* pRight)
+{
+    return std::move(rsLeft += pRight);
+}
+
+CStringU operator+(const char* pLeft, const CStringU& rsRight)
+{
+    const CLiteral left(pLeft);
+    return CStringU::Joined(left.Stored(), rsRight.Stored());
+}
+
+bool operator==(const CStringU& rsLeft, const char* pRight)
+{
+    return rsLeft.Stored() == CLiteral(pRight).Stored();
+}
+
+std::strong_ordering operator<=>(const CStringU& rsLeft, const char* pRight)
+{
+    return gCompareStored(rsLeft.Stored(), CLiteral(pRight).Stored());
 }
