@@ -4,14 +4,16 @@ set -euo pipefail
 
 usage() {
     cat <<'TEXT'
-usage: ./run.sh [EXAMPLE] [--tour] [--dark]
+usage: ./run.sh [EXAMPLE | PATH] [--tour] [--dark]
 
 Installs the packages that are missing, builds, and opens the netlist editor on a copy of an example of
-examples/ (by name; without one: rc-filter). In it: Tools > SPICE Command Wizard, or Ctrl+I.
+examples/ (by name; without one: rc-filter), or of the netlist at a path, which has a slash in it. In the
+editor: Tools > SPICE Command Wizard, or Ctrl+I. A copy that was changed is kept, and its path printed.
 
-Without a display (neither DISPLAY nor WAYLAND_DISPLAY is set) it takes the same windows on a tour that
-needs no screen: real key and mouse events open the wizard, insert commands into the copy and save it.
-It prints what that changed, and the folder with a picture of each window.
+Without a display (neither DISPLAY nor WAYLAND_DISPLAY is set, or QT_QPA_PLATFORM names a platform without
+a screen) it takes the same windows on a tour that needs no screen: real key and mouse events open the
+wizard, insert commands into the copy and save it. It prints what that changed, and the folder with a
+picture of each window.
 
   --tour  take the tour, display or not
   --dark  the tour in dark colours
@@ -25,9 +27,10 @@ refuse() {
     exit 2
 }
 
+caller=$PWD
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
-example=""
+netlist=""
 tour=false
 colours=()
 for argument in "$@"; do
@@ -37,16 +40,23 @@ for argument in "$@"; do
         --help | -h) usage; exit 0 ;;
         -*) refuse "unknown option: $argument" ;;
         *)
-            [[ -z $example ]] || refuse "more than one example: $argument"
-            example=$(basename "$argument" .cir)
-            [[ -f examples/$example.cir ]] || refuse "there is no example $argument"
+            [[ -z $netlist ]] || refuse "more than one netlist: $argument"
+            case $argument in
+                /*) netlist=$argument ;;
+                */*) netlist=$caller/$argument ;;
+                *) netlist=examples/${argument%.cir}.cir ;;
+            esac
+            [[ -f $netlist ]] || refuse "there is no netlist $argument"
             ;;
     esac
 done
-example=${example:-rc-filter}
+netlist=${netlist:-examples/rc-filter.cir}
 if [[ -z ${DISPLAY:-} && -z ${WAYLAND_DISPLAY:-} ]]; then
     tour=true
 fi
+case ${QT_QPA_PLATFORM:-} in
+    offscreen* | minimal*) tour=true ;;
+esac
 if ((${#colours[@]} > 0)) && ! $tour; then
     refuse "--dark goes with --tour; on a display the desktop's colours are taken"
 fi
@@ -61,30 +71,39 @@ cmake --preset dev -DQUORVAWIZ_WERROR=ON
 cmake --build --preset dev --target quorvahost quorvahost-tour
 
 folder=$(mktemp -d "${TMPDIR:-/tmp}/quorvawiz-run.XXXXXX")
-cp "examples/$example.cir" "$folder/"
+copy=$folder/$(basename "$netlist")
+cp "$netlist" "$copy"
 echo
 
 if ! $tour; then
-    echo "./run.sh: opening $folder/$example.cir, a copy of the example"
-    exec build/dev/bin/quorvahost "$folder/$example.cir"
+    echo "./run.sh: opening $copy, a copy of $netlist"
+    status=0
+    build/dev/bin/quorvahost "$copy" || status=$?
+    if cmp --silent "$netlist" "$copy"; then
+        rm -r "$folder"
+    else
+        echo "./run.sh: the copy with the changes is $copy"
+    fi
+    exit "$status"
 fi
 
+# All of it goes again but the pictures.
+trap 'rm -rf "$folder"' EXIT
+pictures=$(mktemp -d "${TMPDIR:-/tmp}/quorvawiz-pictures.XXXXXX")
 export QT_QPA_PLATFORM=offscreen
 export XDG_RUNTIME_DIR=$folder/runtime
 mkdir --mode=700 "$XDG_RUNTIME_DIR"
 # The platform without a screen says of each window what it can't do; none of that is news.
-build/dev/bin/quorvahost-tour "$folder/$example.cir" "$folder/pictures" \
+build/dev/bin/quorvahost-tour "$copy" "$pictures" \
     ${colours[@]+"${colours[@]}"} 2> >(grep --invert-match "^This plugin does not support" >&2)
-rmdir "$XDG_RUNTIME_DIR" 2>/dev/null || true
 
 echo "./run.sh: what the tour has changed in the netlist"
 echo
 # diff exits with 1 when there is a difference, which there has to be.
-if diff --unified --label "before" "examples/$example.cir" --label "after" \
-    "$folder/$example.cir"; then
+if diff --unified --label "before" "$netlist" --label "after" "$copy"; then
     echo "./run.sh: the tour has inserted nothing" >&2
     exit 1
 fi
 echo
-echo "./run.sh: pictures of the windows, in $folder/pictures"
-ls "$folder/pictures"
+echo "./run.sh: pictures of the windows, in $pictures"
+ls "$pictures"

@@ -12,15 +12,21 @@ namespace quorvawiz::cli
 
 TJson gParseJsonLine(std::string_view sLine)
 {
+    using TEvent = TJson::parse_event_t;
     TJson object;
     std::vector<std::string> names;
-    const auto collectNames = [&names](int nDepth, TJson::parse_event_t event, const TJson& rName) {
-        if (event == TJson::parse_event_t::key && nDepth == 1)
+    const auto look = [&names](int nDepth, TEvent event, const TJson& rName) {
+        // The depth is that around a list or an object that begins.
+        if ((event == TEvent::array_start || event == TEvent::object_start) &&
+            nDepth >= kMostJsonDepth)
+            throw CRequestError("the line is nested more than " + std::to_string(kMostJsonDepth) +
+                                " deep");
+        if (event == TEvent::key && nDepth == 1)
             names.push_back(rName.get<std::string>());
         return true;
     };
     try {
-        object = TJson::parse(sLine, collectNames);
+        object = TJson::parse(sLine, look);
     } catch (const TJson::parse_error& rError) {
         throw CRequestError("the line isn't JSON from byte " + std::to_string(rError.byte) + " on");
     } catch (const TJson::out_of_range&) {

@@ -4,6 +4,9 @@ namespace quorvawiz::host
 {
 namespace
 {
+// A person sees lines that are farther apart than this as having nothing to do with each other.
+constexpr int kFarthest = 100;
+
 /// Lines between a statement and its continuation, which the statement steps over.
 bool IsSteppedOver(QStringView sLine)
 {
@@ -14,10 +17,6 @@ bool IsSteppedOver(QStringView sLine)
 /// The last line of the statement that stands in, or around, a line.
 int LastLineOfStatement(const TLines& rLines, int nLine)
 {
-    // Comments and empty lines can go on for long; a statement that is interrupted for longer than
-    // this isn't one that a person would see as one.
-    constexpr int kFarthest = 100;
-
     int nLast = nLine;
     for (int i = nLine + 1; i < rLines.nCount && i <= nLast + kFarthest; ++i) {
         const QString sLine = rLines.lineAt(i);
@@ -28,6 +27,18 @@ int LastLineOfStatement(const TLines& rLines, int nLine)
     }
     return nLast;
 }
+
+/// The ".end" that closes the netlist at a line, or above with nothing but blanks between; -1 if
+/// there is none. In the first line it is a title.
+int ClosingLine(const TLines& rLines, int nLine)
+{
+    for (int i = nLine; i > 0 && i > nLine - kFarthest; --i) {
+        const QString sLine = rLines.lineAt(i).trimmed();
+        if (!sLine.isEmpty())
+            return gIsNetlistEnd(sLine) ? i : -1;
+    }
+    return -1;
+}
 } // namespace
 
 TCommandPlace gPlaceOfCommand(const TLines& rLines, TSelection selection)
@@ -36,15 +47,26 @@ TCommandPlace gPlaceOfCommand(const TLines& rLines, TSelection selection)
     // Whole lines are selected up to the start of the next one, which isn't selected itself.
     if (!selection.bEmpty && selection.nColumn == 0 && nLine > 0)
         --nLine;
+    if (const int nClosing = ClosingLine(rLines, nLine); nClosing > 0)
+        return gPlaceOfCommand(rLines, {nClosing - 1, 0, true});
     const int nLast = LastLineOfStatement(rLines, nLine);
     if (nLast != nLine)
         return {nLast, false};
-    return {nLine, selection.bEmpty && rLines.lineAt(nLine).isEmpty()};
+    const bool bTitle = nLine == 0;
+    return {nLine, !bTitle && selection.bEmpty && rLines.lineAt(nLine).isEmpty()};
 }
 
 bool gIsContinuation(QStringView sLine)
 {
     return sLine.trimmed().startsWith(QLatin1Char('+'));
+}
+
+bool gIsNetlistEnd(QStringView sLine)
+{
+    constexpr QLatin1StringView kEnd(".end");
+    const QStringView sTrimmed = sLine.trimmed();
+    return sTrimmed.startsWith(kEnd, Qt::CaseInsensitive) &&
+           (sTrimmed.size() == kEnd.size() || sTrimmed[kEnd.size()].isSpace());
 }
 
 } // namespace quorvawiz::host

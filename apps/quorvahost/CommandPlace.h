@@ -31,10 +31,15 @@ struct TCommandPlace {
 /// Finds the place of a command, which never splits anything and never replaces anything: an empty
 /// line at the caret is taken; otherwise the command goes below the caret's line, or below the last
 /// line that has something selected. A statement that is continued ("+ ...") stays in one piece:
-/// below its last line.
+/// below its last line. It goes where a simulator reads it: the first line is the netlist's title,
+/// also when it is empty, and never taken; at ".end", or behind it with nothing between, the
+/// command goes in front of it.
 TCommandPlace gPlaceOfCommand(const TLines& rLines, TSelection selection);
 
 /// Tells whether a line continues the statement above: "+" is its first character.
 bool gIsContinuation(QStringView sLine);
+
+/// Tells whether a line closes the netlist: ".end", in any case, is its first word.
+bool gIsNetlistEnd(QStringView sLine);
 
 } // namespace quorvawiz::host

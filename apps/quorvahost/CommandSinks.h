@@ -1,6 +1,7 @@
 #pragma once
 
-#include "exports/Quorvawiz.h"
+#include "quorvahost/CommandText.h"
+#include "quorvahost/NetlistText.h"
 
 #include <QString>
 #include <cstdio>
@@ -9,7 +10,8 @@
 namespace quorvawiz::host
 {
 
-/// A command couldn't be put where the user wants it; the message is for the user.
+/// A command couldn't be put where the user wants it. The message is for the user: UTF-8, without a
+/// full stop.
 class CSinkError : public std::runtime_error
 {
 public:
@@ -17,14 +19,15 @@ public:
 };
 
 /// Prints each command, with a line feed behind each of its lines, and flushes.
-class COutputSink : public QuorvaCommandWizardTarget
+class COutputSink : public CTextTarget
 {
 public:
     /// `pStream` stays the caller's.
     explicit COutputSink(std::FILE* pStream) : mpStream(pStream) {}
 
+protected:
     /// @throws CSinkError when the stream doesn't take it
-    void InsertCommand(CString sCommand) override;
+    void Take(const QString& rsText) override;
 
 private:
     std::FILE* mpStream;
@@ -32,25 +35,28 @@ private:
 
 /// Adds each command to the end of a file, on lines of its own with the file's line ends. A file
 /// that isn't there is made by the first command.
-class CFileSink : public QuorvaCommandWizardTarget
+class CFileSink : public CTextTarget
 {
 public:
+    /// Reads the whole of a file that is there, once.
     /// @throws CSinkError when it can be seen already that the file can't be written to, or when it
     ///         isn't a text that the editor would open
     explicit CFileSink(QString sPath);
 
+protected:
     /// @throws CSinkError when the file doesn't take it
-    void InsertCommand(CString sCommand) override;
+    void Take(const QString& rsText) override;
 
 private:
     QString msPath;
+    ELineEnds mLineEnds = ELineEnds::Lf; ///< for a file that doesn't end in one
 };
 
 /// Puts each command on the clipboard.
-class CClipboardSink : public QuorvaCommandWizardTarget
+class CClipboardSink : public CTextTarget
 {
-public:
-    void InsertCommand(CString sCommand) override;
+protected:
+    void Take(const QString& rsText) override;
 };
 
 } // namespace quorvawiz::host

@@ -12,4 +12,10 @@ QString gCommandText(const CString& rsCommand)
     return sText.replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
+void CTextTarget::InsertCommand(CString sCommand)
+{
+    if (const QString sText = gCommandText(sCommand); !sText.isEmpty())
+        Take(sText);
+}
+
 } // namespace quorvawiz::host

@@ -1,5 +1,7 @@
 #include "quorvahost/FileQuestions.h"
 
+#include "quorvahost/Sentence.h"
+
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -69,7 +71,7 @@ bool gAskToOverwrite(QWidget* pParent, const QString& rsName)
 
 void gShowFault(QWidget* pParent, const TFileFault& rFault)
 {
-    CPlainBox(pParent, rFault.sMessage, QMessageBox::Ok).exec();
+    CPlainBox(pParent, gAsSentence(rFault.sMessage), QMessageBox::Ok).exec();
 }
 
 std::optional<QString> gAskForFileToOpen(QWidget* pParent, const QString& rsFolder)

@@ -21,9 +21,8 @@ struct TSearch {
 
 /// Where it was found.
 struct TFound {
-    QTextCursor cursor; ///< selects it; null if it is nowhere
-    bool bWrapped =
-        false; ///< it was found behind the document's end, from its start, or the reverse
+    QTextCursor cursor;    ///< selects it; null if it is nowhere
+    bool bWrapped = false; ///< the search has gone past an end of the document, and on at the other
 };
 
 /// Finds the next place behind a cursor's selection, or before it, and goes on at the other end of

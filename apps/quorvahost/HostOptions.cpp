@@ -141,9 +141,13 @@ Opens an editor for SPICE netlists; Tools > SPICE Command Wizard inserts command
   --append FILE  with --wizard: add each command to the end of FILE instead
   --clipboard    with --wizard: put each command on the clipboard instead
   --version      print the version
-  --help         this text
+  --help, -h     this text
 
-Exit code: 0 done, 1 a command couldn't be written, 2 the command line isn't understood.
+Exit code: 0 done, 1 something couldn't be written or no window can be shown (no display), 2 the
+command line isn't understood.
+
+Where no clipboard manager runs, --clipboard goes on after the wizard, without a window, until another
+program takes the clipboard.
 )");
 }
 

@@ -2,6 +2,7 @@
 
 #include "exports/Quorvawiz.h"
 #include "platform/qt/QtDesktop.h"
+#include "quorvahost/CloseListener.h"
 #include "quorvahost/CommandText.h"
 #include "quorvahost/FileQuestions.h"
 #include "quorvahost/FindBar.h"
@@ -27,6 +28,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 #include <exception>
+#include <functional>
 #include <utility>
 
 namespace quorvawiz::host
@@ -36,11 +38,13 @@ namespace
 const QString kGeometryKey = QStringLiteral("window-geometry");
 
 /// Puts what the wizard inserts into the editor.
-class CEditTarget : public QuorvaCommandWizardTarget
+class CEditTarget : public CTextTarget
 {
 public:
     explicit CEditTarget(CNetlistEdit& rEdit) : mrEdit(rEdit) {}
-    void InsertCommand(CString sCommand) override { mrEdit.InsertCommand(gCommandText(sCommand)); }
+
+protected:
+    void Take(const QString& rsText) override { mrEdit.InsertCommand(rsText); }
 
 private:
     CNetlistEdit& mrEdit;
@@ -57,6 +61,32 @@ public:
 
 private:
     bool& mrbFlag;
+};
+
+/// Acts once when a widget has been painted for the first time. The widget's child.
+class CFirstPaint : public QObject
+{
+public:
+    CFirstPaint(QWidget& rWidget, std::function<void()> act)
+        : QObject(&rWidget), mAct(std::move(act))
+    {
+        rWidget.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* pWidget, QEvent* pEvent) override
+    {
+        if (pEvent->type() == QEvent::Paint) {
+            pWidget->removeEventFilter(this);
+            // Behind the painting of all the window.
+            QMetaObject::invokeMethod(pWidget, mAct, Qt::QueuedConnection);
+            deleteLater();
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> mAct;
 };
 
 /// Shows the waiting pointer while it lives.
@@ -102,7 +132,7 @@ CHostWindow::CHostWindow(QtDesktop& rDesktop) : mrDesktop(rDesktop)
     connect(mpEdit, &QPlainTextEdit::modificationChanged, this, &QWidget::setWindowModified);
 
     setAcceptDrops(true);
-    SetRecentFiles(gLoadRecentFiles());
+    ShowRecentFiles(gLoadRecentFiles());
     SetFile({}, {}, {});
     constexpr QSize kFirstSize(900, 640);
     resize(kFirstSize);
@@ -149,7 +179,7 @@ bool CHostWindow::OpenFile(const QString& rsPath)
     if (const auto* pFault = std::get_if<TFileFault>(&read)) {
         QStringList recent = gLoadRecentFiles();
         if (!QFileInfo::exists(sPath) && recent.removeAll(sPath) > 0)
-            SetRecentFiles(recent);
+            KeepRecentFiles(recent);
         gShowFault(this, *pFault);
         return false;
     }
@@ -157,8 +187,13 @@ bool CHostWindow::OpenFile(const QString& rsPath)
     const TNetlistFile& rFile = std::get<TNetlistFile>(read);
     mpEdit->LoadText(rFile.netlist.sText);
     SetFile(sPath, rFile.netlist.form, rFile.stamp);
-    SetRecentFiles(gWithRecentFile(gLoadRecentFiles(), sPath));
+    KeepRecentFiles(gWithRecentFile(gLoadRecentFiles(), sPath));
     return true;
+}
+
+void CHostWindow::OpenFileOnceShown(const QString& rsPath)
+{
+    new CFirstPaint(*mpEdit->viewport(), [this, rsPath] { OpenFile(rsPath); });
 }
 
 void CHostWindow::NewFile()
@@ -202,7 +237,7 @@ bool CHostWindow::SaveTo(const QString& rsPath)
     }
     mpEdit->document()->setModified(false);
     SetFile(rsPath, mForm, gStampOf(rsPath));
-    SetRecentFiles(gWithRecentFile(gLoadRecentFiles(), rsPath));
+    KeepRecentFiles(gWithRecentFile(gLoadRecentFiles(), rsPath));
     statusBar()->showMessage(tr("Saved"), 3000);
     return true;
 }
@@ -235,9 +270,10 @@ void CHostWindow::RunWizard()
     mbWizardRuns = true;
     QString sFault;
     try {
+        const CCloseListener closeListener(*this);
         gInvokeSpiceCommandWizard(gWindowOf(this), mpTarget.get());
     } catch (const std::exception& rError) {
-        sFault = tr("The wizard has ended: %1.").arg(QString::fromUtf8(rError.what()));
+        sFault = tr("the wizard has ended: %1").arg(QString::fromUtf8(rError.what()));
     }
     if (!pAlive)
         return;
@@ -290,9 +326,14 @@ void CHostWindow::SetFile(const QString& rsPath, TTextForm form, const TFileStam
     setWindowModified(mpEdit->document()->isModified());
 }
 
-void CHostWindow::SetRecentFiles(const QStringList& rFiles)
+void CHostWindow::KeepRecentFiles(const QStringList& rFiles)
 {
     gSaveRecentFiles(rFiles);
+    ShowRecentFiles(rFiles);
+}
+
+void CHostWindow::ShowRecentFiles(const QStringList& rFiles)
+{
     mActions.pRecent->clear();
     mActions.pRecent->setEnabled(!rFiles.isEmpty());
     const QStringList labels = gRecentFileLabels(rFiles);

@@ -35,6 +35,10 @@ public:
     /// @return false if the user kept what was there, or the file can't be read; it was told then
     bool OpenFile(const QString& rsPath);
 
+    /// `OpenFile` as soon as the window has been painted for the first time: a large file takes a
+    /// while, and a message stands in front of a window that is there.
+    void OpenFileOnceShown(const QString& rsPath);
+
     /// The netlist's editor.
     CNetlistEdit& Edit() { return *mpEdit; }
 
@@ -58,7 +62,8 @@ private:
     bool SaveTo(const QString& rsPath);
     bool MayLeaveNetlist();
     void SetFile(const QString& rsPath, TTextForm form, const TFileStamp& rStamp);
-    void SetRecentFiles(const QStringList& rFiles);
+    void KeepRecentFiles(const QStringList& rFiles);
+    void ShowRecentFiles(const QStringList& rFiles);
     QString ShownName() const;
     QString Folder() const;
     void About();

@@ -97,9 +97,7 @@ void CNetlistEdit::Zoom(int nDirection)
 void CNetlistEdit::resizeEvent(QResizeEvent* pEvent)
 {
     QPlainTextEdit::resizeEvent(pEvent);
-    const QRect inside = contentsRect();
-    mpLineNumbers->setGeometry(
-        QRect(inside.topLeft(), QSize(mpLineNumbers->NeededWidth(), inside.height())));
+    PlaceLineNumbers();
 }
 
 void CNetlistEdit::changeEvent(QEvent* pEvent)
@@ -115,6 +113,14 @@ void CNetlistEdit::wheelEvent(QWheelEvent* pEvent)
         return QPlainTextEdit::wheelEvent(pEvent);
     Zoom(pEvent->angleDelta().y() > 0 ? 1 : -1);
     pEvent->accept();
+}
+
+void CNetlistEdit::insertFromMimeData(const QMimeData* pSource)
+{
+    // The base would render what comes as Markdown, and an empty clipboard is its end.
+    if (pSource && pSource->hasText() && !isReadOnly())
+        textCursor().insertText(pSource->text());
+    ensureCursorVisible();
 }
 
 void CNetlistEdit::dragEnterEvent(QDragEnterEvent* pEvent)
@@ -181,10 +187,15 @@ void CNetlistEdit::UpdateColoured()
 void CNetlistEdit::UpdateMargin()
 {
     setViewportMargins(mpLineNumbers->NeededWidth(), 0, 0, 0);
+    PlaceLineNumbers();
+    mpLineNumbers->update();
+}
+
+void CNetlistEdit::PlaceLineNumbers()
+{
     const QRect inside = contentsRect();
     mpLineNumbers->setGeometry(
         QRect(inside.topLeft(), QSize(mpLineNumbers->NeededWidth(), inside.height())));
-    mpLineNumbers->update();
 }
 
 } // namespace quorvawiz::host

@@ -47,6 +47,7 @@ protected:
     void resizeEvent(QResizeEvent* pEvent) override;
     void changeEvent(QEvent* pEvent) override;
     void wheelEvent(QWheelEvent* pEvent) override;
+    void insertFromMimeData(const QMimeData* pSource) override;
     // Files that are dropped are the window's.
     void dragEnterEvent(QDragEnterEvent* pEvent) override;
     void dragMoveEvent(QDragMoveEvent* pEvent) override;
@@ -60,6 +61,7 @@ private:
     void ShowCurrentLine();
     void UpdateColoured();
     void UpdateMargin();
+    void PlaceLineNumbers();
 
     CLineNumbers* mpLineNumbers;
     CSpiceHighlighter* mpHighlighter;

@@ -1,6 +1,6 @@
 #include "quorvahost/NetlistFile.h"
 
-#include "platform/base/SystemError.h"
+#include "quorvahost/SystemWords.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -20,17 +20,12 @@ QString Say(const char* pEnglish)
 
 TFileFault CannotOpen(const QString& rsPath, const QString& rsWhy)
 {
-    return {Say("Can't open \"%1\": %2.").arg(QDir::toNativeSeparators(rsPath), rsWhy)};
+    return {Say("can't open \"%1\": %2").arg(QDir::toNativeSeparators(rsPath), rsWhy)};
 }
 
 TFileFault CannotSave(const QString& rsPath, const QString& rsWhy)
 {
-    return {Say("Can't save \"%1\": %2.").arg(QDir::toNativeSeparators(rsPath), rsWhy)};
-}
-
-QString SystemWords(int nCode)
-{
-    return QString::fromLocal8Bit(gSystemErrorMessage(nCode).c_str());
+    return {Say("can't save \"%1\": %2").arg(QDir::toNativeSeparators(rsPath), rsWhy)};
 }
 } // namespace
 
@@ -46,7 +41,7 @@ std::variant<TNetlistFile, TFileFault> gReadNetlistFile(const QString& rsPath)
 {
     const QFileInfo info(rsPath);
     if (info.isDir())
-        return CannotOpen(rsPath, SystemWords(EISDIR));
+        return CannotOpen(rsPath, gSystemWords(EISDIR));
     if (info.exists() && !info.isFile())
         return CannotOpen(rsPath, Say("it isn't a regular file"));
     if (info.size() > kLargestFile)
@@ -72,7 +67,7 @@ std::optional<TFileFault> gWriteNetlistFile(const QString& rsPath, QStringView s
 {
     const QFileInfo info(rsPath);
     if (info.isDir())
-        return CannotSave(rsPath, SystemWords(EISDIR));
+        return CannotSave(rsPath, gSystemWords(EISDIR));
     if (info.exists() && !info.isFile())
         return CannotSave(rsPath, Say("it isn't a regular file"));
     const auto bytes = gEncodeNetlist(sText, form);

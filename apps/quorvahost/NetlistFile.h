@@ -25,8 +25,8 @@ struct TNetlistFile {
     TFileStamp stamp;
 };
 
-/// Why a file wasn't read or written: one sentence for the user, with the path and the system's
-/// words.
+/// Why a file wasn't read or written, for the user, with the path and the system's words, without a
+/// full stop.
 struct TFileFault {
     QString sMessage;
 };

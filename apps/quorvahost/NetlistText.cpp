@@ -67,12 +67,27 @@ QString HexOf(char chByte)
     return QStringLiteral("0x%1").arg(static_cast<unsigned char>(chByte), 2, 16, QLatin1Char('0'));
 }
 
+/// The start of the first line that is too long, line ends not counted; -1 if there is none.
+qsizetype FindLongLine(QByteArrayView bytes)
+{
+    for (qsizetype nStart = 0; bytes.size() - nStart > kLongestLine;) {
+        const qsizetype nEnd = bytes.indexOf('\n', nStart);
+        const qsizetype nStop = nEnd < 0 ? bytes.size() : nEnd;
+        if (nStop - nStart > kLongestLine + (At(bytes, nStop - 1) == '\r' ? 1 : 0))
+            return nStart;
+        nStart = nStop + 1;
+    }
+    return -1;
+}
+
 std::optional<TTextFault> FindFault(QByteArrayView bytes)
 {
     if (const qsizetype nAt = gFindInvalidUtf8(bytes); nAt >= 0)
         return FaultAt(bytes, nAt, Say("the byte %1 isn't valid UTF-8").arg(HexOf(bytes[nAt])));
     if (const qsizetype nAt = bytes.indexOf('\0'); nAt >= 0)
         return FaultAt(bytes, nAt, Say("a NUL: this isn't a text file"));
+    if (const qsizetype nAt = FindLongLine(bytes); nAt >= 0)
+        return FaultAt(bytes, nAt, Say("a line of more than %1 bytes").arg(kLongestLine));
     for (const QByteArrayView blockEnd : kBlockEnds)
         if (const qsizetype nAt = bytes.indexOf(blockEnd); nAt >= 0)
             return FaultAt(bytes, nAt, Say("a character that an editor can't keep"));

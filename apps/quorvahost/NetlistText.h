@@ -40,9 +40,13 @@ struct TTextFault {
     QString Message() const;
 };
 
+/// How many bytes a line may have: an editor lays a line out as a whole, at every key.
+inline constexpr qsizetype kLongestLine = 1'000'000;
+
 /// Reads the bytes of a file. Whatever it accepts, `gEncodeNetlist` writes back byte for byte.
 /// A file without any line end counts as LF. Refused, with the first place that is wrong: bytes
-/// that aren't UTF-8, a NUL, a CR without LF, line ends of both kinds, and the few characters that
+/// that aren't UTF-8, a NUL, a CR without LF, line ends of both kinds, a line that is longer than
+/// `kLongestLine`, and the few characters that
 /// an editor's document uses for itself (U+2029, U+FDD0, U+FDD1).
 std::variant<TNetlistText, TTextFault> gDecodeNetlist(const QByteArray& rBytes);
 

@@ -1,6 +1,10 @@
 #include "quorvahost/WizardAlone.h"
 
+#include "platform/base/CodePage.h"
+#include "platform/qt/QtDesktop.h"
+#include "quorvahost/ClipboardKeeper.h"
 #include "quorvahost/CommandSinks.h"
+#include "quorvahost/Sentence.h"
 
 #include <cstdio>
 #include <exception>
@@ -22,18 +26,47 @@ std::unique_ptr<QuorvaCommandWizardTarget> MakeSink(const THostOptions& rOptions
     }
     return nullptr;
 }
+
+/// Says so when a sink fails, and lets the wizard go on.
+class CTellingTarget : public QuorvaCommandWizardTarget
+{
+public:
+    explicit CTellingTarget(QuorvaCommandWizardTarget& rSink) : mrSink(rSink) {}
+
+    bool HasFailed() const { return mbFailed; }
+
+    void InsertCommand(CString sCommand) override
+    {
+        try {
+            mrSink.InsertCommand(sCommand);
+        } catch (const CSinkError& rError) {
+            mbFailed = true;
+            std::fprintf(stderr, "quorvahost: %s\n", rError.what());
+            const QString sText = gAsSentence(QString::fromUtf8(rError.what()));
+            gShowMessageBox({nullptr, gFromUtf8(sText.toStdString()).value_or(rError.what()),
+                             CString("quorvahost"), MB_OK | MB_ICONEXCLAMATION});
+        }
+    }
+
+private:
+    QuorvaCommandWizardTarget& mrSink;
+    bool mbFailed = false;
+};
 } // namespace
 
 int gRunWizardAlone(const THostOptions& rOptions)
 {
     try {
         const auto pSink = MakeSink(rOptions);
-        gInvokeSpiceCommandWizard(nullptr, pSink.get());
+        CTellingTarget target(*pSink);
+        gInvokeSpiceCommandWizard(nullptr, &target);
+        if (rOptions.sink == ECommandSink::Clipboard)
+            gKeepClipboard();
+        return target.HasFailed() ? 1 : 0;
     } catch (const std::exception& rError) {
         std::fprintf(stderr, "quorvahost: %s\n", rError.what());
         return 1;
     }
-    return 0;
 }
 
 } // namespace quorvawiz::host

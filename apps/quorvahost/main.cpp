@@ -2,11 +2,14 @@
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/HostOptions.h"
 #include "quorvahost/HostWindow.h"
+#include "quorvahost/StartApplication.h"
+#include "quorvahost/SystemWords.h"
 #include "quorvahost/WizardAlone.h"
 #include "quorvawiz/version.h"
 
 #include <QApplication>
 #include <QtGlobal>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <variant>
@@ -18,9 +21,15 @@ using namespace quorvawiz::host;
 
 constexpr int kExitUsage = 2;
 
-void Print(std::FILE* pStream, const QString& rsText)
+/// Prints what was asked for; returns the exit code.
+int Print(const QString& rsText)
 {
-    std::fputs(rsText.toLocal8Bit().constData(), pStream);
+    errno = 0;
+    if (std::fputs(rsText.toLocal8Bit().constData(), stdout) >= 0 && std::fflush(stdout) == 0)
+        return 0;
+    std::fprintf(stderr, "quorvahost: can't write to standard output: %s\n",
+                 gSystemWords(errno).toLocal8Bit().constData());
+    return 1;
 }
 
 QStringList ArgumentsOf(int nCount, char** pArguments)
@@ -31,40 +40,21 @@ QStringList ArgumentsOf(int nCount, char** pArguments)
     return arguments;
 }
 
-/// Qt would end the process with a core dump.
-bool HasDisplay()
-{
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
-           !qEnvironmentVariableIsEmpty("DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-#else
-    return true;
-#endif
-}
-
 int RunEditor(QtDesktop& rDesktop, const QString& rsFile)
 {
     CHostWindow window(rDesktop);
-    window.show();
-    // Once the loop runs: a message about the file stands in front of a window that is there.
     if (!rsFile.isEmpty())
-        QMetaObject::invokeMethod(
-            &window, [&window, rsFile] { window.OpenFile(rsFile); }, Qt::QueuedConnection);
+        window.OpenFileOnceShown(rsFile);
+    window.show();
     return QApplication::exec();
 }
 
 int RunOnDesktop(int& rnCount, char** pArguments, const THostOptions& rOptions)
 {
-    if (!HasDisplay()) {
-        Print(stderr, QStringLiteral("quorvahost: there is no display (neither DISPLAY nor "
-                                     "WAYLAND_DISPLAY is set)\n"));
-        return 1;
-    }
     QCoreApplication::setOrganizationName(QStringLiteral("quorvawiz"));
     QCoreApplication::setApplicationName(QStringLiteral("quorvahost"));
     QCoreApplication::setApplicationVersion(QString::fromStdString(std::string(kVersion)));
-    const QApplication application(rnCount, pArguments);
+    const auto pApplication = gStartApplication("quorvahost", rnCount, pArguments);
     QtDesktop desktop(QCoreApplication::organizationName(), QCoreApplication::applicationName());
     return rOptions.task == EHostTask::Wizard ? gRunWizardAlone(rOptions)
                                               : RunEditor(desktop, rOptions.sFile);
@@ -80,19 +70,17 @@ int main(int nCount, char** pArguments)
 #endif
     const auto read = gReadHostOptions(ArgumentsOf(nCount, pArguments));
     if (const auto* pFault = std::get_if<TUsageFault>(&read)) {
-        Print(stderr,
-              QStringLiteral("quorvahost: %1\nTry \"quorvahost --help\".\n").arg(pFault->sMessage));
+        std::fprintf(stderr, "quorvahost: %s\nTry \"quorvahost --help\".\n",
+                     pFault->sMessage.toLocal8Bit().constData());
         return kExitUsage;
     }
     const auto& rOptions = std::get<THostOptions>(read);
     switch (rOptions.task) {
     case EHostTask::Help:
-        Print(stdout, gHostHelp());
-        return 0;
+        return Print(gHostHelp());
     case EHostTask::Version:
-        Print(stdout,
-              QStringLiteral("quorvahost %1\n").arg(QString::fromStdString(std::string(kVersion))));
-        return 0;
+        return Print(
+            QStringLiteral("quorvahost %1\n").arg(QString::fromStdString(std::string(kVersion))));
     case EHostTask::Edit:
     case EHostTask::Wizard:
         return RunOnDesktop(nCount, pArguments, rOptions);

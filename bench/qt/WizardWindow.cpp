@@ -6,7 +6,6 @@
 #include "bench/qt/PlainWindow.h"
 #include "exports/Quorvawiz.h"
 #include "platform/qt/QtDesktop.h"
-#include "platform/ui/Button.h"
 #include "platform/ui/Dialog.h"
 #include "platform/ui/Edit.h"
 #include "platform/ui/FieldView.h"
@@ -190,7 +189,7 @@ void BM_Insert(benchmark::State& rState)
         Select(rWizard, "Temperature");
         const auto temperatures = gFindField(rWizard, "temperature-list");
         dynamic_cast<CEdit&>(*temperatures.pControl).UserType("0 27 85");
-        auto& rInsert = dynamic_cast<CButton&>(*rWizard.GetDlgItem(IDOK));
+        auto& rInsert = dynamic_cast<QPushButton&>(*gWidgetOf(*rWizard.GetDlgItem(IDOK)));
         Paint();
 
         // Whoever does without the library reads the field, checks it and keeps the line.
@@ -211,7 +210,7 @@ void BM_Insert(benchmark::State& rState)
         for ([[maybe_unused]] const auto turn : rState)
             contest.Turn(
                 [&] {
-                    rInsert.UserClick();
+                    rInsert.click();
                     Paint();
                 },
                 [&] {

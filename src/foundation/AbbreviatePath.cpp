@@ -1,21 +1,12 @@
-#include "foundation/PathRules.h"
+#include "foundation/PathParts.h"
 #include "foundation/PathText.h"
 #include "foundation/Paths.h"
+#include "foundation/UnixStyle.h"
 
 #include <cstddef>
 
 namespace
 {
-
-/// The drive or the share in front of a path.
-std::u16string_view HeadOf(std::u16string_view sPath)
-{
-    if (gHasTwoSlashes(sPath)) {
-        const std::size_t nShareEnd = gFindShareEnd(sPath);
-        return sPath.substr(0, nShareEnd == kNowhere ? 0 : nShareEnd);
-    }
-    return sPath.substr(0, gHasDrive(sPath) ? 2 : 0);
-}
 
 /// The place of the last slash before a place; kNowhere if there is none.
 std::size_t SlashBefore(std::u16string_view sPath, std::size_t nAt)
@@ -30,17 +21,24 @@ std::u16string Abbreviate(std::u16string_view sPath, std::size_t nWidth, bool bK
     }
     const char16_t chSeparator = gIsUnixStyleText(sPath) ? u'/' : u'\\';
     const std::u16string_view sName = gFileNameOf(sPath);
-    const std::u16string sBegin = std::u16string(HeadOf(sPath)) + chSeparator + u"...";
+    const std::size_t nHead = gHeadLength(sPath);
+    std::u16string sBegin(sPath.substr(0, nHead != kNowhere ? nHead : 0));
+    sBegin += chSeparator;
+    sBegin += u"...";
     if (sBegin.size() + 1 + sName.size() > nWidth) {
         return std::u16string(bKeepName ? sName : std::u16string_view());
     }
-    std::u16string sShortened = sBegin + chSeparator + std::u16string(sName);
+    std::size_t nFits = kNowhere; // where the longest end begins that fits
     std::size_t nSlash = SlashBefore(sPath, sPath.size() - sName.size());
     while (nSlash != kNowhere && sBegin.size() + sPath.size() - nSlash <= nWidth) {
-        sShortened = sBegin + std::u16string(sPath.substr(nSlash));
+        nFits = nSlash;
         nSlash = SlashBefore(sPath, nSlash);
     }
-    return sShortened;
+    if (nFits != kNowhere) {
+        return sBegin += sPath.substr(nFits);
+    }
+    sBegin += chSeparator;
+    return sBegin += sName;
 }
 
 } // namespace

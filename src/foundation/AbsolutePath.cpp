@@ -1,5 +1,5 @@
+#include "foundation/CanonicalForm.h"
 #include "foundation/PathLog.h"
-#include "foundation/PathRules.h"
 #include "foundation/PathText.h"
 #include "foundation/Paths.h"
 
@@ -24,20 +24,4 @@ bool gIsAbsolutePath(const CStringU& rPath)
     const bool bAbsolute = gIsAbsoluteText(rPath.ToWide());
     gLogPathCall("gIsAbsolutePath", {{"Path", rPath}}, bAbsolute ? "true" : "false");
     return bAbsolute;
-}
-
-bool gIsUnixStyleText(std::u16string_view sPath)
-{
-    const auto isQuoted = [&sPath](char16_t chQuote) {
-        return sPath.size() >= 3 && sPath.front() == chQuote && sPath.back() == chQuote;
-    };
-    while (isQuoted(u'"') || isQuoted(u'\'')) {
-        sPath = sPath.substr(1, sPath.size() - 2);
-    }
-    return sPath.starts_with(u'/') || sPath.starts_with(u"../") || sPath.starts_with(u"./");
-}
-
-bool gIsUnixStylePath(const CStringU& rPath)
-{
-    return gIsUnixStyleText(rPath.ToWide());
 }

@@ -1,5 +1,5 @@
+#include "foundation/CanonicalForm.h"
 #include "foundation/PathLog.h"
-#include "foundation/PathRules.h"
 #include "foundation/PathText.h"
 #include "foundation/Paths.h"
 #include "platform/base/IsWine.h"
@@ -11,17 +11,6 @@
 
 namespace
 {
-
-/// The length of the root of a path that has "/" only: a share with something behind it, or a
-/// drive.
-std::size_t RootLength(std::u16string_view sPath)
-{
-    if (gHasTwoSlashes(sPath)) {
-        const std::size_t nShareEnd = gFindShareEnd(sPath);
-        return nShareEnd != kNowhere ? nShareEnd : 0; // kept: a bare share is a rooted path
-    }
-    return gHasDrive(sPath) ? 2 : 0;
-}
 
 /// The components of a path behind its root, resolved.
 class CComponents
@@ -59,7 +48,8 @@ private:
 
 std::u16string Clean(std::u16string_view sPath)
 {
-    const std::size_t nRoot = RootLength(sPath);
+    const std::size_t nHead = gHeadLength(sPath);
+    const std::size_t nRoot = nHead != kNowhere ? nHead : 0; // kept: a bare share is a rooted path
     std::u16string_view sRest = sPath.substr(nRoot);
     const bool bRooted = sRest.starts_with(u'/');
     CComponents components(bRooted);
@@ -91,14 +81,12 @@ bool IsOfTheOtherSide(std::u16string_view sPath)
 
 std::u16string gCanonicalForm(std::u16string sPath, TExpandedNames& rNames)
 {
-    gReplaceAll(sPath, u'\\', u'/');
+    std::ranges::replace(sPath, u'\\', u'/');
     std::u16string sText = Clean(sPath);
-    gReplaceAll(sText, u'/', u'\\');
-    if (gMayHaveReferences(sText)) {
-        sText = gExpandEnvironment(sText, rNames);
-    }
+    std::ranges::replace(sText, u'/', u'\\');
+    sText = gExpandEnvironment(std::move(sText), rNames);
     if (gIsWine() && !IsOfTheOtherSide(sText)) {
-        gReplaceAll(sText, u'\\', u'/');
+        std::ranges::replace(sText, u'\\', u'/');
     }
     return sText;
 }

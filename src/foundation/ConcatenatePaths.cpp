@@ -1,5 +1,6 @@
+#include "foundation/CanonicalForm.h"
+#include "foundation/JoinedPath.h"
 #include "foundation/PathLog.h"
-#include "foundation/PathRules.h"
 #include "foundation/PathText.h"
 #include "foundation/Paths.h"
 
@@ -12,11 +13,8 @@ namespace
 /// What a path that begins with a slash starts from: the share, the drive, or the path itself.
 std::u16string_view RootOf(std::u16string_view sPath)
 {
-    if (gHasTwoSlashes(sPath)) {
-        return sPath.substr(0, gFindShareEnd(sPath));
-    }
-    if (gHasDrive(sPath)) {
-        return sPath.substr(0, 2);
+    if (const std::size_t nHead = gHeadLength(sPath); nHead != 0) {
+        return sPath.substr(0, nHead);
     }
     return gEndsInSlash(sPath) ? sPath.substr(0, sPath.size() - 1) : sPath;
 }

@@ -1,6 +1,6 @@
 #include "foundation/FileChecks.h"
 #include "foundation/PathText.h"
-#include "foundation/SystemPaths.h"
+#include "foundation/SystemErrorText.h"
 #include "platform/base/FileSystem.h"
 #include "platform/base/SystemError.h"
 
@@ -9,15 +9,6 @@
 
 namespace
 {
-
-/// The place behind the drive, or behind server and share.
-std::size_t BehindRoot(std::u16string_view sPath)
-{
-    if (gHasTwoSlashes(sPath)) {
-        return std::min(gFindShareEnd(sPath), sPath.size());
-    }
-    return gHasDrive(sPath) ? 2 : 0;
-}
 
 /// Sees to it that one folder is there.
 bool EnsureFolder(std::u16string_view sFolder, CStringU& rErrors)
@@ -46,7 +37,8 @@ bool gCreateDirectories(const CStringU& rPath, CStringU& rErrors)
     if (gGetFileSystem()->CanAccess(sPath)) {
         return true;
     }
-    std::size_t nAt = sPath.find_first_not_of(kSlashes, BehindRoot(sPath));
+    // A drive or a share is never made, with or without anything behind it.
+    std::size_t nAt = sPath.find_first_not_of(kSlashes, std::min(gHeadLength(sPath), sPath.size()));
     while (nAt != kNowhere) {
         const std::size_t nEnd = std::min(sPath.find_first_of(kSlashes, nAt), sPath.size());
         if (!EnsureFolder(std::u16string_view(sPath).substr(0, nEnd), rErrors)) {

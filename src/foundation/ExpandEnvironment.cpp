@@ -1,6 +1,6 @@
 #include "foundation/ExpandEnvironment.h"
 
-#include "foundation/PathRules.h"
+#include "foundation/CanonicalForm.h"
 #include "foundation/PathText.h"
 #include "platform/base/CodePage.h"
 #include "platform/base/Environment.h"
@@ -11,9 +11,6 @@
 
 namespace
 {
-
-constexpr int kMostNestedTests = 10'000;
-constexpr std::size_t kMostNestedNames = 100; // each needs some stack
 
 /// A reference to a variable at the start of a text.
 struct TReference {
@@ -43,7 +40,7 @@ class CReferenceReader
 public:
     explicit CReferenceReader(std::u16string_view sText) : msText(sText) {}
 
-    /// The reference that begins at a place.
+    /// The reference that begins at a "$" or "%".
     std::optional<TReference> ReadAt(std::size_t nAt)
     {
         const std::u16string_view sRest = msText.substr(nAt);
@@ -56,10 +53,7 @@ public:
             return nLength > 1 ? std::optional(TReference{sRest.substr(1, nLength - 1), nLength})
                                : std::nullopt;
         }
-        if (sRest.starts_with(u'%')) {
-            return ReadClosed(sRest, 1, u'%', mbPercentAhead);
-        }
-        return std::nullopt;
+        return ReadClosed(sRest, 1, u'%', mbPercentAhead);
     }
 
 private:
@@ -90,59 +84,76 @@ std::optional<std::u16string> ValueOf(std::u16string_view sName)
 bool MayExpand(std::u16string_view sName, TExpandedNames& rNames)
 {
     if (rNames.mNames.empty()) {
-        rNames.mnTestsLeft = kMostNestedTests;
         return true;
     }
-    if (rNames.mNames.size() >= kMostNestedNames || rNames.mnTestsLeft == 0) {
+    const bool bGoesOn = std::ranges::find(rNames.mNames, sName) != rNames.mNames.end();
+    if (bGoesOn || rNames.mNames.size() >= kMostNestedNames || rNames.mnTestsLeft == 0) {
         return false;
     }
     --rNames.mnTestsLeft;
-    return std::ranges::find(rNames.mNames, sName) == rNames.mNames.end();
+    return true;
 }
 
-/// Whether the value of a variable is an absolute path.
-bool IsAbsoluteValue(std::u16string_view sName, std::u16string_view sValue, TExpandedNames& rNames)
+/// Looks whether the value of a variable is an absolute path.
+bool TestValue(const std::u16string& rsName, std::u16string_view sValue, TExpandedNames& rNames)
 {
-    rNames.mNames.emplace_back(sName);
+    rNames.mNames.push_back(rsName);
     const bool bAbsolute = gIsAbsoluteText(sValue, rNames);
     rNames.mNames.pop_back();
     return bAbsolute;
 }
 
-} // namespace
-
-bool gMayHaveReferences(std::u16string_view sPath) noexcept
+/// Whether the value of a variable is an absolute path. Only in the path itself the answer is the
+/// same each time: inside a value it depends on the variables around it.
+bool IsAbsoluteValue(std::u16string_view sName, std::u16string_view sValue, TExpandedNames& rNames)
 {
-    return std::ranges::any_of(sPath,
-                               [](char16_t chChar) { return chChar == u'$' || chChar == u'%'; });
+    const std::u16string sKey(sName);
+    if (!rNames.mNames.empty()) {
+        return TestValue(sKey, sValue, rNames);
+    }
+    const auto known = rNames.mAbsolute.find(sKey);
+    if (known != rNames.mAbsolute.end()) {
+        return known->second;
+    }
+    return rNames.mAbsolute[sKey] = TestValue(sKey, sValue, rNames);
 }
 
-std::u16string gExpandEnvironment(std::u16string_view sPath, TExpandedNames& rNames)
+/// The place of the next character that may begin a reference; the text's length without one.
+std::size_t NextReference(std::u16string_view sText, std::size_t nFrom)
 {
-    std::u16string sExpanded;
-    CReferenceReader reader(sPath);
-    std::size_t nAt = 0;
-    while (nAt + 1 < sPath.size()) {
-        const std::size_t nPlain = std::min(sPath.find_first_of(u"$%", nAt), sPath.size());
-        sExpanded += sPath.substr(nAt, nPlain - nAt);
-        nAt = nPlain;
-        if (nAt + 1 >= sPath.size()) {
-            break;
-        }
+    const auto found =
+        std::find_if(sText.begin() + static_cast<std::ptrdiff_t>(nFrom), sText.end(),
+                     [](char16_t chChar) { return chChar == u'$' || chChar == u'%'; });
+    return static_cast<std::size_t>(found - sText.begin());
+}
+
+} // namespace
+
+std::u16string gExpandEnvironment(std::u16string sPath, TExpandedNames& rNames)
+{
+    const std::u16string_view sText = sPath;
+    std::size_t nAt = NextReference(sText, 0);
+    if (nAt + 1 >= sText.size()) {
+        return sPath;
+    }
+    std::u16string sExpanded(sText.substr(0, nAt));
+    CReferenceReader reader(sText);
+    while (nAt + 1 < sText.size()) {
         const auto reference = reader.ReadAt(nAt);
-        const std::size_t nLength = reference ? reference->mnLength : 1;
+        const std::size_t nEnd = nAt + (reference ? reference->mnLength : 1);
         const auto value = reference && MayExpand(reference->msName, rNames)
                                ? ValueOf(reference->msName)
                                : std::nullopt;
         if (!value) {
-            sExpanded += sPath.substr(nAt, nLength);
+            sExpanded += sText.substr(nAt, nEnd - nAt);
         } else {
             if (IsAbsoluteValue(reference->msName, *value, rNames)) {
                 sExpanded.clear();
             }
             sExpanded += *value;
         }
-        nAt += nLength;
+        nAt = NextReference(sText, nEnd);
+        sExpanded += sText.substr(nEnd, nAt - nEnd);
     }
-    return sExpanded += sPath.substr(std::min(nAt, sPath.size()));
+    return sExpanded += sText.substr(nAt);
 }

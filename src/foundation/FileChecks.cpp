@@ -4,6 +4,8 @@
 #include "foundation/UnixSide.h"
 #include "platform/base/FileSystem.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <optional>
 
 namespace
@@ -15,20 +17,16 @@ int& Mode()
     return nMode;
 }
 
-/// A path that is only a drive with its slash, a share, or the one root of the Unix side. It has no
-/// entry in any folder.
+/// A path that is only a drive with its slash, a share, or a slash. It has no entry in any folder.
 bool IsOnlyRoot(std::u16string_view sPath)
 {
-    const bool bDrive = sPath.size() == 3 && gHasDrive(sPath) && gIsSlash(sPath[2]);
-    if (bDrive || sPath == u"/") {
-        return true;
-    }
+    const std::u16string_view sBehind = sPath.substr(std::min(gHeadLength(sPath), sPath.size()));
     if (!gHasTwoSlashes(sPath)) {
-        return false;
+        return sBehind.size() == 1 && gIsSlash(sBehind.front());
     }
     const auto nServerEnd = sPath.find_first_of(kSlashes, 2);
     const bool bShare = nServerEnd != kNowhere && nServerEnd + 1 < sPath.size();
-    return bShare && gFindShareEnd(sPath) >= sPath.size() - 1;
+    return bShare && sBehind.size() <= 1;
 }
 
 std::optional<TFileAttributes> FindEntry(const std::u16string& rsPath)

@@ -3,9 +3,10 @@
 #include "foundation/StringU.h"
 
 /// Which way gDirectoryExists and gFileExists look at the disk; a process-wide setting, unguarded.
-/// 0: the entry in its folder. 1: the attributes of the path. 2: the standard library, which
-/// follows links and mount points. 3 to 5: as 0 to 2 on the path in DOS form (gToDosPath). Any
-/// other number looks as 0 does.
+/// 0: the entry in its folder, with one closing slash of the path left out. 1: the attributes of
+/// the path. 2: the standard library, which follows links and mount points, so that a link that
+/// leads nowhere is there for 0 and 1, as a file, and isn't for 2. 3 to 5: as 0 to 2 on the path in
+/// DOS form (gToDosPath). Any other number looks as 0 does.
 /// @return 0 unless it was set
 [[nodiscard]] int gGetFileCheckMode();
 
@@ -29,7 +30,8 @@ void gSetFileCheckMode(int nMode);
 
 /// Makes a folder and those above it that are missing. A drive or a share is never made.
 /// @param rPath the folder; one that can be accessed, folder or not, is left alone
-/// @param rErrors a message about a file in the way is appended; the system's text for a folder
-///                that can't be made takes its place; otherwise it stays
-/// @return true if every folder is there now
+/// @param rErrors receives what went wrong: a message about a file in the way is appended, while
+///                the system's text about a folder that can't be made takes the place of all before
+/// @return false if a file was in the way or a folder couldn't be made. True tells nothing about a
+///         drive or share alone, which may be missing all the same
 bool gCreateDirectories(const CStringU& rPath, CStringU& rErrors);

@@ -17,7 +17,6 @@ std::string gFormatDistinct(double dShown, double dOther, TeUnitScale eScale)
             }
         }
     }
-    // The other's text, which differs from the shown one's only for zeros of different sign and for
-    // NaN.
+    // Kept: the other's text. It differs from the shown one's for zeros of different sign.
     return gFormatEngineeringOptions(dOther, 17, gUnitScaleToOption(eScale));
 }

@@ -1,4 +1,5 @@
 #include "foundation/DoubledPoint.h"
+#include "foundation/NonFinite.h"
 #include "foundation/NumberFormat.h"
 #include "foundation/RoundedDigits.h"
 #include "platform/base/IsWine.h"
@@ -147,11 +148,8 @@ std::string gFormatEngineering(double dValue, unsigned nDigits, bool bSignifican
                                boost::tribool bRemoveTrailingZeroes, TeUnitScale eScale,
                                boost::tribool bRemoveZeroExponents)
 {
-    if (std::isnan(dValue)) {
-        return "nan";
-    }
-    if (std::isinf(dValue)) {
-        return dValue < 0 ? "-inf" : "inf";
+    if (const char* const pWord = gNonFiniteWord(dValue)) {
+        return pWord;
     }
     const TEngineeringFormatSettings& rSettings = gGetEngineeringFormatSettings();
     if (nDigits == 0) {

@@ -9,16 +9,18 @@ std::string gFormatEngineeringOptions(double dValue, unsigned nDigits, int nOpti
     boost::tribool bRemoveExponents = boost::indeterminate;
     TeUnitScale eScale = gGetEngineeringFormatSettings().GetDefaultEngineeringFormatUnitScale();
     for (const int nOption : {nOption1, nOption2, nOption3, nOption4, nOption5}) {
-        if (nOption == kCountPlaces) {
+        if (nOption == TFormatOption::CountPlaces) {
             bSignificant = false;
-        } else if (nOption == kPadded) {
+        } else if (nOption == TFormatOption::Padded) {
             bPadded = true;
-        } else if (nOption == kRemoveTrailingZeros || nOption == kKeepTrailingZeros) {
-            bRemoveTrailing = nOption == kRemoveTrailingZeros;
-        } else if (nOption == kRemoveZeroExponents || nOption == kKeepZeroExponents) {
-            bRemoveExponents = nOption == kRemoveZeroExponents;
-        } else if (nOption >= kFirstUnitScale && nOption < kNoFormatOption) {
-            eScale = gNormalizeUnitScale(nOption - kFirstUnitScale);
+        } else if (nOption == TFormatOption::RemoveTrailingZeros ||
+                   nOption == TFormatOption::KeepTrailingZeros) {
+            bRemoveTrailing = nOption == TFormatOption::RemoveTrailingZeros;
+        } else if (nOption == TFormatOption::RemoveZeroExponents ||
+                   nOption == TFormatOption::KeepZeroExponents) {
+            bRemoveExponents = nOption == TFormatOption::RemoveZeroExponents;
+        } else if (nOption >= TFormatOption::FirstUnitScale && nOption < TFormatOption::None) {
+            eScale = gNormalizeUnitScale(nOption - TFormatOption::FirstUnitScale);
         }
     }
     return gFormatEngineering(dValue, nDigits, bSignificant, bPadded, bRemoveTrailing, eScale,

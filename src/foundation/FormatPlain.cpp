@@ -1,7 +1,7 @@
+#include "foundation/NonFinite.h"
 #include "foundation/NumberFormat.h"
 #include "foundation/RoundedDigits.h"
 
-#include <cmath>
 #include <cstddef>
 
 namespace
@@ -13,11 +13,8 @@ constexpr unsigned kAllDigits = 18;
 
 std::string gFormatPlain(double dValue)
 {
-    if (std::isnan(dValue)) {
-        return "nan";
-    }
-    if (std::isinf(dValue)) {
-        return dValue < 0 ? "-inf" : "inf";
+    if (const char* const pWord = gNonFiniteWord(dValue)) {
+        return pWord;
     }
     TRoundedDigits rounded = gRoundToDigits(dValue, kAllDigits);
     std::string& rsDigits = rounded.msDigits;

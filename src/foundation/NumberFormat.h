@@ -37,20 +37,19 @@ inline constexpr unsigned kMostFormatDigits = 1'000'000;
 /// by the settings.
 /// @param dValue the number
 /// @param nDigits how many digits; 0 takes the settings' default
-/// @param nOption1, nOption2, nOption3, nOption4, nOption5 codes of EFormatOption, applied in this
+/// @param nOption1, nOption2, nOption3, nOption4, nOption5 codes of TFormatOption, applied in this
 ///        order, so that of two that contradict the last one wins; any other number does nothing
 /// @return as gFormatEngineering
 [[nodiscard]] std::string
-gFormatEngineeringOptions(double dValue, unsigned nDigits, int nOption1 = kNoFormatOption,
-                          int nOption2 = kNoFormatOption, int nOption3 = kNoFormatOption,
-                          int nOption4 = kNoFormatOption, int nOption5 = kNoFormatOption);
+gFormatEngineeringOptions(double dValue, unsigned nDigits, int nOption1 = TFormatOption::None,
+                          int nOption2 = TFormatOption::None, int nOption3 = TFormatOption::None,
+                          int nOption4 = TFormatOption::None, int nOption5 = TFormatOption::None);
 
 /// Formats a number with no more digits than it takes to tell it from another: 3 to 29 of them.
 /// @param dShown the number to format
 /// @param dOther the number to tell it from
 /// @param eScale the scale; Undefined takes the settings' default
-/// @return the text of dShown; where no count tells the two apart, the text of dOther with 17
-/// digits
+/// @return the text of dShown; the text of dOther with 17 digits where no count tells them apart
 [[nodiscard]] std::string gFormatDistinct(double dShown, double dOther, TeUnitScale eScale);
 
 /// Formats a number as plain decimal text, with 18 significant digits and never with an exponent.
@@ -73,9 +72,8 @@ gFormatEngineeringOptions(double dValue, unsigned nDigits, int nOption1 = kNoFor
 /// @param pText zero-terminated; null reads as the empty text
 /// @param rdResult receives the number, which may be infinite or 0 when the exponent is too big or
 ///                 too small; 0 when there is none
-/// @param ppEnd if not null: receives the first character not used, the start of the text when
-/// there
-///              is no number
+/// @param ppEnd if not null: receives the first character not used, which without a number is the
+///              start of the text
 /// @param bUseSi true for the suffixes of SI, false for those of SPICE
 /// @return an empty text, or "Not a number"
 std::string gParseEngineering(const char* pText, double& rdResult, const char** ppEnd, bool bUseSi);
@@ -96,8 +94,7 @@ CStringU gParseEngineeringText(const CStringU& rText, double& rdResult, boost::t
 
 /// Reads a count of significant digits that a user typed.
 /// @param sText a decimal number of any size, perhaps behind white space and one sign
-/// @return the number limited to 1 to 18; 4 for an empty text or one with anything behind the
-/// number
+/// @return the number limited to 1 to 18; 4 for an empty text, and where anything follows it
 [[nodiscard]] int gClampDigitsText(std::string_view sText) noexcept;
 
 /// Limits a count of decimal places to 0 to 17.
@@ -105,6 +102,5 @@ CStringU gParseEngineeringText(const CStringU& rText, double& rdResult, boost::t
 
 /// Reads a count of decimal places that a user typed.
 /// @param sText a decimal number of any size, perhaps behind white space and one sign
-/// @return the number limited to 0 to 17; 6 for an empty text or one with anything behind the
-/// number
+/// @return the number limited to 0 to 17; 6 for an empty text, and where anything follows it
 [[nodiscard]] int gClampPlacesText(std::string_view sText) noexcept;

@@ -1,4 +1,5 @@
-#include "foundation/PathRules.h"
+#include "foundation/JoinedPath.h"
+#include "foundation/PathParts.h"
 #include "foundation/PathText.h"
 #include "foundation/Paths.h"
 
@@ -53,7 +54,7 @@ CStringU gEnsureExtension(const CStringU& rPath, const CStringU& rExtension)
     if (gGetExtension(rPath).CompareNoCase(rExtension) == 0) {
         return rPath;
     }
-    return rPath + "." + rExtension;
+    return rPath.ToWide() + u'.' + rExtension.ToWide();
 }
 
 CStringU gGetFileTitle(const CStringU& rPath)

@@ -37,17 +37,21 @@ void gLogPathCall(std::string_view sFunction, std::initializer_list<TLoggedArgum
     if (!gIsPathLoggerSet()) {
         return;
     }
-    std::string sLine(sFunction);
-    std::string_view sBefore = "(";
-    for (const TLoggedArgument& rArgument : arguments) {
-        sLine += sBefore;
-        sLine += rArgument.msName;
-        sLine += '=';
-        sLine += rArgument.mrValue.Text();
-        sBefore = ", ";
+    try {
+        std::string sLine(sFunction);
+        std::string_view sBefore = "(";
+        for (const TLoggedArgument& rArgument : arguments) {
+            sLine += sBefore;
+            sLine += rArgument.msName;
+            sLine += '=';
+            sLine += rArgument.mrValue.Text();
+            sBefore = ", ";
+        }
+        sLine += ") returns ";
+        sLine += rResult.Text();
+        const TPathLogger logger = Logger(); // a copy: it may set another one while it runs
+        logger(CStringU(sLine, TTextKind::Utf8IfNeeded));
+    } catch (...) {
+        // A line that is lost has no influence on the result that it tells of.
     }
-    sLine += ") returns ";
-    sLine += rResult.Text();
-    const TPathLogger logger = Logger(); // a copy: it may set another one while it runs
-    logger(CStringU(sLine, TTextKind::Utf8IfNeeded));
 }

@@ -5,7 +5,7 @@
 #include <functional>
 
 /// What takes the lines of path calls: one call, one line, without a line end. It must not call the
-/// functions that log.
+/// functions that log. What it throws is dropped, and the call that it was told of goes on.
 using TPathLogger = std::function<void(const CStringU& rLine)>;
 
 /// Sets what takes a line from each call of gCanonicalizePath, gIsAbsolutePath, gConcatenatePaths,

@@ -1,5 +1,6 @@
+#include "foundation/PathParts.h"
+
 #include "foundation/PathLog.h"
-#include "foundation/PathRules.h"
 #include "foundation/PathText.h"
 #include "foundation/Paths.h"
 #include "platform/base/IsWine.h"

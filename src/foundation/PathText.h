@@ -54,5 +54,12 @@ inline constexpr std::u16string_view kNameEnds = u"\\/:";
     return nServerEnd == kNowhere ? kNowhere : sText.find_first_of(kSlashes, nServerEnd + 1);
 }
 
-/// Replaces every such character.
-void gReplaceAll(std::u16string& rsText, char16_t chOld, char16_t chNew);
+/// The length of the head of a path: of its drive, or of "\\server\share" with a slash behind it.
+/// @return 0 without a head; kNowhere for two slashes where no slash stands behind a share
+[[nodiscard]] constexpr std::size_t gHeadLength(std::u16string_view sPath) noexcept
+{
+    if (gHasTwoSlashes(sPath)) {
+        return gFindShareEnd(sPath);
+    }
+    return gHasDrive(sPath) ? 2 : 0;
+}

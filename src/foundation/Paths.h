@@ -3,6 +3,7 @@
 #include "foundation/FileChecks.h"
 #include "foundation/PathLogger.h"
 #include "foundation/StringU.h"
+#include "foundation/SystemErrorText.h"
 #include "foundation/SystemPaths.h"
 #include "foundation/UnixSide.h"
 
@@ -11,8 +12,8 @@
 /// looks at the disk but those of FileChecks.h and SystemPaths.h. "Slash" below means either of
 /// \ and /.
 ///
-/// Where gIsWine says so, the rules of the Unix side hold: results have / for a separator unless
-/// they begin with a drive and its slash, or with two slashes.
+/// Where gIsWine (platform/base/IsWine.h) says so, the rules of the Unix side hold: results have /
+/// for a separator unless they begin with a drive and its slash, or with two slashes.
 
 /// The clean form of a path: one kind of separator, no ".", no ".." that can be resolved, no
 /// doubled or closing slash, environment variables filled in as gExpandEnvironment says.
@@ -71,6 +72,7 @@
 /// The path with the extension appended, unless it has it already in any case of letters.
 /// @param rPath the path
 /// @param rExtension without a point
+/// @return the path itself where it has the extension
 [[nodiscard]] CStringU gEnsureExtension(const CStringU& rPath, const CStringU& rExtension);
 
 /// The file's own name without its extension.

@@ -1,7 +1,8 @@
+#include "foundation/CanonicalForm.h"
 #include "foundation/PathLog.h"
-#include "foundation/PathRules.h"
 #include "foundation/PathText.h"
 #include "foundation/Paths.h"
+#include "foundation/UnixStyle.h"
 #include "platform/base/IsWine.h"
 
 #include <algorithm>
@@ -90,7 +91,7 @@ CStringU gGetRelativeFileName(const CStringU& rPath, const CStringU& rFileName)
 {
     std::u16string sRelative = MakeRelative(rPath.ToWide(), rFileName.ToWide());
     if (gIsWine()) {
-        gReplaceAll(sRelative, u'\\', u'/');
+        std::ranges::replace(sRelative, u'\\', u'/');
     }
     CStringU result = sRelative;
     gLogPathCall("gGetRelativeFileName", {{"Path", rPath}, {"FileName", rFileName}}, result);

@@ -1,4 +1,5 @@
-#include "foundation/SystemPaths.h"
+#include "foundation/SystemErrorText.h"
+
 #include "platform/base/SystemError.h"
 
 CStringU gGetSystemErrorText(int nCode)
@@ -11,7 +12,7 @@ CStringU gGetSystemErrorText(int nCode)
     if (nCode == notAProgram) {
         return "It is not valid Win64 application.";
     }
-    return gSystemErrorMessage(nCode);
+    return gSystemErrorMessageWide(nCode);
 }
 
 CStringU gAppendLastError(const CStringU& rText, int* pnCode)

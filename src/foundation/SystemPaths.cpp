@@ -1,9 +1,8 @@
 #include "foundation/SystemPaths.h"
 
-#include "foundation/PathRules.h"
+#include "foundation/PathParts.h"
 #include "foundation/UnixSide.h"
 #include "platform/base/FileSystem.h"
-#include "platform/base/ProgramFile.h"
 #include "platform/base/SystemFolder.h"
 
 #include <cstddef>
@@ -11,7 +10,8 @@
 namespace
 {
 
-/// A file name as it comes out of a buffer of 2096 characters, the last one a zero.
+/// A file name as it comes out of a buffer of 2096 characters, the last one a zero; empty where it
+/// doesn't fit.
 CStringU FromBuffer(const std::u16string& rsName)
 {
     constexpr std::size_t buffer = 2096;
@@ -28,13 +28,13 @@ CStringU& DocumentsFolder()
 
 CStringU gGetExecutablePath()
 {
-    return FromBuffer(gGetProgramFile());
+    return FromBuffer(gGetFileSystem()->GetProgramFile());
 }
 
 CStringU gGetModulePath()
 {
     static const char here = 0; // lies in the file that is asked for
-    return FromBuffer(gGetModuleFile(&here));
+    return FromBuffer(gGetFileSystem()->GetModuleFile(&here));
 }
 
 CStringU gGetExecutableFolder()

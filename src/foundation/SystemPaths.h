@@ -8,8 +8,8 @@
 /// more than 2095 characters.
 [[nodiscard]] CStringU gGetExecutablePath();
 
-/// The full name of the file that this library was loaded from: the program's where it is linked
-/// in; otherwise as gGetExecutablePath.
+/// The full name of the file that holds this library: of the shared library, or of the program that
+/// it is linked into. Empty in the same cases as gGetExecutablePath.
 [[nodiscard]] CStringU gGetModulePath();
 
 /// The folder of gGetExecutablePath.
@@ -35,15 +35,3 @@ void gResetDocumentsFolder();
 /// @param rPath its path, which must fit in the system's code page
 /// @return seconds since 1970 in UTC; -1 if it can't be told
 [[nodiscard]] std::int64_t gGetFileTime(const CStringU& rPath);
-
-/// The text of an error code.
-/// @param nCode 126 and 193, which tell of libraries that can't be loaded, have texts of their own;
-///              every other one is the system's
-/// @return empty if the system has no text
-[[nodiscard]] CStringU gGetSystemErrorText(int nCode);
-
-/// A message with the text of the thread's last system error on a line of its own behind it.
-/// @param rText the message
-/// @param pnCode if not null: receives the code of the error
-/// @return the two with a line feed between them unless one is empty
-[[nodiscard]] CStringU gAppendLastError(const CStringU& rText, int* pnCode = nullptr);

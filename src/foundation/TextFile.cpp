@@ -4,7 +4,7 @@
 
 #include "foundation/FileChecks.h"
 #include "foundation/Paths.h"
-#include "foundation/SystemPaths.h"
+#include "foundation/SystemErrorText.h"
 #include "foundation/UnixSide.h"
 
 #include <array>

@@ -23,7 +23,8 @@
 /// written is in the file, or in the text in memory, after Flush, Close or the destructor.
 ///
 /// What can't be sought in, such as a pipe, is either read or written, from its beginning to its
-/// end; what a Seek passes over is read and forgotten.
+/// end; what a Seek passes over is read and forgotten. To be read it is opened as soon as its first
+/// bytes are there.
 ///
 /// The forms of Open that CFile has are reached through a CFile alone. They open the bytes of a
 /// file: the encoding, the name in messages and the error text stay those from before.

@@ -82,12 +82,12 @@ std::optional<TeUnitScale> gFindUnitScale(std::string_view sKey) noexcept
 std::optional<std::string_view> gGetUnitSuffix(TeUnitScale eScale, int nExponent) noexcept
 {
     const auto nScale = static_cast<std::size_t>(eScale);
-    const int nRow = (nExponent - kSuffixes.front().mnExponent) / 3;
     const bool bInTable =
         nExponent >= kSuffixes.front().mnExponent && nExponent <= kSuffixes.back().mnExponent;
     if (!bInTable || nScale >= kSuffixes.front().mSuffixes.size()) {
         return std::nullopt;
     }
+    const int nRow = (nExponent - kSuffixes.front().mnExponent) / 3;
     const std::string_view sSuffix = kSuffixes[static_cast<std::size_t>(nRow)].mSuffixes[nScale];
     return sSuffix.empty() ? std::nullopt : std::optional(sSuffix);
 }

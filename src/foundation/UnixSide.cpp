@@ -1,11 +1,12 @@
 #include "foundation/UnixSide.h"
 
-#include "foundation/PathRules.h"
+#include "foundation/CanonicalForm.h"
 #include "foundation/PathText.h"
 #include "platform/base/CodePage.h"
 #include "platform/base/IsWine.h"
 #include "platform/base/NamedExports.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -64,7 +65,7 @@ CStringU gToDosPath(const CStringU& rPath)
     if (!gIsAbsoluteText(sPath)) {
         return rPath;
     }
-    gReplaceAll(sPath, u'/', u'\\');
+    std::ranges::replace(sPath, u'/', u'\\');
     return sPath;
 }
 
@@ -75,7 +76,7 @@ CStringU gToUnixPath(const CStringU& rPath)
     }
     std::u16string sPath = rPath.ToWide();
     if (!gIsAbsoluteText(sPath)) {
-        gReplaceAll(sPath, u'\\', u'/');
+        std::ranges::replace(sPath, u'\\', u'/');
         return sPath;
     }
     auto* const pTranslate =

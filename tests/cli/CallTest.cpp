@@ -294,6 +294,12 @@ TEST(Call, WhatIsWrongIsTold)
                   "[integer], [integer]) takes 2 to 7 arguments, not 1"),
             Fails(R"({"fn":"gConcatenatePaths","args":["a",1]})",
                   sPair + R"(: argument 2 isn't a text: a string, or {\"hex\": ...})"),
+            // Of two that are wrong the first is told.
+            Fails(R"({"fn":"gConcatenatePaths","args":[1,2]})",
+                  sPair + R"(: argument 1 isn't a text: a string, or {\"hex\": ...})"),
+            Fails(R"({"fn":"gParseEngineeringText","args":[1,3]})",
+                  "gParseEngineeringText(text, tribool): argument 1 isn't a text: a string, or "
+                  R"({\"hex\": ...})"),
             Fails(R"({"fn":"gConcatenatePaths","args":[{"hex":"8"},"a"]})",
                   sPair +
                       R"(: argument 1 isn't a text: \"hex\" takes pairs of hexadecimal digits)"),
@@ -338,6 +344,26 @@ TEST(Call, WhatIsWrongIsTold)
                   "a format has as many %s as there are texts, at most 4"),
             Gives("gIsQuote", R"("\"")", "true"),
         });
+}
+
+/// A call of gIsQuote with lists within lists. With the object that makes a depth of one more.
+std::string Nested(std::size_t nLists)
+{
+    return R"({"fn":"gIsQuote","args":)" + std::string(nLists, '[') + std::string(nLists, ']') +
+           '}';
+}
+
+TEST(Call, DeeplyNestedLinesAreRefused)
+{
+    const std::string sTooDeep = "the line is nested more than 100 deep";
+    ExpectReplies({}, {
+                          Fails(Nested(99), "gIsQuote(unit): argument 1 isn't a unit: a number "
+                                            "from 0 to 65535, or a string of one character"),
+                          Fails(Nested(100), sTooDeep),
+                          Fails(Nested(100'000), sTooDeep),
+                          Fails(R"({"fn":)" + std::string(100'000, '['), sTooDeep),
+                          Gives("gIsQuote", R"("a")", "false"),
+                      });
 }
 
 TEST(Call, OptionsThatCantBeRead)

@@ -49,6 +49,18 @@ TEST(SessionRequest, SaysWhatIsWrong)
         {"a lone surrogate", R"({"op":"\ud800"})", "the line isn't JSON from byte 14 on"},
         {"a low surrogate alone", R"({"op":"\udc00x"})", "the line isn't JSON from byte 13 on"},
         {"a huge number", R"({"op":1e999})", "the line holds a number that is too big"},
+        {"as deep as may be", R"({"op":)" + std::string(99, '[') + std::string(99, ']') + '}',
+         R"(the member "op" isn't a text)"},
+        {"one deeper", R"({"op":)" + std::string(100, '[') + std::string(100, ']') + '}',
+         "the line is nested more than 100 deep"},
+        {"objects, deep",
+         [] {
+             std::string sLine;
+             for (int n = 0; n < 100'000; ++n)
+                 sLine += R"({"op":)";
+             return sLine;
+         }(),
+         "the line is nested more than 100 deep"},
         {"an array", R"(["state"])", "the line isn't a JSON object"},
         {"a text", R"("state")", "the line isn't a JSON object"},
         {"null", "null", "the line isn't a JSON object"},
@@ -208,8 +220,8 @@ TEST(SessionRequest, ATextIsEncodedInTheCodePage)
 TEST(SessionRequest, SizeDoesNotHurt)
 {
     const std::string sDeep(200000, '[');
-    EXPECT_EQ(ErrorOf(sDeep), "the line isn't JSON from byte 200001 on");
-    EXPECT_EQ(ErrorOf(sDeep + std::string(200000, ']')), "the line isn't a JSON object");
+    EXPECT_EQ(ErrorOf(sDeep), "the line is nested more than 100 deep");
+    EXPECT_EQ(ErrorOf(sDeep + std::string(200000, ']')), "the line is nested more than 100 deep");
     const std::string sLong(1 << 20, 'x');
     EXPECT_EQ(StepOf(R"({"op":"set","field":"a","text":")" + sLong + "\"}").sText, sLong);
     EXPECT_EQ(ErrorOf(R"({"op":")" + sLong + "\"}"),

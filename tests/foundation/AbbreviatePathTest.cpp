@@ -59,4 +59,16 @@ TEST(AbbreviatePath, WithoutTheNameNothingIsLeft)
               "longname.txt");
 }
 
+TEST(AbbreviatePath, AMillionComponents)
+{
+    constexpr int count = 1'000'000;
+    std::u16string sPath = u"C:";
+    for (int n = 0; n < count; ++n) {
+        sPath += u"\\a";
+    }
+    const int nWidth = 2 * count + 1;
+    EXPECT_EQ(gAbbreviatePath(sPath, nWidth, true).GetCharCount(), nWidth - 1);
+    EXPECT_EQ(gAbbreviatePath(sPath, 8, true), "C:\\...\\a");
+}
+
 } // namespace

@@ -76,4 +76,19 @@ TEST(ResolvePath, AnAbsolutePathStandsAlone)
     EXPECT_EQ(gResolvePath("C:\\a", ""), "C:\\a");
 }
 
+TEST(ResolvePath, OnTheUnixSide)
+{
+    const CEnvironmentScope environment(CMapEnvironment::TVariables{{"HOME", "/home"}});
+    const CIsWineScope scope(true);
+    EXPECT_EQ(gResolvePath("/a", "/x/../b"), "/b");
+    EXPECT_EQ(gResolvePath("/a/b", "..\\c"), "/a/c");
+    EXPECT_EQ(gResolvePath("/a", "C:/x/../b"), "C:\\b");
+    EXPECT_EQ(gResolvePath("/a", "\\\\s/h/x"), "\\\\s\\h\\x");
+    EXPECT_EQ(gResolvePath("C:\\a", "b/c"), "C:\\a\\b\\c");
+    EXPECT_EQ(gResolvePath("/a", "\\b"), "/a/b"); // joined: the folder's root is the folder
+    EXPECT_EQ(gResolvePath("/a", "$HOME/b"), "/home/b");
+    EXPECT_EQ(gResolvePath("a\\b", ""), "a/b");
+    EXPECT_EQ(gResolvePath("", "b\\c"), "b/c");
+}
+
 } // namespace

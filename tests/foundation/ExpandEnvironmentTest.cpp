@@ -3,7 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <tuple>
 
 namespace
 {
@@ -135,6 +139,64 @@ TEST(ExpandEnvironment, ManyThatReferToManyComeToAnEnd)
     EXPECT_EQ(gCanonicalizePath("a$V199"), "$V200$V200"); // absolute in the end
     EXPECT_EQ(gCanonicalizePath("a$V198"), "a$V199$V199");
     EXPECT_EQ(gCanonicalizePath("$W0\\$W1").Find("$W29."), 135);
+}
+
+/// An environment in which every variable refers to every other one, and which counts look-ups.
+class CTangledEnvironment final : public IEnvironment
+{
+public:
+    std::optional<std::string> Get(std::string_view sName) const override
+    {
+        ++mnLookups;
+        return sName == "PLAIN" ? "x" : sName == "INNER" ? "$PLAIN" : "$A.$B.$C.$D.$E.$F.$G.$H.$I";
+    }
+    void Set(std::string_view, std::string_view) override {}
+    void Unset(std::string_view) override {}
+
+    mutable int mnLookups = 0;
+};
+
+TEST(ExpandEnvironment, TheLimitIsOneForTheWholePath)
+{
+    const auto pEnvironment = std::make_shared<CTangledEnvironment>();
+    gSetEnvironmentSource(pEnvironment);
+    std::string sPath;
+    for (int n = 0; n < 1000; ++n) {
+        sPath += "$N" + std::to_string(n) + ".";
+    }
+    std::ignore = gCanonicalizePath(sPath);
+    EXPECT_EQ(pEnvironment->mnLookups, 1000 + 10'000);
+    gResetEnvironmentSource();
+}
+
+TEST(ExpandEnvironment, AVariableThatComesAgainIsJudgedOnce)
+{
+    const auto pEnvironment = std::make_shared<CTangledEnvironment>();
+    gSetEnvironmentSource(pEnvironment);
+    std::string sPath;
+    std::string sExpected;
+    for (int n = 0; n < 20'000; ++n) {
+        sPath += "$INNER.";
+        sExpected += "$PLAIN.";
+    }
+    EXPECT_EQ(gCanonicalizePath(sPath), sExpected);
+    EXPECT_EQ(pEnvironment->mnLookups, 20'000 + 1);
+    gResetEnvironmentSource();
+}
+
+TEST(ExpandEnvironment, NamesWithinNamesGoAHundredDeep)
+{
+    // Each even one is absolute if the next even one isn't: that one's value would take the place
+    // of the slash. At the limit the slash stays.
+    for (const int nLast : {96, 100}) {
+        CMapEnvironment::TVariables variables{{"V" + std::to_string(nLast), "/root"}};
+        for (int n = 0; n < nLast; ++n) {
+            variables["V" + std::to_string(n)] =
+                (n % 2 == 0 ? "/p$V" : "q$V") + std::to_string(n + 1);
+        }
+        const CEnvironmentScope scope(variables);
+        EXPECT_EQ(gCanonicalizePath("a\\$V0"), nLast < 100 ? "/p$V1" : "a\\/p$V1") << nLast;
+    }
 }
 
 TEST(ExpandEnvironment, LongTextsOfOpenReferences)

@@ -14,9 +14,12 @@ class CFakeFileSystem final : public IFileSystem
 public:
     std::map<std::u16string, TFileAttributes> mEntries;
     std::map<std::u16string, std::vector<std::u16string>> mFolders; ///< what is enumerated
+    bool mbEnumerationBreaks = false;                               ///< behind what is enumerated
     EFileError meError = EFileError::FileNotFound;                  ///< for a missing path
     int mnMakeError = 0;                                            ///< for a folder to be made
     std::u16string msCurrentFolder;
+    std::u16string msProgramFile;
+    std::u16string msModuleFile;
     std::vector<std::string> mCalls; ///< "find PATH" and so on, in UTF-8
 
     std::optional<TFileAttributes> FindEntry(std::u16string_view sPath) override
@@ -48,7 +51,7 @@ public:
                 break;
             }
         }
-        return true;
+        return !mbEnumerationBreaks;
     }
 
     bool CanAccess(std::u16string_view sPath) override
@@ -69,11 +72,21 @@ public:
 
     std::u16string GetCurrentFolder() override { return msCurrentFolder; }
 
+    bool SetCurrentFolder(std::u16string_view sFolder) override
+    {
+        msCurrentFolder = sFolder;
+        return true;
+    }
+
     std::int64_t GetModificationTime(std::string_view sName) override
     {
         mCalls.push_back("time " + std::string(sName));
         return 1234;
     }
+
+    std::u16string GetProgramFile() override { return msProgramFile; }
+
+    std::u16string GetModuleFile(const void*) override { return msModuleFile; }
 
 private:
     void Note(const char* pCall, std::u16string_view sPath)

@@ -104,7 +104,8 @@ TEST_F(FileChecks, OneClosingSlashGoesInModeZero)
 
 TEST_F(FileChecks, ARootIsEnumerated)
 {
-    for (const char16_t* pRoot : {u"C:\\", u"C:/", u"\\\\s\\h", u"//s/h", u"\\\\s\\h\\", u"/"}) {
+    for (const char16_t* pRoot :
+         {u"C:\\", u"C:/", u"\\\\s\\h", u"//s/h", u"\\\\s\\h\\", u"/", u"\\"}) {
         const CStringU root(pRoot);
         const std::string sCall = "enumerate " + std::string(root.Text());
         EXPECT_FALSE(gDirectoryExists(root));
@@ -115,7 +116,8 @@ TEST_F(FileChecks, ARootIsEnumerated)
         EXPECT_FALSE(gFileExists(root)) << "a root is a folder, whatever is in it";
         EXPECT_THAT(TakeCalls(), ElementsAre(sCall, sCall, sCall, sCall));
     }
-    for (const char* pOther : {"C:", "\\\\s", "\\\\s\\", "\\\\s\\h\\x", "C:\\x"}) {
+    for (const char* pOther :
+         {"C:", "\\\\s", "\\\\s\\", "\\\\s\\h\\x", "C:\\x", "//", "\\\\", "///"}) {
         EXPECT_FALSE(gDirectoryExists(pOther));
         EXPECT_EQ(TakeCalls().front().substr(0, 5), "find ") << pOther;
     }
@@ -171,6 +173,8 @@ TEST(FileChecksOnDisk, InEachMode)
     std::filesystem::create_symlink("file", folder.Name("link"));
     std::filesystem::create_symlink("nothing", folder.Name("dangling"));
     std::filesystem::create_directory(folder.Name("sub"));
+    std::filesystem::create_symlink("sub", folder.Name("sublink"));
+    std::filesystem::create_symlink("/dev/null", folder.Name("nullink"));
     ASSERT_EQ(::mkfifo(folder.Name("pipe").c_str(), 0600), 0);
     for (const bool bIsWine : {false, true}) {
         const CIsWineScope scope(bIsWine);
@@ -178,7 +182,12 @@ TEST(FileChecksOnDisk, InEachMode)
             gSetFileCheckMode(nMode);
             EXPECT_TRUE(gFileExists(folder.Name("file")));
             EXPECT_TRUE(gFileExists(folder.Name("link")));
-            EXPECT_FALSE(gFileExists(folder.Name("dangling")));
+            // Only the standard library asks what is behind a link.
+            EXPECT_EQ(gFileExists(folder.Name("dangling")), nMode != 2) << nMode;
+            EXPECT_FALSE(gDirectoryExists(folder.Name("dangling")));
+            EXPECT_FALSE(gFileExists(folder.Name("sublink")));
+            EXPECT_TRUE(gDirectoryExists(folder.Name("sublink")));
+            EXPECT_FALSE(gFileExists(folder.Name("nullink")));
             EXPECT_FALSE(gFileExists(folder.Name("sub")));
             EXPECT_FALSE(gFileExists(folder.Name("pipe")));
             EXPECT_FALSE(gFileExists(folder.Name("none/x")));
@@ -187,7 +196,10 @@ TEST(FileChecksOnDisk, InEachMode)
             EXPECT_FALSE(gFileExists(""));
             EXPECT_TRUE(gDirectoryExists(folder.Name("sub")));
             EXPECT_TRUE(gDirectoryExists(folder.Name("sub/")));
+            EXPECT_EQ(gDirectoryExists(folder.Name("sub//")), nMode != 0) << nMode;
             EXPECT_TRUE(gDirectoryExists("/"));
+            EXPECT_TRUE(gDirectoryExists("\\")) << nMode;
+            EXPECT_EQ(gDirectoryExists("//"), nMode != 0) << nMode;
             EXPECT_FALSE(gDirectoryExists(folder.Name("file")));
             EXPECT_FALSE(gDirectoryExists("/dev/null"));
             EXPECT_FALSE(gDirectoryExists(folder.Name(std::string(300, 'x'))));
@@ -198,6 +210,14 @@ TEST(FileChecksOnDisk, InEachMode)
     EXPECT_FALSE(gIsDirectoryEmpty(folder.Name("")));
     std::ofstream(folder.Name("sub/one"));
     EXPECT_FALSE(gIsDirectoryEmpty(folder.Name("sub")));
+}
+
+TEST_F(FileChecks, AFolderThatCantBeReadToItsEndIsNotEmpty)
+{
+    mpFiles->mFolders[u"C:\\f"] = {u".", u".."};
+    EXPECT_TRUE(gIsDirectoryEmpty("C:\\f"));
+    mpFiles->mbEnumerationBreaks = true;
+    EXPECT_FALSE(gIsDirectoryEmpty("C:\\f"));
 }
 
 class CreateDirectories : public FileChecks
@@ -254,6 +274,28 @@ TEST_F(CreateDirectories, AFileInTheWayIsTold)
     EXPECT_FALSE(Create("a\\b"));
     EXPECT_EQ(mErrors, "\nFile with the name \"a\" already exists.\n"
                        "\nFile with the name \"a\" already exists.\n");
+}
+
+TEST_F(CreateDirectories, TheModeFallsWithTheFirstFolderThatIsThere)
+{
+    struct Case {
+        int nMode;
+        const char* pFirst;
+    };
+    constexpr Case cases[] = {{3, "find f"}, {4, "attributes f"}, {5, "status f"}};
+    int nMade = 0;
+    for (const Case& rCase : cases) {
+        mpFiles->mEntries[u"f\\g"] = kFolder;
+        TakeCalls();
+        gSetFileCheckMode(rCase.nMode);
+        const std::string sPath = "f\\g\\" + std::to_string(++nMade);
+        EXPECT_TRUE(Create(sPath.c_str()));
+        EXPECT_THAT(TakeCalls(), ElementsAre(rCase.pFirst, "find f\\g", "make " + sPath));
+        EXPECT_EQ(gGetFileCheckMode(), rCase.nMode - 6);
+    }
+    gSetFileCheckMode(4);
+    EXPECT_FALSE(Create("a\\b"));
+    EXPECT_EQ(mErrors, "\nFile with the name \"a\" already exists.\n");
 }
 
 TEST_F(CreateDirectories, AFailureTellsTheSystemsText)

@@ -164,6 +164,12 @@ TEST(ParseModel, RandomTextsAgree)
         ASSERT_EQ(sMessage, expected.bNumber ? "" : "Not a number") << sText;
         ASSERT_EQ(dResult, expected.dResult) << sText;
         ASSERT_EQ(static_cast<std::size_t>(pEnd - sText.c_str()), expected.nUsed) << sText;
+        const std::u16string sWide(sText.begin(), sText.end());
+        double dWide = 99;
+        const char16_t* pWideEnd = nullptr;
+        ASSERT_EQ(gParseEngineering(sWide.c_str(), dWide, &pWideEnd, bUseSi), sMessage) << sText;
+        ASSERT_EQ(dWide, dResult) << sText;
+        ASSERT_EQ(pWideEnd - sWide.c_str(), pEnd - sText.c_str()) << sText;
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -99,6 +100,20 @@ TEST_F(PathLogger, CanBeSetClearedAndAsked)
     EXPECT_TRUE(mLines.empty());
     gSetPathLogger(TPathLogger());
     EXPECT_FALSE(gIsPathLoggerSet());
+}
+
+TEST_F(PathLogger, ThatThrowsHasNoInfluence)
+{
+    gSetPathLogger([this](const CStringU& rLine) {
+        mLines.push_back(rLine);
+        throw std::runtime_error("the log is full");
+    });
+    EXPECT_EQ(gCanonicalizePath("a/b"), "a\\b");
+    EXPECT_EQ(TakeOnlyLine(), "gCanonicalizePath(Path=a/b) returns a\\b");
+    EXPECT_TRUE(gIsAbsolutePath("/a"));
+    EXPECT_TRUE(gIsPathLoggerSet());
+    gSetPathLogger([](const CStringU&) { throw 1; });
+    EXPECT_EQ(gConcatenatePaths("a", "b"), "a\\b");
 }
 
 TEST_F(PathLogger, MayTakeItselfAway)

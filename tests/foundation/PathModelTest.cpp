@@ -1,13 +1,14 @@
+#include "foundation/PathModel.h"
+
 #include "foundation/PathScopes.h"
 #include "foundation/Paths.h"
 #include "foundation/RandomNumbers.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 #include <tuple>
-#include <vector>
+#include <utility>
 
 // Paths of a few characters in any order, against slow models and against what must hold of each.
 
@@ -28,70 +29,38 @@ std::u16string RandomPath(CRandomNumbers& rRandom, int nMost = 14)
     return sPath;
 }
 
-/// The clean form by rewriting: a component and the ".." behind it go, again and again.
-std::u16string ModelClean(std::u16string sPath)
-{
-    std::ranges::replace(sPath, u'\\', u'/');
-    std::size_t nRoot = 0;
-    if (sPath.starts_with(u"//")) {
-        const std::size_t nFirst = sPath.find(u'/', 2);
-        const std::size_t nSecond =
-            nFirst == std::u16string::npos ? nFirst : sPath.find(u'/', nFirst + 1);
-        nRoot = nSecond == std::u16string::npos ? 0 : nSecond;
-    } else if (sPath.size() > 1 && sPath[1] == u':') {
-        nRoot = 2;
-    }
-    const std::u16string sRoot = sPath.substr(0, nRoot);
-    sPath.erase(0, nRoot);
-    const bool bRooted = !sPath.empty() && sPath[0] == u'/';
-    std::vector<std::u16string> parts{u""};
-    for (const char16_t chChar : sPath) {
-        if (chChar == u'/') {
-            parts.emplace_back();
-        } else {
-            parts.back() += chChar;
-        }
-    }
-    std::erase(parts, u"");
-    std::erase(parts, u".");
-    for (bool bChanged = true; bChanged;) {
-        bChanged = false;
-        for (std::size_t n = 0; n < parts.size() && !bChanged; ++n) {
-            if (parts[n] != u"..") {
-                continue;
-            }
-            if (n > 0 && parts[n - 1] != u"..") {
-                parts.erase(parts.begin() + static_cast<long>(n) - 1,
-                            parts.begin() + static_cast<long>(n) + 1);
-                bChanged = true;
-            } else if (n == 0 && bRooted) {
-                parts.erase(parts.begin());
-                bChanged = true;
-            }
-        }
-    }
-    std::u16string sClean = sRoot + (bRooted ? u"/" : u"");
-    for (std::size_t n = 0; n < parts.size(); ++n) {
-        sClean += (n == 0 ? u"" : u"/") + parts[n];
-    }
-    return sClean;
-}
+const CPathModel::TVariables kVariables{
+    {u"X", u"x"},       {u"A", u"/a"},           {u"R", u"\\r"},       {u"D", u"C:\\d"},
+    {u"H", u"//s/h/x"}, {u"S", u"$S\\${T}"},     {u"T", u"%A%\\t/.."}, {u"U", u"a${R}%U%"},
+    {u"E", u""},        {u"a", u"b/../"},        {u"a}", u"%X%$T"},    {u"V", u"$V$W$X"},
+    {u"W", u"${V}x$D"}, {u"b\\a", u"\\\\s\\$H"}, {u"\u00E9", u"$A"},
+};
 
-std::u16string ModelCanonical(const std::u16string& rsPath)
+/// A path that may begin with a root and has references and quotes.
+std::u16string RandomMixedPath(CRandomNumbers& rRandom)
 {
-    std::u16string sClean = ModelClean(rsPath);
-    std::ranges::replace(sClean, u'/', u'\\');
-    const bool bDrive = sClean.size() > 2 && sClean[1] == u':' && sClean[2] == u'\\';
-    if (gIsWine() && !bDrive && !sClean.starts_with(u"\\\\")) {
-        std::ranges::replace(sClean, u'\\', u'/');
+    static const std::u16string roots[] = {u"",      u"C:\\",     u"C:",           u"/",  u"\\",
+                                           u"//s/h", u"\\\\s\\h", u"\\\\server\\", u"\"", u"'"};
+    static const std::u16string pieces[] = {
+        u"/",    u"\\",   u"/",    u"\\",   u"..",   u".", u"a", u"A",     u"b",  u":",
+        u"$",    u"%",    u"{",    u"}",    u"${",   u"X", u"E", u"$A",    u"$S", u"%T%",
+        u"${U}", u"${a}", u"%b\\", u"${V}", u"$W\\", u"%", u"_", u"\u00E9"};
+    std::u16string sPath = roots[rRandom.Int(9)];
+    const int nMost = rRandom.Flag() ? 9 : 27; // without references, or with them
+    for (int nLength = rRandom.Int(10); nLength > 0; --nLength) {
+        sPath += pieces[rRandom.Int(nMost)];
     }
-    return sClean;
+    if (sPath.starts_with(u'"') || sPath.starts_with(u'\'')) {
+        sPath += sPath.front();
+    }
+    return sPath;
 }
 
 /// Runs a check on random paths under both rules.
-template <class TCheck> void ForRandomPaths(std::uint64_t nSeed, TCheck check)
+template <class TCheck>
+void ForRandomPaths(std::uint64_t nSeed, TCheck check, CMapEnvironment::TVariables variables = {})
 {
-    const CEnvironmentScope environment({});
+    const CEnvironmentScope environment(std::move(variables));
     CRandomNumbers random(nSeed);
     for (int nRound = 0; nRound < kRounds; ++nRound) {
         const CIsWineScope scope(random.Flag());
@@ -104,11 +73,93 @@ template <class TCheck> void ForRandomPaths(std::uint64_t nSeed, TCheck check)
 
 TEST(PathModel, CanonicalPaths)
 {
-    ForRandomPaths(1, [](CRandomNumbers& rRandom) {
+    const CPathModel model({});
+    ForRandomPaths(1, [&model](CRandomNumbers& rRandom) {
         const std::u16string sPath = RandomPath(rRandom);
         const CStringU canonical = gCanonicalizePath(sPath);
-        ASSERT_EQ(canonical.Stored(), CStringU(ModelCanonical(sPath)).Stored())
+        ASSERT_EQ(canonical.Stored(), CStringU(model.Canonical(sPath)).Stored())
             << CStringU(sPath).Text();
+    });
+}
+
+std::string Utf8(const std::u16string& rsText)
+{
+    return std::string(CStringU(rsText).Text());
+}
+
+/// The variables of the model as those of the process.
+CMapEnvironment::TVariables Environment()
+{
+    CMapEnvironment::TVariables variables;
+    for (const auto& [sName, sValue] : kVariables) {
+        variables[Utf8(sName)] = Utf8(sValue);
+    }
+    return variables;
+}
+
+/// Runs a check on two random paths with the variables of the model.
+template <class TCheck> void ForRandomPairs(std::uint64_t nSeed, TCheck check)
+{
+    ForRandomPaths(
+        nSeed,
+        [&check](CRandomNumbers& rRandom) {
+            const std::u16string sLeft = RandomMixedPath(rRandom);
+            // Half of the pairs have a beginning in common.
+            const std::u16string sRight =
+                rRandom.Flag() ? RandomMixedPath(rRandom)
+                               : sLeft.substr(0, static_cast<std::size_t>(rRandom.Int(12))) +
+                                     RandomMixedPath(rRandom);
+            check(sLeft, sRight);
+        },
+        Environment());
+}
+
+/// How a failure tells of a pair.
+std::string Told(const std::u16string& rsLeft, const std::u16string& rsRight)
+{
+    return Utf8(rsLeft) + " , " + Utf8(rsRight) + (gIsWine() ? " on the Unix side" : "");
+}
+
+TEST(PathModel, CanonicalPathsWithVariables)
+{
+    const CPathModel model(kVariables);
+    ForRandomPairs(11, [&model](const std::u16string& rsPath, const std::u16string&) {
+        ASSERT_EQ(gCanonicalizePath(rsPath), CStringU(model.Canonical(rsPath))) << Told(rsPath, {});
+        ASSERT_EQ(gIsAbsolutePath(rsPath), model.IsAbsolute(rsPath)) << Told(rsPath, {});
+        ASSERT_EQ(gIsUnixStylePath(rsPath), CPathModel::IsUnixStyle(rsPath)) << Told(rsPath, {});
+    });
+}
+
+TEST(PathModel, JoinedPaths)
+{
+    const CPathModel model(kVariables);
+    ForRandomPairs(12, [&model](const std::u16string& rsLeft, const std::u16string& rsRight) {
+        ASSERT_EQ(gConcatenatePaths(rsLeft, rsRight), CStringU(model.Join(rsLeft, rsRight)))
+            << Told(rsLeft, rsRight);
+        ASSERT_EQ(gResolvePath(rsLeft, rsRight), CStringU(model.Resolve(rsLeft, rsRight)))
+            << Told(rsLeft, rsRight);
+    });
+}
+
+TEST(PathModel, RelativeNames)
+{
+    const CPathModel model(kVariables);
+    ForRandomPairs(13, [&model](const std::u16string& rsLeft, const std::u16string& rsRight) {
+        ASSERT_EQ(gGetRelativeFileName(rsLeft, rsRight), CStringU(model.Relative(rsLeft, rsRight)))
+            << Told(rsLeft, rsRight);
+    });
+}
+
+TEST(PathModel, ShortenedPaths)
+{
+    ForRandomPaths(14, [](CRandomNumbers& rRandom) {
+        const std::u16string sPath = RandomMixedPath(rRandom);
+        const int nWidth = rRandom.Int(20);
+        const bool bKeepName = rRandom.Flag();
+        ASSERT_EQ(
+            gAbbreviatePath(sPath, nWidth, bKeepName),
+            CStringU(CPathModel::Abbreviate(sPath, static_cast<std::size_t>(nWidth), bKeepName)))
+            << Told(sPath, {}) << nWidth;
     });
 }
 

@@ -93,6 +93,18 @@ TEST(PathParts, MoreExtensions)
     EXPECT_EQ(gSetExtension("a.b", u"\u00E9").Stored(), CStringU(u"a.\u00E9").Stored());
 }
 
+TEST(PathParts, MalformedTextComesOutWellFormed)
+{
+    const CStringU cut("\xC3", TTextKind::Plain); // a character without its second byte
+    for (const CStringU& rMade :
+         {gSetExtension(cut, "x"), gEnsureExtension(cut, "x"), gSetExtension("a", cut),
+          gEnsureExtension("a", cut), gGetFileNameWithoutPath(cut + "\\" + cut),
+          gGetExtension("a." + cut), gGetFileTitle(cut + ".x")}) {
+        EXPECT_EQ(rMade.Stored(), CStringU(rMade.ToWide()).Stored());
+    }
+    EXPECT_EQ(gEnsureExtension(cut, "x").Stored(), gSetExtension(cut, "x").Stored());
+}
+
 TEST(PathsEqual, SeparatorsAndCase)
 {
     struct Case {

@@ -49,6 +49,9 @@ TEST(RelativeFileName, UnderThePlainRules)
         {"\\\\s\\h\\a\\b", "\\\\s\\h\\c\\d", "..\\..\\c\\d"},
         {"\\\\s\\h\\a", "\\\\s\\i\\b", "\\\\s\\i\\b"},
         {"\\\\s\\h", "\\\\s\\h\\b", "b"},
+        // A long name of a server alone isn't enough: four slashes in common are wanted.
+        {"\\\\server\\h\\a", "\\\\server\\i\\b", "\\\\server\\i\\b"},
+        {"\\\\server\\h\\a", "\\\\server\\h\\b", "..\\b"},
         // One letter for the server and none for the share: too short to be one.
         {"\\\\s\\\\a", "\\\\s\\\\b", "\\\\s\\\\b"},
         {"/a/b", "/a/c", "/a/c"},

@@ -90,6 +90,25 @@ TEST(StringUNoCaseTest, EveryPairOfAsciiCharactersInsideALongText)
     }
 }
 
+TEST(StringUNoCaseTest, TheFirstDifferenceDecidesAtEveryPlaceOfEveryLength)
+{
+    for (int nLength = 1; nLength <= 100; ++nLength) {
+        const std::string sLeft(static_cast<std::size_t>(nLength), 'm');
+        const std::string sCapitals(static_cast<std::size_t>(nLength), 'M');
+        EXPECT_EQ(CompareNoCase(sLeft, sCapitals), 0) << nLength;
+        EXPECT_LT(CompareNoCase(sLeft, sCapitals + "a"), 0) << nLength;
+        for (std::size_t nAt = 0; nAt < sLeft.size(); ++nAt) {
+            std::string sRight = sCapitals;
+            sRight.back() = 'A';
+            sRight[nAt] = 'Z';
+            EXPECT_LT(CompareNoCase(sLeft, sRight), 0) << nLength << ' ' << nAt;
+            CStringU sAccent(sLeft.substr(0, nAt));
+            sAccent += u'\u00e9';
+            EXPECT_LT(CompareNoCase(sLeft, sAccent), 0) << nLength << ' ' << nAt;
+        }
+    }
+}
+
 TEST(StringUNoCaseTest, EveryUnitIsTheSameAsItsSmallLetter)
 {
     for (int nUnit = 1; nUnit < 0x10000; ++nUnit) {
@@ -190,14 +209,14 @@ TEST(StringUNoCaseTest, RandomTextsCompareByTheirUnits)
 {
     CRandomText random(4);
     for (int nRound = 0; nRound < kRandomRounds; ++nRound) {
-        const std::u16string sLeft = random.Text(20);
+        const std::u16string sLeft = random.Text(nRound % 4 == 0 ? 120 : 20);
         std::u16string sRight = sLeft;
         if (random.Number(3) == 0)
             sRight = random.Text(20);
         for (char16_t& rchUnit : sRight) {
             if (random.Number(4) == 0)
                 rchUnit = static_cast<char16_t>(model::Lower(rchUnit));
-            if (random.Number(30) == 0)
+            if (random.Number(nRound % 4 == 0 ? 200 : 30) == 0)
                 rchUnit = random.Unit();
         }
         ASSERT_EQ(Sign(CompareNoCase(sLeft, sRight)), CompareByUnits(sLeft, sRight))

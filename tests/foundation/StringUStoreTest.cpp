@@ -271,6 +271,9 @@ TEST(StringUStoreTest, AppendedUtf8MayBeCutInsideACharacter)
     sEmpty.AppendUtf8("");
     sEmpty.AppendUtf8("\xC3\xA9");
     EXPECT_EQ(sEmpty.Stored(), "\xC3\xA9");
+    CStringU sStray;
+    sStray.AppendUtf8("\x80z"); // a byte of its own, and no marker either
+    EXPECT_EQ(sStray.Stored(), "\x80\x80z");
 }
 
 TEST(StringUStoreTest, BytesOfAFileComeBackAndAreStoredInOneWay)

@@ -11,6 +11,7 @@
 #include <fstream>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -23,6 +24,27 @@ TEST(ProgramPaths, OfThisProgram)
     const std::string sFolder = std::filesystem::path(sProgram).parent_path().string();
     EXPECT_EQ(gGetExecutableFolder(), CStringU(sFolder));
     EXPECT_EQ(gGetModuleFolder(), CStringU(sFolder));
+}
+
+TEST(ProgramPaths, ComeOutOfABufferOf2096Characters)
+{
+    const CPathStateScope state;
+    const auto pFiles = std::make_shared<CFakeFileSystem>();
+    gSetFileSystem(pFiles);
+    const std::u16string sFits = u"/f/" + std::u16string(2092, u'\u00E9');
+    pFiles->msProgramFile = sFits;
+    pFiles->msModuleFile = sFits + u'x';
+    EXPECT_EQ(gGetExecutablePath(), CStringU(sFits));
+    EXPECT_EQ(gGetExecutableFolder(), "/f");
+    EXPECT_EQ(gGetModulePath(), "");
+    EXPECT_EQ(gGetModuleFolder(), "");
+    std::swap(pFiles->msProgramFile, pFiles->msModuleFile);
+    EXPECT_EQ(gGetExecutablePath(), "");
+    EXPECT_EQ(gGetExecutableFolder(), "");
+    EXPECT_EQ(gGetModulePath(), CStringU(sFits));
+    EXPECT_EQ(gGetModuleFolder(), "/f");
+    pFiles->msModuleFile.clear(); // the system can't tell
+    EXPECT_EQ(gGetModulePath(), "");
 }
 
 TEST(CurrentDirectory, InBothForms)

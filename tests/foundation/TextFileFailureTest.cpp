@@ -8,12 +8,15 @@
 #include <gtest/gtest.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
 #include <cstring>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace
 {
@@ -50,6 +53,24 @@ private:
     rlimit mOld{};
     void (*mOldHandler)(int) = nullptr;
 };
+
+TEST(TextFileFailureTest, AnErrorThatTheSystemTellsWhenClosingIsKept)
+{
+    const CTempFolder folder;
+    const std::string sName = folder.Write("file", "abc\n");
+    TTextFile file;
+    ASSERT_TRUE(file.Open(CStringU(sName), CFile::modeRead, nullptr));
+    for (const auto& rEntry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code ignored;
+        if (std::filesystem::read_symlink(rEntry.path(), ignored) == sName) {
+            ::close(std::stoi(rEntry.path().filename().string()));
+            break;
+        }
+    }
+    file.Close();
+    EXPECT_EQ(file.GetLastErrorText(), WriteError(sName, EBADF));
+    EXPECT_FALSE(file.IsOpen());
+}
 
 TEST(TextFileFailureTest, AFullDiskIsToldWhenTheBufferIsWrittenOut)
 {

@@ -72,6 +72,42 @@ TEST(TextFileMemoryTest, AnEmptyTextGetsTheMark)
     EXPECT_EQ(wide.ReadAll(), u"a\u00e9\n");
 }
 
+// The byte 0x80 is also the marker of a CStringU, and begins texts in some encodings.
+TEST(TextFileMemoryTest, NoByteIsLostThatReadsAsTheMarker)
+{
+    struct Case {
+        std::string_view sName;
+        TTextEncoding encoding;
+        std::string_view sBytes;
+        CStringU sLine;
+    };
+    const Case cases[] = {
+        {"UTF-16", EncodingUtf16, "\x80\x4E"sv, u"\u4e80"},
+        {"UTF-16, high byte first", EncodingUtf16BigEndian, "\x80\x00"sv, u"\u8000"},
+        {"malformed UTF-8", EncodingUtf8, "a\x80"sv, CStringU("a\x80", TTextKind::Utf8)},
+    };
+    for (const Case& rCase : cases) {
+        CStringU sText;
+        TTextFile file(rCase.encoding, &sText, "");
+        file.Write(rCase.sBytes.data(), static_cast<unsigned>(rCase.sBytes.size()));
+        file.Flush();
+        EXPECT_EQ(sText.Text(), rCase.sBytes) << rCase.sName;
+        EXPECT_EQ(file.GetLength(), rCase.sBytes.size()) << rCase.sName;
+        file.Seek(0, CFile::begin);
+        CStringU sLine;
+        EXPECT_TRUE(file.ReadLine(sLine));
+        EXPECT_EQ(sLine, rCase.sLine) << rCase.sName;
+    }
+    CStringU sText("abc");
+    TTextFile file(EncodingUtf8, &sText, "");
+    file.Write("\x80\x81", 2);
+    file.Flush();
+    EXPECT_EQ(sText.Text(), "\x80\x81"
+                            "c");
+    file.SetLength(1);
+    EXPECT_EQ(sText.Text(), "\x80");
+}
+
 TEST(TextFileMemoryTest, WritesInTheMiddleReplaceAsManyBytes)
 {
     struct Case {

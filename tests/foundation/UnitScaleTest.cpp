@@ -84,7 +84,7 @@ TEST(UnitScale, EverySuffixOfTheTable)
         {-3, "m", "m", "m"},  {0, " ", " ", " "},   {3, "k", "k", "k"},  {6, "M", "X", "MEG"},
         {9, "G", "G", "G"},   {12, "T", "T", "T"},  {15, "P", "", ""},   {18, "E", "", ""},
         {21, "Z", "", ""},    {24, "Y", "", ""},    {27, "", "", ""},    {-324, "", "", ""},
-        {306, "", "", ""},
+        {306, "", "", ""},    {kLeast, "", "", ""}, {kMost, "", "", ""},
     };
     const auto suffix = [](TeUnitScale eScale, int nExponent) {
         return gGetUnitSuffix(eScale, nExponent).value_or("");

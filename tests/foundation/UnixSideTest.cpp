@@ -207,9 +207,23 @@ TEST_F(UnixSide, TheFileChecksLookAtTheDosForm)
 {
     const auto pFiles = std::make_shared<CFakeFileSystem>();
     gSetFileSystem(pFiles);
-    gSetFileCheckMode(3);
-    EXPECT_FALSE(gFileExists("/a"));
-    EXPECT_EQ(pFiles->mCalls.back(), "find Z:/a");
+    pFiles->mEntries[u"Z:/f"] = {.mbDirectory = true};
+    pFiles->mEntries[u"Z:/a"] = {};
+    const char* const calls[] = {"find Z:/", "attributes Z:/", "status Z:/"};
+    for (const int nMode : {3, 4, 5}) {
+        const std::string sCall = calls[nMode - 3];
+        gSetFileCheckMode(nMode);
+        EXPECT_TRUE(gFileExists("/a"));
+        EXPECT_EQ(pFiles->mCalls.back(), sCall + "a");
+        EXPECT_EQ(gGetFileCheckMode(), nMode);
+        EXPECT_TRUE(gDirectoryExists("/f"));
+        EXPECT_EQ(pFiles->mCalls.back(), sCall + "f");
+        EXPECT_EQ(gGetFileCheckMode(), nMode - 6);
+        gSetFileCheckMode(nMode);
+        EXPECT_FALSE(gDirectoryExists("/a"));
+        EXPECT_FALSE(gFileExists("/f")); // the Unix form, now that the mode has fallen
+        EXPECT_EQ(pFiles->mCalls.back(), "find /f");
+    }
 }
 
 } // namespace

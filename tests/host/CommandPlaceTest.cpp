@@ -48,10 +48,10 @@ struct TInsertion {
 };
 
 const std::vector<TInsertion> kInsertions{
-    {"into nothing", "|", ".op", ".op|"},
+    {"into nothing: below the title", "|", ".op", "\n.op|"},
     {"an empty line is taken", "a\n|\nb", ".op", "a\n.op|\nb"},
     {"the empty last line is taken", "a\n|", ".op", "a\n.op|"},
-    {"an empty first line is taken", "|\na", ".op", ".op|\na"},
+    {"an empty first line is the title", "|\na", ".op", "\n.op|\na"},
     {"in the middle of a line: below it", "R1 a| b 1k\n.end", ".op", "R1 a b 1k\n.op|\n.end"},
     {"at the start of a line: below it", "|title\n.end", ".op", "title\n.op|\n.end"},
     {"at the end of a line: below it", "title|\n.end", ".op", "title\n.op|\n.end"},
@@ -75,6 +75,15 @@ const std::vector<TInsertion> kInsertions{
      "R1 a\n\n+ b\n.op|\n.end"},
     {"a comment behind a statement isn't part of it", "R1 a|\n* c\nR2 b", ".op",
      "R1 a\n.op|\n* c\nR2 b"},
+    {"at .end: in front of it", "t\na\n.en|d\n", ".op", "t\na\n.op|\n.end\n"},
+    {"at .end: into the empty line in front of it", "t\n\n.end|", ".op", "t\n.op|\n.end"},
+    {"behind .end: in front of it", "t\na\n .END x\n\n|", ".op", "t\na\n.op|\n .END x\n\n"},
+    {"all of a netlist: in front of .end", "[t\na\n.end\n]", ".op", "t\na\n.op|\n.end\n"},
+    {"in front of .end a statement stays whole", "t\nR1 a\n+ b\n.end|", ".op",
+     "t\nR1 a\n+ b\n.op|\n.end"},
+    {"another netlist begins behind .end", "t\n.end\nu|", ".op", "t\n.end\nu\n.op|"},
+    {"the end of a subcircuit is none", "t\n.ends|\n", ".op", "t\n.ends\n.op|\n"},
+    {"a title that says .end", ".end|", ".op", ".end\n.op|"},
     {"characters of two units", "\xF0\x9D\x9B\x80|x\ny", ".op", "\xF0\x9D\x9B\x80x\n.op|\ny"},
 };
 
@@ -133,7 +142,7 @@ TEST(CommandPlace, WhatIsTypedBeforeAndBehindIsAStepOfItsOwn)
     edit.InsertCommand(QStringLiteral(".temp 27"));
     edit.textCursor().insertText(QStringLiteral("y"));
     edit.undo();
-    EXPECT_EQ(edit.Text(), QStringLiteral(".temp 27"));
+    EXPECT_EQ(edit.Text(), QStringLiteral("\n.temp 27"));
 }
 
 TEST(CommandPlace, AnEmptyCommandChangesNothing)

@@ -3,6 +3,7 @@
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
 #include "platform/qt/QtDesktop.h"
+#include "quorvahost/NetlistFile.h"
 #include "quorvahost/WizardAlone.h"
 #include "quorvahost/tour/WizardUser.h"
 #include "support/Unprivileged.h"
@@ -10,11 +11,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QFileInfo>
 #include <QKeySequence>
+#include <QMessageBox>
+#include <QWindow>
+#include <csignal>
 #include <functional>
 #include <vector>
 
@@ -56,6 +62,17 @@ TEST(OutputSink, SaysWhyItCanNotPrint)
     EXPECT_EQ(ErrorOf([&sink] { sink.InsertCommand(".op"); }),
               "can't write to standard output: No space left on device");
     std::fclose(pFull);
+
+    const auto before = std::signal(SIGPIPE, SIG_IGN);
+    int ends[2] = {};
+    ASSERT_EQ(::pipe(ends), 0);
+    ASSERT_EQ(::close(ends[0]), 0); // nobody reads
+    std::FILE* const pPipe = ::fdopen(ends[1], "w");
+    COutputSink toNobody(pPipe);
+    EXPECT_EQ(ErrorOf([&toNobody] { toNobody.InsertCommand(".op"); }),
+              "can't write to standard output: Broken pipe");
+    std::fclose(pPipe);
+    std::signal(SIGPIPE, before);
 }
 
 struct TFileCase {
@@ -78,6 +95,9 @@ TEST(FileSink, AddsLinesWithTheFilesOwnLineEnds)
          "a\n",
          "\xEF\xBB\xBF"
          "a\n.x 1\n+ 2\n.op\n"},
+        {"nothing but a byte order mark", "\xEF\xBB\xBF",
+         "\xEF\xBB\xBF"
+         ".x 1\n+ 2\n.op\n"},
     };
     for (const TFileCase& rCase : cases) {
         SCOPED_TRACE(rCase.pName);
@@ -93,6 +113,46 @@ TEST(FileSink, AddsLinesWithTheFilesOwnLineEnds)
     }
 }
 
+TEST(FileSink, FollowsTheLineEndsOfWhoeverWroteLast)
+{
+    const CFileFolder folder;
+    const QString sPath = folder.Path("a.cir");
+    CFileSink sink(sPath);
+    folder.Write("a.cir", "* another program\r\n");
+    sink.InsertCommand(".op");
+    EXPECT_EQ(CFileFolder::Read(sPath), "* another program\r\n.op\r\n");
+}
+
+TEST(FileSink, ReadsALargeFileOnce)
+{
+    const CFileFolder folder;
+    const QString sPath = folder.Write("a.cir", "* a\n");
+    CFileSink sink(sPath);
+    // More than is ever read; a hole, no byte of it is on the disk.
+    ASSERT_TRUE(QFile::resize(sPath, kLargestFile + 1));
+    EXPECT_NO_THROW(sink.InsertCommand(".op"));
+    EXPECT_EQ(QFileInfo(sPath).size(), kLargestFile + 1 + 5);
+}
+
+TEST(AnySink, TakesNoEmptyCommand)
+{
+    const CFileFolder folder;
+    const QString sOutput = folder.Path("out");
+    std::FILE* const pStream = std::fopen(sOutput.toLocal8Bit(), "w");
+    ASSERT_NE(pStream, nullptr);
+    COutputSink output(pStream);
+    output.InsertCommand("");
+    std::fclose(pStream);
+    EXPECT_EQ(CFileFolder::Read(sOutput), "");
+    CFileSink file(folder.Path("a.cir"));
+    file.InsertCommand("");
+    EXPECT_FALSE(QFileInfo::exists(folder.Path("a.cir")));
+    CClipboardSink clipboard;
+    clipboard.InsertCommand(".op");
+    clipboard.InsertCommand("");
+    EXPECT_EQ(QApplication::clipboard()->text(), ".op");
+}
+
 TEST(FileSink, SaysAtTheStartThatTheFileCanNotBeWritten)
 {
     const CFileFolder folder;
@@ -101,6 +161,9 @@ TEST(FileSink, SaysAtTheStartThatTheFileCanNotBeWritten)
     };
     EXPECT_THAT(errorOf(folder.Path()), HasSubstr("Is a directory"));
     EXPECT_THAT(errorOf(folder.Path("no/a.cir")), HasSubstr("No such file or directory"));
+    folder.Write("file", "");
+    EXPECT_THAT(errorOf(folder.Path("file/a.cir")), HasSubstr("Not a directory"));
+    EXPECT_THAT(errorOf(folder.Path("file/b/a.cir")), HasSubstr("Not a directory"));
     EXPECT_THAT(errorOf(folder.Write("mixed.cir", "a\nb\r\n")), HasSubstr("mixed line ends"));
     const QString sReadOnly = folder.Write("readonly.cir", "a\n");
     ASSERT_EQ(::chmod(folder.Path().toLocal8Bit(), 0755), 0);
@@ -147,21 +210,45 @@ TEST(WizardAlone, AppendsWhatTheUserInserts)
     EXPECT_NO_THROW(user.RethrowFailure());
 }
 
-TEST(WizardAlone, EndsWithAMessageWhenACommandCanNotBeWritten)
+TEST(WizardAlone, TellsOfACommandThatCanNotBeWrittenAndStaysOpen)
 {
     const CFileFolder folder;
     QtDesktop desktop(folder.Path("profile.ini"));
-    const QString sPath = folder.Write("a.cir", "* a\n");
+    const QString sPath = folder.Path("a.cir");
+    const std::string sMessage = "an't write to \"" + sPath.toStdString() + "\": Is a directory";
     CWizardUser user;
     user.Meet([&](QWidget& rWizard) {
-        folder.Write("a.cir", "a\nb\r\n");
         user.InsertTemperature(rWizard, "27");
+        ASSERT_TRUE(QFile::remove(sPath));
+        ASSERT_TRUE(QDir().mkdir(sPath));
+        user.Meet([&](QWidget& rBox) {
+            auto* const pBox = qobject_cast<QMessageBox*>(&rBox);
+            ASSERT_NE(pBox, nullptr);
+            EXPECT_EQ(pBox->text().toStdString(), 'C' + sMessage + '.');
+            EXPECT_EQ(pBox->windowHandle()->transientParent(), rWizard.windowHandle());
+            user.Press(QKeySequence(Qt::Key_Return));
+        });
+        user.Press(QKeySequence(Qt::ALT | Qt::Key_I));
+        EXPECT_TRUE(user.HasMetAll());
+        EXPECT_TRUE(rWizard.isVisible());
+        ASSERT_TRUE(QDir().rmdir(sPath));
+        user.Press(QKeySequence(Qt::ALT | Qt::Key_I));
+        EXPECT_EQ(CFileFolder::Read(sPath), ".temp 27\n");
+        user.Press(QKeySequence(Qt::Key_Escape));
     });
     testing::internal::CaptureStderr();
     EXPECT_EQ(gRunWizardAlone({EHostTask::Wizard, ECommandSink::File, sPath}), 1);
-    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("mixed line ends"));
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("quorvahost: c" + sMessage));
     EXPECT_NO_THROW(user.RethrowFailure());
-    EXPECT_EQ(CFileFolder::Read(sPath), "a\nb\r\n");
+}
+
+TEST(WizardAlone, DoesNotOpenForATargetThatCanNotTakeACommand)
+{
+    const CFileFolder folder;
+    QtDesktop desktop(folder.Path("profile.ini"));
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(gRunWizardAlone({EHostTask::Wizard, ECommandSink::File, folder.Path()}), 1);
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("Is a directory"));
 }
 
 TEST(WizardAlone, PrintsToStandardOutput)

@@ -23,8 +23,10 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QTest>
 #include <QUrl>
 #include <memory>
+#include <optional>
 
 namespace quorvawiz::host
 {
@@ -306,6 +308,42 @@ TEST_F(HostWindow, AFileThatIsDroppedOpens)
     QApplication::sendEvent(pPlace, &drop);
     CUser::Settle();
     EXPECT_EQ(Edit().Text(), QStringLiteral("dropped"));
+}
+
+/// Tells whether a file has been open already when a widget was painted for the first time.
+class CPaintWatch : public QObject
+{
+public:
+    explicit CPaintWatch(CHostWindow& rWindow) : mrWindow(rWindow)
+    {
+        rWindow.Edit().viewport()->installEventFilter(this);
+    }
+    std::optional<bool> mbWasOpen;
+
+protected:
+    bool eventFilter(QObject*, QEvent* pEvent) override
+    {
+        if (pEvent->type() == QEvent::Paint && !mbWasOpen)
+            mbWasOpen = !mrWindow.Path().isEmpty();
+        return false;
+    }
+
+private:
+    CHostWindow& mrWindow;
+};
+
+TEST_F(HostWindow, IsPaintedBeforeItReadsItsFile)
+{
+    CHostWindow window(mDesktop);
+    CPaintWatch watch(window);
+    window.OpenFileOnceShown(mFolder.Write("a.cir", "* a"));
+    CUser::Settle();
+    EXPECT_EQ(window.Path(), QString());
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    CUser::Settle();
+    EXPECT_EQ(watch.mbWasOpen, false);
+    EXPECT_EQ(window.Edit().Text(), QStringLiteral("* a"));
 }
 
 TEST_F(HostWindow, FindsByKeys)

@@ -1,3 +1,4 @@
+#include "host/CloseRequest.h"
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
 #include "platform/qt/QtDesktop.h"
@@ -80,7 +81,7 @@ TEST_F(HostWizard, ClosingTheHostEndsTheWizardFirst)
     InWizard([this](QWidget& rWizard) {
         mUser.InsertTemperature(rWizard, "27");
         mpWindow->Edit().document()->setModified(false);
-        EXPECT_FALSE(mpWindow->close());
+        gRequestClose(*mpWindow);
         EXPECT_TRUE(mpWindow->isVisible());
     });
     EXPECT_FALSE(mpWindow->isVisible());
@@ -91,7 +92,7 @@ TEST_F(HostWizard, UnsavedWorkIsAskedAboutOnceTheWizardHasEnded)
 {
     mUser.Meet([this](QWidget& rWizard) {
         mUser.InsertTemperature(rWizard, "27");
-        mpWindow->close();
+        gRequestClose(*mpWindow);
     });
     mUser.Meet([this](QWidget&) {
         EXPECT_TRUE(mDesktop.Thread().mModalRuns.empty());
@@ -99,7 +100,7 @@ TEST_F(HostWizard, UnsavedWorkIsAskedAboutOnceTheWizardHasEnded)
     });
     mUser.Press(QKeySequence(Qt::CTRL | Qt::Key_I));
     EXPECT_TRUE(mpWindow->isVisible());
-    EXPECT_EQ(mpWindow->Edit().Text(), QStringLiteral(".temp 27"));
+    EXPECT_EQ(mpWindow->Edit().Text(), QStringLiteral("\n.temp 27"));
 }
 
 TEST_F(HostWizard, ClosingTheHostEndsABoxOfTheWizardToo)
@@ -107,7 +108,7 @@ TEST_F(HostWizard, ClosingTheHostEndsABoxOfTheWizardToo)
     InWizard([this](QWidget& rWizard) {
         mUser.Meet([this](QWidget& rBox) {
             EXPECT_TRUE(rBox.isVisible());
-            mpWindow->close();
+            gRequestClose(*mpWindow);
         });
         mUser.InsertTemperature(rWizard, ""); // "Missing temperature value."
     });

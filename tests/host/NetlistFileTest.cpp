@@ -69,11 +69,11 @@ TEST(NetlistFile, KeepsPermissionsAndLinks)
 TEST(NetlistFile, WhatCanNotBeReadSaysWhy)
 {
     const CFileFolder folder;
-    EXPECT_EQ(FaultOfReading(folder.Path("gone.cir")), "Can't open \"" +
+    EXPECT_EQ(FaultOfReading(folder.Path("gone.cir")), "can't open \"" +
                                                            folder.Path("gone.cir").toStdString() +
-                                                           "\": No such file or directory.");
+                                                           "\": No such file or directory");
     EXPECT_EQ(FaultOfReading(folder.Path()),
-              "Can't open \"" + folder.Path().toStdString() + "\": Is a directory.");
+              "can't open \"" + folder.Path().toStdString() + "\": Is a directory");
     EXPECT_THAT(FaultOfReading(QStringLiteral("/dev/zero")), HasSubstr("isn't a regular file"));
     EXPECT_THAT(FaultOfReading(folder.Write("mixed.cir", "a\nb\r\n")),
                 HasSubstr("mixed.cir\": line 2, byte 2: mixed line ends"));

@@ -92,6 +92,10 @@ TEST(NetlistText, WhatIsRefusedSaysWhere)
         {"a paragraph separator", "a\xE2\x80\xA9",
          "line 1, byte 2: a character that an editor can't keep"},
         {"U+FDD0", "\xEF\xB7\x90", "line 1, byte 1: a character that an editor can't keep"},
+        {"a long line", "a\n" + QByteArray(kLongestLine + 1, 'x') + "\n",
+         "line 2, byte 1: a line of more than 1000000 bytes"},
+        {"a long line at the end", QByteArray(kLongestLine + 1, 'x'),
+         "line 1, byte 1: a line of more than 1000000 bytes"},
         {"U+FDD1", "\n\xEF\xB7\x91", "line 2, byte 1: a character that an editor can't keep"},
     };
     for (const TBadCase& rCase : cases) {
@@ -101,6 +105,13 @@ TEST(NetlistText, WhatIsRefusedSaysWhere)
         ASSERT_NE(pFault, nullptr);
         EXPECT_EQ(pFault->Message(), rCase.pMessage);
     }
+}
+
+TEST(NetlistText, TheLongestLineMayHaveAnyEnd)
+{
+    const QByteArray line(kLongestLine, 'x');
+    for (const QByteArray& rBytes : {line, line + "\n", line + "\r\n" + line + "\r\n"})
+        EXPECT_TRUE(std::holds_alternative<TNetlistText>(gDecodeNetlist(rBytes)));
 }
 
 TEST(NetlistText, AnyBytesAreWrittenBackOrRefused)

@@ -8,10 +8,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
+#include <QTabWidget>
+#include <QTableWidget>
 #include <string>
 
 namespace
@@ -115,5 +120,52 @@ TEST(ClippedTextProof, WhatHasTooLittleRoomIsFound)
                 testing::ElementsAre(testing::HasSubstr("QLabel"),
                                      testing::HasSubstr("beyond its parent"),
                                      testing::HasSubstr("QPushButton '' is too small")));
+}
+
+TEST(ClippedTextProof, WhatHasToBeScrolledIsFound)
+{
+    QWidget window;
+    window.resize(400, 300);
+    QTabWidget tabs(&window);
+    QListWidget list(&window);
+    QTableWidget table(1, 1, &window);
+    tabs.addTab(new QWidget, QStringLiteral("A tab of some length"));
+    tabs.addTab(new QWidget, QStringLiteral("Another one"));
+    list.addItem(QStringLiteral("An entry of some length"));
+    table.setHorizontalHeaderLabels({QStringLiteral("A heading of some length")});
+    table.setColumnWidth(0, 300);
+    tabs.setGeometry(0, 0, 400, 50);
+    list.setGeometry(0, 60, 300, 50);
+    table.setGeometry(0, 120, 350, 60);
+    window.show();
+    EXPECT_THAT(gFindClippedText(window), testing::IsEmpty());
+    tabs.resize(100, 50);
+    list.resize(60, 50);
+    table.setColumnWidth(0, 60);
+    QCoreApplication::processEvents();
+    const auto findings = gFindClippedText(window);
+    for (const char* const pWhat : {"has arrows", "QListWidget '' has to be scrolled to the side",
+                                    "QHeaderView '' cuts a heading"})
+        EXPECT_THAT(findings, testing::Contains(testing::HasSubstr(pWhat)));
+}
+
+TEST(ClippedTextProof, ATextOverAnotherOneIsFound)
+{
+    QWidget window;
+    window.resize(300, 200);
+    QGroupBox group(QStringLiteral("A group"), &window);
+    QLabel label(QStringLiteral("A label"), &window);
+    QLineEdit edit(&window);
+    group.setGeometry(0, 0, 300, 200);
+    label.setGeometry(10, 50, 200, 20);
+    edit.setGeometry(100, 50, 100, 25); // over the label's empty end
+    window.show();
+    EXPECT_THAT(gFindClippedText(window), testing::IsEmpty());
+    label.move(10, 0);
+    EXPECT_THAT(gFindClippedText(window),
+                testing::ElementsAre(testing::HasSubstr("QGroupBox '' lies over QLabel ''")));
+    label.move(90, 50);
+    EXPECT_THAT(gFindClippedText(window),
+                testing::ElementsAre(testing::HasSubstr("QLabel '' lies over QLineEdit ''")));
 }
 } // namespace

@@ -12,13 +12,18 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
+#include <QTest>
+#include <QWheelEvent>
+#include <QWindow>
 
 // Every kind of control in a real window. The player compares window and model after each input.
 
@@ -248,7 +253,7 @@ TEST(ControlWindow, WhatHandlersWriteShowsAtOnce)
         rPlayer.Do({"click name", "type a", "type b"});
         rPlayer.Then("look", [&] {
             EXPECT_EQ(WidgetOf<QTableView>(rDialog, kCells).columnWidth(0), 30);
-            EXPECT_EQ(WidgetOf<QTableView>(rDialog, kCells).columnWidth(1), 60);
+            EXPECT_EQ(WidgetOf<QTableView>(rDialog, kCells).columnWidth(1), 70);
         });
     });
 }
@@ -325,6 +330,71 @@ TEST(ControlWindow, TheDefaultButtonLooksIt)
             EXPECT_FALSE(WidgetOf<QPushButton>(rDialog, IDCANCEL).isDefault());
             EXPECT_FALSE(WidgetOf<QPushButton>(rDialog, IDCANCEL).autoDefault());
         });
+    });
+}
+
+TEST(ControlWindow, AnEmptyClipboardPastesNothing)
+{
+    LookInto([](CSampleDialog& rDialog, CPlayer& rPlayer) {
+        rPlayer.Do({"click notes", "type a"});
+        rPlayer.Then("empty the clipboard", [] {
+            QGuiApplication::clipboard()->clear(QClipboard::Clipboard);
+            if (QGuiApplication::clipboard()->supportsSelection())
+                QGuiApplication::clipboard()->clear(QClipboard::Selection);
+        });
+        for (const char* pField : {"click name", "click notes"})
+            rPlayer.Do({pField, "press Ctrl+V"});
+        rPlayer.Then("click the middle button", [&] {
+            QWidget& rNotes = *gWidgetOf(*rDialog.GetDlgItem(kNotes));
+            QTest::mouseClick(rNotes.window()->windowHandle(), Qt::MiddleButton, Qt::NoModifier,
+                              rNotes.mapTo(rNotes.window(), rNotes.rect().center()));
+        });
+        rPlayer.Then("look", [&] { EXPECT_EQ(rDialog.GetDlgItem(kNotes)->GetWindowText(), "a"); });
+    });
+}
+
+TEST(ControlWindow, ATextIsPastedToTheLetter)
+{
+    LookInto([](CSampleDialog& rDialog, CPlayer& rPlayer) {
+        rPlayer.Do({"click notes"});
+        rPlayer.Then("fill the clipboard", [] {
+            auto* const pData = new QMimeData;
+            pData->setData(QStringLiteral("text/markdown"), "# *a*");
+            pData->setText(QStringLiteral("# *a*\nb"));
+            QGuiApplication::clipboard()->setMimeData(pData);
+        });
+        rPlayer.Do({"press Ctrl+V"});
+        rPlayer.Then("look",
+                     [&] { EXPECT_EQ(rDialog.GetDlgItem(kNotes)->GetWindowText(), "# *a*\r\nb"); });
+    });
+}
+
+/// Turns the wheel over a widget, one step down.
+void TurnWheel(QWidget& rWidget)
+{
+    const QPoint place = rWidget.rect().center();
+    QWheelEvent event(place, rWidget.mapToGlobal(place), {}, {0, -120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&rWidget, &event);
+}
+
+TEST(ControlWindow, TheWheelTurnsAListOnlyWithTheKeyboardOnIt)
+{
+    LookInto([](CSampleDialog& rDialog, CPlayer& rPlayer) {
+        for (const int nId : {kShape, kColour}) {
+            const auto turn = [&rDialog, nId] { TurnWheel(WidgetOf<QComboBox>(rDialog, nId)); };
+            rPlayer.Do({"click name"});
+            rPlayer.Then("select", [&rDialog, nId] { rDialog.Get<CComboBox>(nId).SetCurSel(0); });
+            rPlayer.Then("turn", turn);
+            rPlayer.Then("look", [&rDialog, nId] {
+                EXPECT_EQ(rDialog.Get<CComboBox>(nId).GetCurSel(), 0);
+                EXPECT_EQ(CWnd::GetFocus(), rDialog.GetDlgItem(kName));
+                gWidgetOf(*rDialog.GetDlgItem(nId))->setFocus();
+            });
+            rPlayer.Then("turn", turn);
+            rPlayer.Then(
+                "look", [&rDialog, nId] { EXPECT_EQ(rDialog.Get<CComboBox>(nId).GetCurSel(), 1); });
+        }
     });
 }
 } // namespace

@@ -113,6 +113,48 @@ TEST_F(FileDialogWindow, AFileIsOpened)
     });
 }
 
+TEST_F(FileDialogWindow, AFileThatDoesNotExistIsOpenedUnlessItMust)
+{
+    CPlayer player;
+    player.Do({"type new.cir", "press Return"});
+    player.Play([&] {
+        const TFileChoice choice = gChooseFile(Request(true));
+        EXPECT_EQ(choice.end, TFileChoice::EEnd::Chosen);
+        EXPECT_EQ(choice.sPath, Utf8(mFolder.filePath(QStringLiteral("new.cir"))).constData());
+    });
+    CPlayer strict;
+    strict.Do({"type new.cir", "press Return"});
+    strict.Then("answer", [] {
+        EXPECT_TRUE(QApplication::activeModalWidget()->inherits("QMessageBox"));
+        gInput("press Return");
+    });
+    strict.Do({"press Escape"});
+    strict.Play([&] {
+        TFileDialog request = Request(true);
+        request.nFlags |= OFN_FILEMUSTEXIST;
+        EXPECT_EQ(gChooseFile(request).end, TFileChoice::EEnd::Cancelled);
+    });
+}
+
+TEST_F(FileDialogWindow, AFolderThatDoesNotExistKeepsTheDialogOpenIfItMust)
+{
+    CPlayer player;
+    player.Do({"type none/new.cir", "press Return"});
+    player.Then("answer", [] {
+        EXPECT_TRUE(QApplication::activeModalWidget()->inherits("QMessageBox"));
+        gInput("press Return");
+    });
+    player.Do({"press Escape"});
+    player.Play([&] { EXPECT_EQ(gChooseFile(Request(true)).end, TFileChoice::EEnd::Cancelled); });
+    CPlayer lenient;
+    lenient.Do({"type none/new.cir", "press Return"});
+    lenient.Play([&] {
+        TFileDialog request = Request(true);
+        request.nFlags = 0;
+        EXPECT_EQ(gChooseFile(request).end, TFileChoice::EEnd::Chosen);
+    });
+}
+
 TEST_F(FileDialogWindow, EscapeCancels)
 {
     CPlayer player;

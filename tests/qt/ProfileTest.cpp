@@ -21,12 +21,29 @@ TEST(Profile, ValuesLive)
         QtDesktop desktop(sFile);
         for (const auto& [pEntry, pValue] : kValues)
             EXPECT_TRUE(desktop.WriteProfile("Section", pEntry, pValue)) << pEntry;
+        EXPECT_TRUE(desktop.WriteProfile("", "Path", "/of/no/section"));
     }
     QtDesktop desktop(sFile);
     for (const auto& [pEntry, pValue] : kValues)
         EXPECT_EQ(desktop.ReadProfile("Section", pEntry), CString(pValue)) << pEntry;
+    EXPECT_EQ(desktop.ReadProfile("", "Path"), CString("/of/no/section"));
     EXPECT_EQ(desktop.ReadProfile("Section", "Never"), std::nullopt);
     EXPECT_EQ(desktop.ReadProfile("Other", "Path"), std::nullopt);
+}
+
+TEST(Profile, ASectionMayHaveNoName)
+{
+    const QTemporaryDir folder;
+    const QString sFile = folder.filePath(QStringLiteral("profile.ini"));
+    {
+        QtDesktop desktop(sFile);
+        EXPECT_TRUE(desktop.WriteProfile("", "MRPATH", "/tmp/a.lib"));
+        EXPECT_TRUE(desktop.WriteProfile("General", "MRPATH", "another"));
+    }
+    QtDesktop desktop(sFile);
+    EXPECT_EQ(desktop.ReadProfile("", "MRPATH"), CString("/tmp/a.lib"));
+    EXPECT_EQ(desktop.ReadProfile("General", "MRPATH"), CString("another"));
+    EXPECT_EQ(desktop.ReadProfile("", "Never"), std::nullopt);
 }
 
 TEST(Profile, AValueThatCannotBeWrittenIsToldOf)

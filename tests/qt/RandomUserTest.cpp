@@ -119,6 +119,8 @@ private:
         else if (nKind == 1)
             QTest::mouseClick(rWindow.windowHandle(), Qt::LeftButton, Qt::ControlModifier,
                               position);
+        else if (nKind == 4)
+            QTest::mouseClick(rWindow.windowHandle(), Qt::MiddleButton, Qt::NoModifier, position);
         else if (nKind == 2)
             Drag(rWindow, position);
         else

@@ -1,6 +1,7 @@
 #include "qt/Visits.h"
 
 #include "exports/Quorvawiz.h"
+#include "platform/headless/TreePath.h"
 #include "platform/ui/Button.h"
 #include "platform/ui/ComboBox.h"
 #include "platform/ui/FieldView.h"
@@ -13,8 +14,10 @@
 #include "wizard/frame/WizardPages.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <deque>
 #include <utility>
+#include <vector>
 
 namespace
 {
@@ -59,12 +62,33 @@ private:
     std::deque<CPlayer::TTurn> mTurns;
 };
 
-/// Looks at a drop-down list's window with each of its entries.
+/// The drop-down lists that the user sees in the dialog in front.
+std::vector<CComboBox*> ShownCombos()
+{
+    std::vector<CComboBox*> combos;
+    for (const TFieldView& rField : gCollectFields(gCurrentPane(gFrontDialog())))
+        if (auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl);
+            pCombo && pCombo->IsWindowVisible())
+            combos.push_back(pCombo);
+    return combos;
+}
+
+/// Looks at a drop-down list's window with each of its entries, and with those of the lists that an
+/// entry brings forth.
 void AddEntries(CVisit& rVisit, const std::string& rsName, CComboBox& rCombo)
 {
     for (int i = 0; i < rCombo.GetCount(); ++i) {
-        rVisit.Add([&rCombo, i] { rCombo.UserSelect(i); });
-        rVisit.AddLook(rsName + "-" + rCombo.GetLBText(i).GetString());
+        const std::string sName = rsName + "-" + rCombo.GetLBText(i).GetString();
+        rVisit.Add([&rVisit, sName, &rCombo, i] {
+            const auto before = ShownCombos();
+            rCombo.UserSelect(i);
+            rVisit.Insert([&] {
+                for (CComboBox* const pCombo : ShownCombos())
+                    if (std::ranges::find(before, pCombo) == before.end())
+                        AddEntries(rVisit, sName, *pCombo);
+            });
+        });
+        rVisit.AddLook(sName);
     }
     rVisit.Add([&rCombo] { rCombo.UserSelect(0); });
 }
@@ -73,11 +97,14 @@ void AddEntries(CVisit& rVisit, const std::string& rsName, CComboBox& rCombo)
 void AddChoices(CVisit& rVisit, const std::string& rsName)
 {
     for (const TFieldView& rField : gCollectFields(gCurrentPane(gFrontDialog()))) {
-        if (auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl))
+        auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl);
+        if (pCombo && pCombo->IsWindowVisible())
             AddEntries(rVisit, rsName, *pCombo);
         for (CButton* const pRadio : rField.radios) {
             rVisit.Add([pRadio] { pRadio->UserClick(); });
-            rVisit.AddLook(rsName + "-" + std::string(rField.sKey));
+            CString sLabel = pRadio->GetWindowText();
+            sLabel.Remove('&');
+            rVisit.AddLook(rsName + "-" + sLabel.GetString());
         }
     }
 }
@@ -87,7 +114,7 @@ void AddNode(CVisit& rVisit, HTREEITEM hNode)
     rVisit.Add([&rVisit, hNode] {
         auto& rTree = const_cast<CTreeCtrl&>(gOpenWizard().GetTree());
         rTree.UserSelect(hNode);
-        const std::string sName = rTree.GetItemText(hNode).GetString();
+        const std::string sName = gTreePathOf(rTree, hNode);
         rVisit.Insert([&rVisit, sName] {
             rVisit.AddLook(sName);
             AddChoices(rVisit, sName);

@@ -11,7 +11,8 @@ using TLook = std::function<void(const std::string& rsName, QWidget& rWindow)>;
 // Visits show windows one after the other in every state that choices bring about. The current
 // desktop is a QtDesktop.
 
-/// The wizard on each node of its tree; on a page, each entry of each list and each radio button.
+/// The wizard on each node of its tree, under the node's path; on a page, each entry of each list
+/// and each radio button, whose text follows behind a hyphen.
 void gVisitWizard(const TLook& rLook);
 
 /// Each page that no node leads to, in the dialog of its own, as `gVisitWizard` shows the others.

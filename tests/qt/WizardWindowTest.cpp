@@ -8,8 +8,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFontDatabase>
-#include <QPlainTextEdit>
+#include <QMenu>
+#include <QTest>
 #include <QTreeWidget>
+#include <QWindow>
 
 namespace
 {
@@ -83,6 +85,82 @@ TEST_F(WizardWindow, KeysAloneInsertACommand)
               (std::vector<std::string>{".temp 0 27 85", ".temp 0 27 85", ".temp 0 27 85 100"}));
 }
 
+struct TKeysCase {
+    const char* pCategory;
+    const char* pPage;
+    std::vector<std::string> inputs;
+    std::string sLine;
+};
+
+const TKeysCase kSourcesByKeys[] = {
+    {"Current source",
+     "Constant",
+     {"press Alt+C", "type 1", "press Tab", "type a", "press Alt+D", "type 5m", "press Alt+M",
+      "type 1", "press Tab", "type 90"},
+     "I1 a GND 5m AC 1 90"},
+    {"Voltage source",
+     "Pulse",
+     {"press Alt+V", "type clk", "press Alt+P", "type c", "press Alt+E", "type 5", "press Alt+A",
+      "type 2n", "press Alt+O", "type 1p", "press Alt+D", "type 0"},
+     "Vclk c GND dc 0 PULSE (0 5 2n) ROUND=1p"},
+    {"Voltage source",
+     "Piecewise linear",
+     {"press Alt+V", "type w", "press Alt+P", "type in", "press Alt+C", "type 0 0", "press Return",
+      "type 1n 5", "press Alt+R", "type 1p", "press Alt+M", "type 1", "press Alt+H", "type 90"},
+     "Vw in GND PWL (0 0 1n 5) ROUND=1p AC 1 90"},
+    {"Voltage source",
+     "Sinusoidal",
+     {"press Alt+V", "type s", "press Alt+P", "type in", "press Alt+E", "type 1", "press Alt+F",
+      "type 1k", "press Alt+S", "type 45"},
+     "Vs in GND SIN (0 1 1k 0 0 45)"},
+    {"Current source",
+     "Exponential",
+     {"press Alt+C", "type e", "press Alt+P", "type a", "press Alt+T", "type 0", "press Alt+E",
+      "type 1m", "press Alt+O", "type 1n", "press Alt+L", "type 5n"},
+     "Ie a GND EXP (0 1m 0 1n 5n)"},
+    {"Voltage source",
+     "FM",
+     {"press Alt+V", "type f", "press Alt+P", "type a", "press Alt+E", "type 1", "press Alt+A",
+      "type 1meg", "press Alt+O", "type 5", "press Alt+S", "type 1k"},
+     "Vf a GND SFFM (0 1 1meg 5 1k)"},
+    {"Current source",
+     "Bit",
+     {"press Alt+C", "type 1", "press Alt+P", "type a", "press Alt+B", "type 0110", "press Alt+G",
+      "type 5n"},
+     "I1 a GND BIT ({0110} ht=5n)"},
+    {"Voltage source",
+     "Bus",
+     {"press Alt+V", "type b", "press Tab", "type data", "press Alt+B", "type 1010", "press Alt+D",
+      "type 2n"},
+     "Vb data GND BUS ({1010} delay=2n)"},
+    {"Current source",
+     "Current-controlled",
+     {"press Alt+C", "type 1", "press Alt+P", "type a", "press Alt+O", "type v1", "press Alt+L",
+      "press Alt+Y", "type 0", "press Return", "type 1", "press Alt+T", "type v2"},
+     "F1 a GND POLY(2) v1 v2 0 1"},
+    {"Voltage source",
+     "Voltage-controlled",
+     {"press Alt+V", "type q", "press Alt+O", "type a", "press Alt+P", "press Alt+C", "type c",
+      "press Alt+Y", "type 0 1 1", "press Alt+G", "type d"},
+     "Eq a GND POLY(2) c GND d GND 0 1 1"},
+};
+
+TEST_F(WizardWindow, KeysAloneFillInASourceOfEachKind)
+{
+    for (const TKeysCase& rCase : kSourcesByKeys) {
+        SCOPED_TRACE(rCase.pPage);
+        CPlayer player;
+        player.Then("walk to the category", [&rCase] { WalkTo("Down", rCase.pCategory); });
+        player.Do({"press Right"});
+        player.Then("walk to the page", [&rCase] { WalkTo("Down", rCase.pPage); });
+        player.Do(rCase.inputs).Do({"press Alt+I", "press Escape"});
+        Play(player);
+        ASSERT_FALSE(mTarget.mCommands.empty());
+        EXPECT_EQ(mTarget.mCommands.back(), rCase.sLine);
+    }
+    EXPECT_EQ(mTarget.mCommands.size(), std::size(kSourcesByKeys));
+}
+
 TEST_F(WizardWindow, EnterInTheTreeInserts)
 {
     CPlayer player;
@@ -99,10 +177,22 @@ TEST_F(WizardWindow, TheMouseAloneReachesThePageAndCloses)
 {
     CPlayer player;
     player.Do({"branch tree@Settings", "click tree@Temperature", "click temperature-list"});
-    // What a mouse can bring in is a text from elsewhere: the context menu's "Paste".
-    player.Then("paste", [] {
+    // What a mouse can bring in is a text from elsewhere.
+    player.Then("open the context menu", [] {
         QGuiApplication::clipboard()->setText(QStringLiteral("0 27 85"));
-        dynamic_cast<QPlainTextEdit&>(*gFrontWidget("temperature-list")).paste();
+        const QWidget& rField = *gFrontWidget("temperature-list");
+        QTest::mouseClick(rField.window()->windowHandle(), Qt::RightButton, Qt::NoModifier,
+                          rField.mapTo(rField.window(), rField.rect().center()));
+    });
+    player.Then("click on Paste", [] {
+        auto* const pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(pMenu);
+        for (QAction* const pAction : pMenu->actions())
+            if (pAction->objectName() == QStringLiteral("edit-paste")) {
+                gClickAt(*pMenu, pMenu->actionGeometry(pAction).center());
+                return;
+            }
+        FAIL() << "the menu has no Paste";
     });
     player.Do({"click insert", "click close"});
     Play(player);

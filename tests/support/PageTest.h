@@ -8,7 +8,9 @@
 /// `using NoisePage = PageTest;` gives the tests of a page their name.
 class PageTest : public testing::Test
 {
+public:
+    ~PageTest() override { CRememberedBase::ResetAll(); }
+
 protected:
     PageTest() { CRememberedBase::ResetAll(); }
-    ~PageTest() override { CRememberedBase::ResetAll(); }
 };

@@ -52,7 +52,8 @@ void PrintTo(const TProgramRun& rRun, std::ostream* pOut)
           << rRun.sError;
 }
 
-TProgramRun gRunQuorvawiz(const std::vector<std::string>& rArguments, const std::string& rsInput)
+TProgramRun gRunProgram(const std::string& rsProgram, const std::vector<std::string>& rArguments,
+                        const std::string& rsInput)
 {
     CTemporaryFile in;
     CTemporaryFile out;
@@ -65,7 +66,7 @@ TProgramRun gRunQuorvawiz(const std::vector<std::string>& rArguments, const std:
     posix_spawn_file_actions_adddup2(&actions, out.Handle(), STDOUT_FILENO);
     posix_spawn_file_actions_adddup2(&actions, error.Handle(), STDERR_FILENO);
 
-    std::string sProgram = QUORVAWIZ_CLI_PATH;
+    std::string sProgram = rsProgram;
     std::vector<std::string> words = rArguments;
     std::vector<char*> argv{sProgram.data()};
     for (std::string& rsWord : words)
@@ -74,10 +75,15 @@ TProgramRun gRunQuorvawiz(const std::vector<std::string>& rArguments, const std:
 
     pid_t child = 0;
     const int nFailed =
-        posix_spawn(&child, sProgram.c_str(), &actions, nullptr, argv.data(), environ);
+        posix_spawnp(&child, sProgram.c_str(), &actions, nullptr, argv.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
     int nStatus = 0;
     if (nFailed != 0 || waitpid(child, &nStatus, 0) != child)
         throw std::runtime_error("can't run " + sProgram);
     return {out.Read(), error.Read(), WIFEXITED(nStatus) ? WEXITSTATUS(nStatus) : -1};
+}
+
+TProgramRun gRunQuorvawiz(const std::vector<std::string>& rArguments, const std::string& rsInput)
+{
+    return gRunProgram(QUORVAWIZ_CLI_PATH, rArguments, rsInput);
 }

@@ -16,6 +16,14 @@ struct TProgramRun {
 /// Prints the run where a test fails.
 void PrintTo(const TProgramRun& rRun, std::ostream* pOut);
 
+/// Runs a program and waits for its end.
+/// @param rsProgram its path, or its name to be found on the PATH
+/// @param rArguments what follows the program's name
+/// @param rsInput its standard input
+/// Throws std::runtime_error if it can't be started.
+TProgramRun gRunProgram(const std::string& rsProgram, const std::vector<std::string>& rArguments,
+                        const std::string& rsInput = {});
+
 /// Runs the command line and waits for its end.
 /// @param rArguments what follows the program's name
 /// @param rsInput its standard input

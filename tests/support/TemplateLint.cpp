@@ -88,12 +88,34 @@ void LintNames(const DialogTemplate& rTemplate, TFindings& rFindings)
     }
 }
 
+using TLabels = std::map<int, const TControlRow*>;
+
+/// A field that shares the label of `pBefore`, the row before it, or null.
+void LintSharedLabel(const TControlRow& rRow, const TControlRow* pBefore, const TLabels& rLabels,
+                     TFindings& rFindings)
+{
+    const auto label = rLabels.find(pBefore ? LabelOf(pBefore->nId) : 0);
+    if (label == rLabels.end())
+        rFindings.push_back(Name(rRow) + " has no label to share in front of it");
+    else if (CanBeVisibleTogether(*pBefore, rRow) || pBefore->rect.x != rRow.rect.x ||
+             pBefore->rect.y != rRow.rect.y)
+        rFindings.push_back(Name(rRow) + " isn't in the place of " + Name(*pBefore));
+    else if (label->second->nLayers != 0 && (label->second->nLayers & rRow.nLayers) != rRow.nLayers)
+        rFindings.push_back(Name(rRow) + " isn't always shown with the label it shares");
+}
+
 void LintLabels(const DialogTemplate& rTemplate, TFindings& rFindings)
 {
-    std::map<int, const TControlRow*> labels; // those in front of the row at hand
+    TLabels labels; // those in front of the row at hand
+    const TControlRow* pBefore = nullptr;
     for (const TControlRow& rRow : rTemplate.rows) {
         if (rRow.kind == EControl::Label)
             labels[rRow.nId] = &rRow;
+        if ((rRow.nFlags & kSharesLabel) != 0) {
+            LintSharedLabel(rRow, pBefore, labels, rFindings);
+            continue;
+        }
+        pBefore = &rRow;
         const bool bUnlabelled = (rRow.nFlags & kUnlabelled) != 0;
         bool bLabelled = *rRow.pLabel != 0;
         if (gIsInput(rRow.kind)) {

@@ -11,6 +11,7 @@
 #include "wizard/frame/CommandPage.h"
 #include "wizard/frame/TreeDlg.h"
 #include "wizard/frame/WizardPages.h"
+#include "wizard/setup/BrowseLibraryAndSectionDialog.h"
 
 #include <gtest/gtest.h>
 
@@ -49,6 +50,7 @@ TTemplates AllTemplates()
     TTemplates templates = PageTemplates();
     templates.push_back(&CFrame().GetTemplate());
     templates.push_back(&CStepSweepPage().GetTemplate());
+    templates.push_back(&CBrowseLibraryAndSectionDialog("", "").GetTemplate());
     return templates;
 }
 
@@ -134,6 +136,17 @@ constexpr TControlRow Radio(int nId, const char* pKey, int nTop, unsigned nFlags
 const TControlRow kEdit = Row(1, "name", EControl::Edit, "", {0, 20, 60, 13});
 const TControlRow kEditLabel = LabelFor(kEdit, "&Name:", {0, 0, 60, 9});
 
+constexpr TControlRow OnLayer(TControlRow row, unsigned nLayers)
+{
+    row.nLayers = nLayers;
+    return row;
+}
+
+constexpr TControlRow SharingEdit(TRect rect, unsigned nLayers)
+{
+    return Row(2, "other", EControl::Edit, "", rect, kSharesLabel, nLayers);
+}
+
 const TCase kCases[] = {
     {"a label and its edit", {kEditLabel, kEdit}, {}},
     {"an id twice",
@@ -163,6 +176,22 @@ const TCase kCases[] = {
     {"an edit declared without a label",
      {Row(1, "name", EControl::Edit, "", {0, 20, 60, 13}, kUnlabelled)},
      {}},
+    {"a field in the place of another one, under its label",
+     {kEditLabel, OnLayer(kEdit, kOneLayer), SharingEdit({0, 20, 60, 30}, kOtherLayer)},
+     {}},
+    {"a shared label that isn't there",
+     {SharingEdit({0, 20, 60, 13}, kOtherLayer)},
+     {"'other' (2) has no label to share in front of it"}},
+    {"a field beside the one whose label it shares",
+     {kEditLabel, OnLayer(kEdit, kOneLayer), SharingEdit({70, 20, 20, 13}, kOtherLayer)},
+     {"'other' (2) isn't in the place of 'name' (1)"}},
+    {"a field that is shown together with the one whose label it shares",
+     {kEditLabel, OnLayer(kEdit, kOneLayer), SharingEdit({0, 20, 60, 13}, kOneLayer)},
+     {"'other' (2) isn't in the place of 'name' (1)", "'name' (1) and 'other' (2) overlap"}},
+    {"a shared label that is hidden with the other field",
+     {OnLayer(kEditLabel, kOneLayer), OnLayer(kEdit, kOneLayer),
+      SharingEdit({0, 20, 60, 13}, kOtherLayer)},
+     {"'other' (2) isn't always shown with the label it shares"}},
     {"a button without a text",
      {Row(1, "b", EControl::PushButton, "", {0, 0, 20, 14})},
      {"'b' (1) has no label in front of it"}},

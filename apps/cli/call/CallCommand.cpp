@@ -12,8 +12,10 @@
 #include <exception>
 #include <iostream>
 #include <memory>
+#include <span>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace quorvawiz::cli
 {
@@ -30,11 +32,13 @@ TJson Answer(const std::string& rsLine)
                                 gDidYouMean(sMember, known));
     if (!call.contains("fn") || !call["fn"].is_string())
         throw CRequestError("the member \"fn\" isn't there or isn't the name of a function");
-    const TJson arguments = call.value("args", TJson::array());
-    if (!arguments.is_array())
-        throw CRequestError("the member \"args\" isn't a list");
-    const std::vector<TJson> list(arguments.begin(), arguments.end());
-    return gCall(gFindCall(call["fn"].get<std::string>()), list);
+    std::span<const TJson> arguments;
+    if (const auto args = call.find("args"); args != call.end()) {
+        if (!args->is_array())
+            throw CRequestError("the member \"args\" isn't a list");
+        arguments = args->get_ref<const TJson::array_t&>();
+    }
+    return gCall(gFindCall(call["fn"].get<std::string>()), arguments);
 }
 
 TJson Reply(const std::string& rsLine)

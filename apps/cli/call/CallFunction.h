@@ -8,6 +8,8 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -61,21 +63,31 @@ template <class T> std::string_view NameOf()
         return kArgumentName<T>;
 }
 
-template <class R, class... Arguments, std::size_t... Indices>
-TCallFunction Bind(std::string sName, R (*pFunction)(Arguments...), std::index_sequence<Indices...>)
+/// Reads all arguments. The braces see to it that the first one is read first, so that of two wrong
+/// ones the first is told.
+template <class... Arguments, std::size_t... Indices>
+std::tuple<Arguments...> ReadAll([[maybe_unused]] std::span<const TJson> arguments,
+                                 std::index_sequence<Indices...>)
+{
+    return std::tuple<Arguments...>{ReadAt<Arguments>(arguments, Indices)...};
+}
+
+template <class R, class... Arguments>
+TCallFunction Bind(std::string sName, R (*pFunction)(Arguments...))
 {
     constexpr std::size_t required =
         (std::size_t{0} + ... + (TIsOptional<std::decay_t<Arguments>>::value ? 0 : 1));
     return {std::move(sName),
             {NameOf<std::decay_t<Arguments>>()...},
             required,
-            [pFunction]([[maybe_unused]] std::span<const TJson> arguments) {
+            [pFunction](std::span<const TJson> arguments) {
+                auto values = ReadAll<std::decay_t<Arguments>...>(
+                    arguments, std::index_sequence_for<Arguments...>());
                 if constexpr (std::is_void_v<R>) {
-                    pFunction(ReadAt<std::decay_t<Arguments>>(arguments, Indices)...);
+                    std::apply(pFunction, std::move(values));
                     return TJson();
                 } else {
-                    return gToResult(
-                        pFunction(ReadAt<std::decay_t<Arguments>>(arguments, Indices)...));
+                    return gToResult(std::apply(pFunction, std::move(values)));
                 }
             }};
 }
@@ -88,7 +100,7 @@ TCallFunction Bind(std::string sName, R (*pFunction)(Arguments...), std::index_s
 template <class R, class... Arguments>
 TCallFunction gCallable(std::string sName, R (*pFunction)(Arguments...))
 {
-    return detail::Bind(std::move(sName), pFunction, std::index_sequence_for<Arguments...>());
+    return detail::Bind(std::move(sName), pFunction);
 }
 
 /// The same for a lambda without captures.

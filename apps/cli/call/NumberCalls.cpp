@@ -12,7 +12,7 @@ using TCode = std::optional<int>;
 
 int CodeOf(const TCode& rCode)
 {
-    return rCode.value_or(kNoFormatOption);
+    return rCode.value_or(TFormatOption::None);
 }
 
 std::string FormatOptions(double dValue, unsigned nDigits, TCode code1, TCode code2, TCode code3,

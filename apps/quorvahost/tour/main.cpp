@@ -1,6 +1,7 @@
 #include "platform/base/IsWine.h"
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/HostWindow.h"
+#include "quorvahost/StartApplication.h"
 #include "quorvahost/tour/Tour.h"
 
 #include <QApplication>
@@ -42,7 +43,7 @@ QPalette DarkPalette()
 int main(int nCount, char** pArguments)
 {
     gSetIsWine(true);
-    const QApplication application(nCount, pArguments);
+    const auto pApplication = gStartApplication("quorvahost-tour", nCount, pArguments);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     const bool bDark = arguments.value(2) == QStringLiteral("dark");
     if (arguments.size() != (bDark ? 3 : 2)) {

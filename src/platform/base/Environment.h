@@ -47,7 +47,7 @@ void gSetEnvironment(std::string_view sName, std::string_view sValue);
 void gUnsetEnvironment(std::string_view sName);
 
 /// Puts a source in the place of the current one, for the whole process.
-/// @param pSource the new source; null for the environment of the process
+/// @param pSource the new source; null as gResetEnvironmentSource
 void gSetEnvironmentSource(std::shared_ptr<IEnvironment> pSource);
 
 /// Goes back to the environment of the process, the source at the start.

@@ -7,6 +7,7 @@
 namespace
 {
 
+/// The current one, unguarded.
 std::shared_ptr<IFileSystem>& Slot()
 {
     static std::shared_ptr<IFileSystem> pCurrent = std::make_shared<CPosixFileSystem>();

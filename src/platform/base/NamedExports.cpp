@@ -13,6 +13,7 @@ public:
     void FreeHeapBlock(void*) override {}
 };
 
+/// The current one, unguarded.
 std::shared_ptr<INamedExports>& Slot()
 {
     static std::shared_ptr<INamedExports> pCurrent = std::make_shared<CNoExports>();

@@ -29,6 +29,7 @@ public:
 /// The current table. On a system without the other side it finds nothing.
 [[nodiscard]] std::shared_ptr<INamedExports> gGetNamedExports();
 
-/// Puts a table in the place of the current one, for the whole process.
+/// Puts a table in the place of the current one, for the whole process; unguarded, so while no
+/// other thread uses one.
 /// @param pExports the new one; null for the one that finds nothing
 void gSetNamedExports(std::shared_ptr<INamedExports> pExports);

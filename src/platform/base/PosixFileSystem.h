@@ -14,5 +14,8 @@ public:
     [[nodiscard]] bool CanAccess(std::u16string_view sPath) override;
     bool MakeFolder(std::u16string_view sPath) override;
     [[nodiscard]] std::u16string GetCurrentFolder() override;
+    bool SetCurrentFolder(std::u16string_view sFolder) override;
     [[nodiscard]] std::int64_t GetModificationTime(std::string_view sName) override;
+    [[nodiscard]] std::u16string GetProgramFile() override;
+    [[nodiscard]] std::u16string GetModuleFile(const void* pAddress) override;
 };

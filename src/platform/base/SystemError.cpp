@@ -1,10 +1,15 @@
 #include "platform/base/SystemError.h"
 
+#include "platform/base/CodePage.h"
+
 #include <array>
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
+#include <cuchar>
+#include <cwchar>
 #include <limits>
+#include <string_view>
 
 namespace
 {
@@ -37,9 +42,31 @@ std::string WithoutNumber(std::string sText, int nCode)
     return sText;
 }
 
+/// Text in the character set of the current locale, which need not be the system's code page.
+std::u16string FromLocale(std::string_view sText)
+{
+    constexpr auto ofCharacterBefore = static_cast<std::size_t>(-3);
+    std::u16string sUnits;
+    std::mbstate_t state{};
+    while (!sText.empty() || std::mbsinit(&state) == 0) {
+        char16_t chUnit = 0;
+        std::size_t nUsed = std::mbrtoc16(&chUnit, sText.data(), sText.size(), &state);
+        if (nUsed == ofCharacterBefore) {
+            nUsed = 0;
+        } else if (nUsed > sText.size()) {
+            chUnit = u'\uFFFD';
+            nUsed = 1;
+            state = {};
+        }
+        sUnits += chUnit;
+        sText.remove_prefix(nUsed);
+    }
+    return sUnits;
+}
+
 } // namespace
 
-std::string gSystemErrorMessage(int nCode)
+std::u16string gSystemErrorMessageWide(int nCode)
 {
     // What the system says of a code that can't exist is how it says "unknown" in any language.
     constexpr int impossibleCode = std::numeric_limits<int>::max();
@@ -49,8 +76,14 @@ std::string gSystemErrorMessage(int nCode)
     if (WithoutNumber(sText, nCode) == WithoutNumber(RawMessage(impossibleCode), impossibleCode)) {
         sText.clear();
     }
+    std::u16string sUnits = FromLocale(sText);
     errno = nLastError;
-    return sText;
+    return sUnits;
+}
+
+std::string gSystemErrorMessage(int nCode)
+{
+    return gWideToMultiByte(gSystemErrorMessageWide(nCode), gGetSystemCodePage());
 }
 
 int gGetLastError() noexcept

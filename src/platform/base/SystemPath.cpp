@@ -3,25 +3,34 @@
 #include "platform/base/CodePage.h"
 
 #include <algorithm>
+#include <array>
 
-std::string gToSystemName(std::string_view sPath)
+namespace
 {
-    constexpr std::string_view noLimit = R"(\\?\)";
-    if (sPath.starts_with(noLimit)) {
+
+// Without the prefix, and with one kind of separator.
+template <class TChar> std::basic_string<TChar> ToPosix(std::basic_string_view<TChar> sPath)
+{
+    constexpr std::array<TChar, 4> noLimit{TChar('\\'), TChar('\\'), TChar('?'), TChar('\\')};
+    if (sPath.starts_with(std::basic_string_view<TChar>(noLimit.data(), noLimit.size()))) {
         sPath.remove_prefix(noLimit.size());
     }
-    std::string sName(sPath);
-    std::ranges::replace(sName, '\\', '/');
+    std::basic_string<TChar> sName(sPath);
+    std::ranges::replace(sName, TChar('\\'), TChar('/'));
     return sName;
+}
+
+} // namespace
+
+std::string gToSystemPath(std::u16string_view sPath)
+{
+    return gWideToMultiByte(ToPosix(sPath), kCodePageUtf8);
 }
 
 std::string gToSystemFileName(const CString& rsName)
 {
-    return gGetSystemCodePage() == kCodePageUtf8 ? gToSystemName(rsName)
-                                                 : gToSystemName(gToUtf8(rsName));
-}
-
-std::string gToSystemPath(std::u16string_view sPath)
-{
-    return gToSystemName(gWideToMultiByte(sPath, kCodePageUtf8));
+    const std::string_view sName(rsName);
+    const unsigned nCodePage = gGetSystemCodePage();
+    return nCodePage == kCodePageUtf8 ? ToPosix(sName)
+                                      : gToSystemPath(gMultiByteToWide(sName, nCodePage));
 }

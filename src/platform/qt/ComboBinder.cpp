@@ -45,6 +45,11 @@ public:
 
     bool eventFilter(QObject* pObject, QEvent* pEvent) override
     {
+        if (pObject == GetWidget() && pEvent->type() == QEvent::Wheel && !Widget().hasFocus()) {
+            // Whoever scrolls past a list doesn't choose; the window around it may want the wheel.
+            pEvent->ignore();
+            return true;
+        }
         if (mpList && pObject == mpList)
             OnListEvent(*pEvent);
         else if (mpViewport && pObject == mpViewport && pEvent->type() == QEvent::MouseMove)

@@ -5,8 +5,38 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
 #include <algorithm>
 #include <string_view>
+
+namespace
+{
+/// Stays open over a name in a folder that doesn't exist, if it is told to.
+class CFileWindow : public QFileDialog
+{
+public:
+    explicit CFileWindow(bool bFolderMustExist) : mbFolderMustExist(bFolderMustExist) {}
+
+protected:
+    void accept() override
+    {
+        const QStringList files = selectedFiles();
+        const QString sFolder = files.isEmpty() ? QString() : QFileInfo(files.front()).path();
+        if (mbFolderMustExist && !sFolder.isEmpty() && !QFileInfo(sFolder).isDir()) {
+            QMessageBox::warning(
+                this, windowTitle(),
+                QStringLiteral("%1\nPath does not exist.\nCheck the path and try again.")
+                    .arg(QDir::toNativeSeparators(sFolder)));
+            return;
+        }
+        QFileDialog::accept();
+    }
+
+private:
+    bool mbFolderMustExist;
+};
+} // namespace
 
 bool gIsFileName(const CString& rsName)
 {
@@ -23,9 +53,10 @@ bool gIsFileName(const CString& rsName)
 
 std::unique_ptr<QFileDialog> gMakeFileDialog(const TFileDialog& rDialog)
 {
-    auto pDialog = std::make_unique<QFileDialog>();
+    auto pDialog = std::make_unique<CFileWindow>((rDialog.nFlags & OFN_PATHMUSTEXIST) != 0);
     pDialog->setAcceptMode(rDialog.bOpen ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
-    pDialog->setFileMode(rDialog.bOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    pDialog->setFileMode(rDialog.nFlags & OFN_FILEMUSTEXIST ? QFileDialog::ExistingFile
+                                                            : QFileDialog::AnyFile);
     if (!(rDialog.nFlags & OFN_OVERWRITEPROMPT))
         pDialog->setOption(QFileDialog::DontConfirmOverwrite);
     if (const QStringList filters = gToNameFilters(rDialog.sFilter); !filters.isEmpty())

@@ -4,6 +4,7 @@
 #include "platform/qt/WidgetPeer.h"
 #include "platform/ui/Edit.h"
 
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <algorithm>
@@ -20,11 +21,27 @@ QString TextOf(const QPlainTextEdit& rEdit)
     return sText;
 }
 
+/// An edit that takes text to the letter.
+class CTextEdit : public QPlainTextEdit
+{
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+protected:
+    void insertFromMimeData(const QMimeData* pSource) override
+    {
+        // The base would render what comes as Markdown, and an empty clipboard is its end.
+        if (pSource && pSource->hasText() && !isReadOnly())
+            textCursor().insertText(pSource->text());
+        ensureCursorVisible();
+    }
+};
+
 class CMultilineEditPeer : public TWidgetPeer<CEdit, QPlainTextEdit>
 {
 public:
     CMultilineEditPeer(CModelEntry& rEntry, CWnd& rWnd)
-        : TWidgetPeer(rEntry, rWnd, new QPlainTextEdit(gParentWidgetOf(rWnd)))
+        : TWidgetPeer(rEntry, rWnd, new CTextEdit(gParentWidgetOf(rWnd)))
     {
         Widget().setReadOnly(rWnd.GetControlFlags() & kReadOnly);
         Widget().setTabChangesFocus(true);

@@ -22,6 +22,8 @@ public:
         : TWidgetPeer(rEntry, rWnd, new QTreeWidget(gParentWidgetOf(rWnd)))
     {
         Widget().setHeaderHidden(true);
+        // Lines from node to node are the style's business, and few styles draw any.
+        Widget().setRootIsDecorated(true);
         Widget().setColumnCount(1);
         Widget().setUniformRowHeights(true);
         Widget().setSelectionMode(QAbstractItemView::SingleSelection);

@@ -20,11 +20,20 @@ public:
 private:
     TUiThread& mrThread;
 };
+
+/// The peer of a window that nothing draws.
+class CBlindPeer final : public IWindowPeer
+{
+public:
+    void OnChanged(EAspect aspect) override;
+};
+
+void CBlindPeer::OnChanged(EAspect) {}
 } // namespace
 
 std::unique_ptr<IWindowPeer> IDesktop::MakePeer(CWnd&)
 {
-    return nullptr;
+    return std::make_unique<CBlindPeer>();
 }
 
 void IDesktop::OnMessagePosted() {}

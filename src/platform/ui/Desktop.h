@@ -48,7 +48,7 @@ public:
     /// The application's name, the caption of boxes that have none of their own.
     virtual CString GetApplicationName() const = 0;
 
-    /// Draws a window from now on; null where nothing is drawn.
+    /// Draws a window from now on, or hands back a peer that draws nothing. Never null.
     virtual std::unique_ptr<IWindowPeer> MakePeer(CWnd& rWnd);
 
     /// A message was posted: `gPumpPostedMessages` is to be called soon.

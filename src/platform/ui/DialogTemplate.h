@@ -66,6 +66,8 @@ enum EControlFlag : unsigned {
     kReadOnly = 1U << 5,     ///< the user can read and copy the text, not change it
     kUnlabelled = 1U << 6,   ///< a field that is meant to have no label
     kHeading = 1U << 7,      ///< static: the pane's heading, centred
+    kSharesLabel = 1U << 8,  ///< a field that takes the place of the one before it on other layers;
+                             ///< the label of that one is its own, too
 };
 
 /// One control of a template.

@@ -24,6 +24,8 @@ CWnd* gLabelOf(const CWnd& rField)
     if (field == rSiblings.begin() || field == rSiblings.end())
         return nullptr;
     CWnd* const pBefore = *std::prev(field);
+    if (rField.GetControlFlags() & kSharesLabel)
+        return gLabelOf(*pBefore);
     return gIsInput(rField.GetKind()) && pBefore->GetKind() == EControl::Group ? pBefore : nullptr;
 }
 

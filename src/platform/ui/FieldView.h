@@ -17,8 +17,8 @@ struct TFieldView {
     CWnd* pUnit = nullptr;          ///< the unit behind it, or null
 };
 
-/// The label of a field: the one that belongs to it, else the title of the group box that begins
-/// right before it. Null when it has neither.
+/// The label of a field: the one that belongs to it, else the one that it shares with the field
+/// before it, else the title of the group box that begins right before it. Null when it has none.
 CWnd* gLabelOf(const CWnd& rField);
 
 /// The fields of one pane or dialog in template order, hidden ones too: all controls but labels,

@@ -8,6 +8,7 @@ class CWnd;
 inline constexpr UINT OFN_HIDEREADONLY = 0x00000004;
 inline constexpr UINT OFN_OVERWRITEPROMPT = 0x00000002;
 inline constexpr UINT OFN_PATHMUSTEXIST = 0x00000800;
+inline constexpr UINT OFN_FILEMUSTEXIST = 0x00001000;
 inline constexpr UINT OFN_ENABLESIZING = 0x00800000;
 
 /// A file dialog, as a desktop is asked to show it.

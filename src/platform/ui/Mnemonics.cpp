@@ -12,15 +12,20 @@ char ToLower(char c)
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-/// A label's own field if the ids tell it, else the first tab stop behind the label or group.
+/// A label's own field if the ids tell it, or that which shares the label and is shown in its
+/// place; else the first tab stop behind the label or group.
 CWnd* FieldBehind(const CWnd& rPane, std::size_t nLabel)
 {
     const auto& rSiblings = rPane.GetChildren();
-    for (CWnd* pSibling : rSiblings) {
-        if (LabelOf(pSibling->GetDlgCtrlID()) != rSiblings[nLabel]->GetDlgCtrlID())
-            continue;
-        auto* const pButton = dynamic_cast<CButton*>(pSibling);
-        return pButton ? &pButton->GetGroupEntry() : pSibling;
+    const int nId = rSiblings[nLabel]->GetDlgCtrlID();
+    const auto own = std::ranges::find_if(
+        rSiblings, [nId](const CWnd* p) { return LabelOf(p->GetDlgCtrlID()) == nId; });
+    if (own != rSiblings.end()) {
+        if (auto* const pButton = dynamic_cast<CButton*>(*own))
+            return &pButton->GetGroupEntry();
+        const auto next = std::next(own);
+        const bool bShared = next != rSiblings.end() && (*next)->GetControlFlags() & kSharesLabel;
+        return bShared && (*next)->CanTakeFocus() ? *next : *own;
     }
     for (std::size_t n = nLabel + 1; n < rSiblings.size(); ++n)
         if (rSiblings[n]->CanTakeFocus() && rSiblings[n]->IsTabStop())

@@ -7,7 +7,7 @@
 namespace
 {
 // The numbers are the places of the categories among the root nodes.
-enum ECategory : WPARAM {
+enum ECategory : int {
     kAnalysis = 0,
     kCurrentSource = 1,
     kFiles = 2,
@@ -51,177 +51,46 @@ constexpr DialogTemplate kOutputTemplate{"Output", kPageSize, kOutputRows};
 constexpr DialogTemplate kSettingsTemplate{"Settings", kPageSize, kSettingsRows};
 constexpr DialogTemplate kVoltageSourceTemplate{"Voltage source", kPageSize, kVoltageSourceRows};
 constexpr DialogTemplate kOptimizationTemplate{"Optimization", kPageSize, kOptimizationRows};
-
-void SelectPage(CWnd& rPage, ECategory category, int nButtonId)
-{
-    rPage.PostMessage(WM_TREE_SELECT_PAGE, category, nButtonId - kFirstCategoryButton);
-}
 } // namespace
 
-CAnalysisPage::CAnalysisPage() : CCommandPage(kAnalysisTemplate) {}
-
-TMessageMap CAnalysisPage::GetMessageMap() const
+CCategoryPage::CCategoryPage(const DialogTemplate& rTemplate, int nCategory)
+    : CCommandPage(rTemplate), mnButtons(rTemplate.rows.size() - 1), mnCategory(nCategory)
 {
-    return kCategoryHandlers<&CAnalysisPage::OnButton, kAnalysisRows.size() - 1>;
 }
 
-void CAnalysisPage::DoDataExchange(CDataExchange*) {}
-
-void CAnalysisPage::OnButton(int nId)
+TMessageMap CCategoryPage::GetMessageMap() const
 {
-    SelectPage(*this, kAnalysis, nId);
+    return TMessageMap(kCategoryHandlers<&CCategoryPage::OnButton>).first(mnButtons);
 }
 
-bool CAnalysisPage::BuildCommand(CString&)
+void CCategoryPage::DoDataExchange(CDataExchange*) {}
+
+void CCategoryPage::OnButton(int nId)
+{
+    PostMessage(WM_TREE_SELECT_PAGE, static_cast<WPARAM>(mnCategory), nId - kFirstCategoryButton);
+}
+
+bool CCategoryPage::BuildCommand(CString&)
 {
     return false;
 }
+
+CAnalysisPage::CAnalysisPage() : CCategoryPage(kAnalysisTemplate, kAnalysis) {}
+CCurrentSourcePage::CCurrentSourcePage() : CCategoryPage(kCurrentSourceTemplate, kCurrentSource) {}
+CFilesPage::CFilesPage() : CCategoryPage(kFilesTemplate, kFiles) {}
+CInitializationPage::CInitializationPage() : CCategoryPage(kInitializationTemplate, kInitialization)
+{
+}
+COutputPage::COutputPage() : CCategoryPage(kOutputTemplate, kOutput) {}
+CSettingsPage::CSettingsPage() : CCategoryPage(kSettingsTemplate, kSettings) {}
+CVoltageSourcePage::CVoltageSourcePage() : CCategoryPage(kVoltageSourceTemplate, kVoltageSource) {}
+COptimizationPage::COptimizationPage() : CCategoryPage(kOptimizationTemplate, kOptimization) {}
 
 template const CRuntimeClass& gRuntimeClass<CAnalysisPage>();
-
-CCurrentSourcePage::CCurrentSourcePage() : CCommandPage(kCurrentSourceTemplate) {}
-
-TMessageMap CCurrentSourcePage::GetMessageMap() const
-{
-    return kCategoryHandlers<&CCurrentSourcePage::OnButton, kCurrentSourceRows.size() - 1>;
-}
-
-void CCurrentSourcePage::DoDataExchange(CDataExchange*) {}
-
-void CCurrentSourcePage::OnButton(int nId)
-{
-    SelectPage(*this, kCurrentSource, nId);
-}
-
-bool CCurrentSourcePage::BuildCommand(CString&)
-{
-    return false;
-}
-
 template const CRuntimeClass& gRuntimeClass<CCurrentSourcePage>();
-
-CFilesPage::CFilesPage() : CCommandPage(kFilesTemplate) {}
-
-TMessageMap CFilesPage::GetMessageMap() const
-{
-    return kCategoryHandlers<&CFilesPage::OnButton, kFilesRows.size() - 1>;
-}
-
-void CFilesPage::DoDataExchange(CDataExchange*) {}
-
-void CFilesPage::OnButton(int nId)
-{
-    SelectPage(*this, kFiles, nId);
-}
-
-bool CFilesPage::BuildCommand(CString&)
-{
-    return false;
-}
-
 template const CRuntimeClass& gRuntimeClass<CFilesPage>();
-
-CInitializationPage::CInitializationPage() : CCommandPage(kInitializationTemplate) {}
-
-TMessageMap CInitializationPage::GetMessageMap() const
-{
-    return kCategoryHandlers<&CInitializationPage::OnButton, kInitializationRows.size() - 1>;
-}
-
-void CInitializationPage::DoDataExchange(CDataExchange*) {}
-
-void CInitializationPage::OnButton(int nId)
-{
-    SelectPage(*this, kInitialization, nId);
-}
-
-bool CInitializationPage::BuildCommand(CString&)
-{
-    return false;
-}
-
 template const CRuntimeClass& gRuntimeClass<CInitializationPage>();
-
-COutputPage::COutputPage() : CCommandPage(kOutputTemplate) {}
-
-TMessageMap COutputPage::GetMessageMap() const
-{
-    return kCategoryHandlers<&COutputPage::OnButton, kOutputRows.size() - 1>;
-}
-
-void COutputPage::DoDataExchange(CDataExchange*) {}
-
-void COutputPage::OnButton(int nId)
-{
-    SelectPage(*this, kOutput, nId);
-}
-
-bool COutputPage::BuildCommand(CString&)
-{
-    return false;
-}
-
 template const CRuntimeClass& gRuntimeClass<COutputPage>();
-
-CSettingsPage::CSettingsPage() : CCommandPage(kSettingsTemplate) {}
-
-TMessageMap CSettingsPage::GetMessageMap() const
-{
-    return kCategoryHandlers<&CSettingsPage::OnButton, kSettingsRows.size() - 1>;
-}
-
-void CSettingsPage::DoDataExchange(CDataExchange*) {}
-
-void CSettingsPage::OnButton(int nId)
-{
-    SelectPage(*this, kSettings, nId);
-}
-
-bool CSettingsPage::BuildCommand(CString&)
-{
-    return false;
-}
-
 template const CRuntimeClass& gRuntimeClass<CSettingsPage>();
-
-CVoltageSourcePage::CVoltageSourcePage() : CCommandPage(kVoltageSourceTemplate) {}
-
-TMessageMap CVoltageSourcePage::GetMessageMap() const
-{
-    return kCategoryHandlers<&CVoltageSourcePage::OnButton, kVoltageSourceRows.size() - 1>;
-}
-
-void CVoltageSourcePage::DoDataExchange(CDataExchange*) {}
-
-void CVoltageSourcePage::OnButton(int nId)
-{
-    SelectPage(*this, kVoltageSource, nId);
-}
-
-bool CVoltageSourcePage::BuildCommand(CString&)
-{
-    return false;
-}
-
 template const CRuntimeClass& gRuntimeClass<CVoltageSourcePage>();
-
-COptimizationPage::COptimizationPage() : CCommandPage(kOptimizationTemplate) {}
-
-TMessageMap COptimizationPage::GetMessageMap() const
-{
-    return kCategoryHandlers<&COptimizationPage::OnButton, kOptimizationRows.size() - 1>;
-}
-
-void COptimizationPage::DoDataExchange(CDataExchange*) {}
-
-void COptimizationPage::OnButton(int nId)
-{
-    SelectPage(*this, kOptimization, nId);
-}
-
-bool COptimizationPage::BuildCommand(CString&)
-{
-    return false;
-}
-
 template const CRuntimeClass& gRuntimeClass<COptimizationPage>();

@@ -5,114 +5,71 @@
 // The pages of the tree's categories: a heading and a button per command. They carry no command of
 // their own.
 
-class CAnalysisPage : public CCommandPage
+/// What they all do: a button posts the place of its page to the tree.
+class CCategoryPage : public CCommandPage
+{
+public:
+    /// Builds nothing; false.
+    bool BuildCommand(CString& rsCommand) override;
+
+protected:
+    /// @param nCategory the place of the category among the root nodes
+    CCategoryPage(const DialogTemplate& rTemplate, int nCategory);
+
+    TMessageMap GetMessageMap() const override;
+    void DoDataExchange(CDataExchange* pDX) override;
+
+private:
+    void OnButton(int nId);
+
+    const std::size_t mnButtons;
+    const int mnCategory;
+};
+
+class CAnalysisPage : public CCategoryPage
 {
 public:
     CAnalysisPage();
-    bool BuildCommand(CString& rsCommand) override;
-
-protected:
-    TMessageMap GetMessageMap() const override;
-    void DoDataExchange(CDataExchange* pDX) override;
-
-private:
-    void OnButton(int nId);
 };
 
-class CCurrentSourcePage : public CCommandPage
+class CCurrentSourcePage : public CCategoryPage
 {
 public:
     CCurrentSourcePage();
-    bool BuildCommand(CString& rsCommand) override;
-
-protected:
-    TMessageMap GetMessageMap() const override;
-    void DoDataExchange(CDataExchange* pDX) override;
-
-private:
-    void OnButton(int nId);
 };
 
-class CFilesPage : public CCommandPage
+class CFilesPage : public CCategoryPage
 {
 public:
     CFilesPage();
-    bool BuildCommand(CString& rsCommand) override;
-
-protected:
-    TMessageMap GetMessageMap() const override;
-    void DoDataExchange(CDataExchange* pDX) override;
-
-private:
-    void OnButton(int nId);
 };
 
-class CInitializationPage : public CCommandPage
+class CInitializationPage : public CCategoryPage
 {
 public:
     CInitializationPage();
-    bool BuildCommand(CString& rsCommand) override;
-
-protected:
-    TMessageMap GetMessageMap() const override;
-    void DoDataExchange(CDataExchange* pDX) override;
-
-private:
-    void OnButton(int nId);
 };
 
-class COutputPage : public CCommandPage
+class COutputPage : public CCategoryPage
 {
 public:
     COutputPage();
-    bool BuildCommand(CString& rsCommand) override;
-
-protected:
-    TMessageMap GetMessageMap() const override;
-    void DoDataExchange(CDataExchange* pDX) override;
-
-private:
-    void OnButton(int nId);
 };
 
-class CSettingsPage : public CCommandPage
+class CSettingsPage : public CCategoryPage
 {
 public:
     CSettingsPage();
-    bool BuildCommand(CString& rsCommand) override;
-
-protected:
-    TMessageMap GetMessageMap() const override;
-    void DoDataExchange(CDataExchange* pDX) override;
-
-private:
-    void OnButton(int nId);
 };
 
-class CVoltageSourcePage : public CCommandPage
+class CVoltageSourcePage : public CCategoryPage
 {
 public:
     CVoltageSourcePage();
-    bool BuildCommand(CString& rsCommand) override;
-
-protected:
-    TMessageMap GetMessageMap() const override;
-    void DoDataExchange(CDataExchange* pDX) override;
-
-private:
-    void OnButton(int nId);
 };
 
-class COptimizationPage : public CCommandPage
+class COptimizationPage : public CCategoryPage
 {
 public:
     COptimizationPage();
-    bool BuildCommand(CString& rsCommand) override;
-
-protected:
-    TMessageMap GetMessageMap() const override;
-    void DoDataExchange(CDataExchange* pDX) override;
-
-private:
-    void OnButton(int nId);
 };

@@ -34,15 +34,19 @@ constexpr std::array<TControlRow, N + 1> CategoryRows(const char* pHeading,
     return rows;
 }
 
-template <auto Handler, std::size_t N> constexpr std::array<TMessageMapEntry, N> ButtonHandlers()
+inline constexpr std::size_t kMostCategoryButtons = 10;
+
+template <auto Handler>
+constexpr std::array<TMessageMapEntry, kMostCategoryButtons> CategoryHandlers()
 {
-    std::array<TMessageMapEntry, N> handlers{};
-    for (std::size_t n = 0; n < N; ++n)
+    std::array<TMessageMapEntry, kMostCategoryButtons> handlers{};
+    for (std::size_t n = 0; n < kMostCategoryButtons; ++n)
         handlers[n] = On<Handler>(ENotify::Clicked, kFirstCategoryButton + static_cast<int>(n));
     return handlers;
 }
 
-/// The handlers of a category page with N buttons, all of them one member function `void (int
-/// nId)`.
-template <auto Handler, std::size_t N>
-inline constexpr std::array<TMessageMapEntry, N> kCategoryHandlers = ButtonHandlers<Handler, N>();
+/// The handlers of a category page with all of its buttons, all of them one member function
+/// `void (int nId)`.
+template <auto Handler>
+inline constexpr std::array<TMessageMapEntry, kMostCategoryButtons>
+    kCategoryHandlers = CategoryHandlers<Handler>();

@@ -166,6 +166,20 @@ constexpr TBlock<2> WideEdit(int nId, const char* pKey, const char* pLabel)
     return {{label, field.rows[0]}, kAboveField + kEditHeight, kLineGap};
 }
 
+/// The same with a unit behind the edit. `nUnit`: the unit's left edge.
+constexpr TBlock<3> WideEdit(int nId, const char* pKey, const char* pLabel, const char* pUnit,
+                             int nUnit)
+{
+    using namespace PageLayout;
+    const TBlock<2> wide = WideEdit(nId, pKey, pLabel);
+    TPlacedRow field = wide.rows[1];
+    field.row.rect.w = nUnit - 4 - kLeft;
+    field.bToRight = false;
+    const TRect unitRect{nUnit, kAboveField + 2, kRight - nUnit, kLabelHeight};
+    const TPlacedRow unit{UnitFor(field.row, pUnit, unitRect), false, true};
+    return {{wide.rows[0], field, unit}, wide.nHeight, wide.nGap};
+}
+
 /// An edit of several lines as wide as the pane, in which Enter starts a new line.
 /// `nHeight`: the edit's own. `nLabelLines`: the lines that the label above it needs.
 constexpr TBlock<2> TextBox(int nId, const char* pKey, const char* pLabel, int nHeight,
@@ -297,21 +311,44 @@ template <class... TBlocks> constexpr auto Tight(TBlocks... blocks)
     return Lines(blocks...);
 }
 
+namespace PageLayout
+{
+/// The buttons beside a list, the last two disabled as an empty list has them.
+constexpr auto ListButtons(const TChoice& rAdd, const TChoice& rDelete, const TChoice& rClear,
+                           unsigned nAddFlags)
+{
+    const auto button = [](const TChoice& rButton, const char* pKey, unsigned nFlags) {
+        return At(Row(rButton.nId, pKey, EControl::PushButton, rButton.pLabel,
+                      {kRight - kListButtonWidth, 0, kListButtonWidth, 14}, nFlags));
+    };
+    return Lines(button(rAdd, "add", nAddFlags), button(rDelete, "delete", kDisabled),
+                 button(rClear, "clear", kDisabled));
+}
+
+constexpr TRect ListRect(int nHeight)
+{
+    return {kLeft, 0, kRight - kListButtonWidth - kGroupGap - kLeft, nHeight};
+}
+} // namespace PageLayout
+
 /// A list box with the buttons "add", "delete" and "clear" beside it, the last two disabled as an
 /// empty list has them. `nHeight`: the list's, at least that of the buttons, 50.
 constexpr auto ListLines(int nList, const char* pKey, int nHeight, const TChoice& rAdd,
                          const TChoice& rDelete, const TChoice& rClear)
 {
     using namespace PageLayout;
-    constexpr int nButtonX = kRight - kListButtonWidth;
-    const auto button = [](const TChoice& rButton, const char* pButtonKey, unsigned nFlags) {
-        return At(Row(rButton.nId, pButtonKey, EControl::PushButton, rButton.pLabel,
-                      {nButtonX, 0, kListButtonWidth, 14}, nFlags));
-    };
-    return SameTop(At(Row(nList, pKey, EControl::ListBox, "",
-                          {kLeft, 0, nButtonX - kGroupGap - kLeft, nHeight}, kUnlabelled)),
-                   Lines(button(rAdd, "add", kNoFlags), button(rDelete, "delete", kDisabled),
-                         button(rClear, "clear", kDisabled)));
+    return SameTop(At(Row(nList, pKey, EControl::ListBox, "", ListRect(nHeight), kUnlabelled)),
+                   ListButtons(rAdd, rDelete, rClear, kNoFlags));
+}
+
+/// The same with a label above the list and all three buttons disabled, for a page that enables
+/// "add" when there is something to be added.
+constexpr auto LabelledListLines(int nList, const char* pKey, const char* pLabel, int nHeight,
+                                 const TChoice& rAdd, const TChoice& rDelete, const TChoice& rClear)
+{
+    using namespace PageLayout;
+    return SameTop(LabelledAt(Row(nList, pKey, EControl::ListBox, "", ListRect(nHeight)), pLabel),
+                   Moved(ListButtons(rAdd, rDelete, rClear, kDisabled), 0, kAboveField, 0));
 }
 
 /// The block with these flags added to all its controls.

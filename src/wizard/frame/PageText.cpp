@@ -4,6 +4,7 @@
 #include "platform/ui/Translate.h"
 #include "platform/ui/Wnd.h"
 
+#include <algorithm>
 #include <string_view>
 
 void gAppendIfAny(CString& rsCommand, const char* pBefore, const CString& rsField)
@@ -53,4 +54,16 @@ bool gReportFailure(CWnd& rPage, CString& rsMessage, const char* pLiteral)
 {
     rsMessage = gShownText(pLiteral);
     return gReportMessage(rPage, rsMessage);
+}
+
+bool gReportFailure(CWnd& rPage, const char* pLiteral)
+{
+    return gReportMessage(rPage, gShownText(pLiteral));
+}
+
+bool gAreFilled(CWnd& rPage, CString& rsMessage, std::initializer_list<TRequiredField> required)
+{
+    const auto* const pMissing = std::ranges::find_if(
+        required, [](const TRequiredField& rRequired) { return rRequired.rsField.IsEmpty(); });
+    return pMissing == required.end() || gReportFailure(rPage, rsMessage, pMissing->pMissing);
 }

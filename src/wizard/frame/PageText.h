@@ -3,6 +3,7 @@
 #include "platform/base/StringA.h"
 
 #include <concepts>
+#include <initializer_list>
 
 class CWnd;
 
@@ -41,3 +42,16 @@ bool gReportMessage(CWnd& rOwner, CString sMessage); // NOLINT(performance-unnec
 /// The same with a literal as `gShownText` takes it. `rsMessage`: the page's message string, which
 /// holds the last message that the page has shown, takes the text first. Result: false.
 bool gReportFailure(CWnd& rPage, CString& rsMessage, const char* pLiteral);
+
+/// The same for a page without a message string.
+bool gReportFailure(CWnd& rPage, const char* pLiteral);
+
+/// A field that must have a text, and the literal of its message, as `gShownText` takes it.
+struct TRequiredField {
+    const CString& rsField;
+    const char* pMissing;
+};
+
+/// Reports the first of these fields that is empty, as `gReportFailure` does.
+/// Result: whether all have a text.
+bool gAreFilled(CWnd& rPage, CString& rsMessage, std::initializer_list<TRequiredField> required);

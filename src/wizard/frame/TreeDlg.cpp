@@ -180,6 +180,7 @@ LRESULT CTreeDlg::OnKeyDown(WPARAM wParam, LPARAM lParam)
     CWnd* const pPane = pFocus ? pFocus->GetParent() : nullptr;
     if (wParam != VK_TAB || !pPane || !pPane->IsKindOf(gRuntimeClass<CCommandPage>()))
         return DefWindowProc(WM_KEYDOWN, wParam, lParam);
+    // Meant: the 1 of Shift+Tab. With 0 in both cases the pane would never be walked backwards.
     pPane->SendMessage(WM_NEXTDLGCTL, lParam != 0 ? 1 : 0, 0);
     return 0;
 }

@@ -1,9 +1,12 @@
 #include "platform/base/FileSystem.h"
 
+#include "platform/base/CodePageScope.h"
 #include "platform/base/SystemPath.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
@@ -22,7 +25,6 @@ TEST(SystemPath, ForThePosixCalls)
     EXPECT_EQ(gToSystemPath(u"\\\\?\\/a"), "/a");
     EXPECT_EQ(gToSystemPath(u"\\\\s\\h"), "//s/h");
     EXPECT_EQ(gToSystemPath(u"\xD800"), "?");
-    EXPECT_EQ(gToSystemName("a\\b\xE9"), "a/b\xE9");
 }
 
 class FileSystem : public ::testing::Test
@@ -65,7 +67,7 @@ TEST_F(FileSystem, WhyAttributesAreMissing)
     EXPECT_FALSE(mpFiles->GetAttributes(u"nosuchfileatall", eError));
     EXPECT_EQ(eError, EFileError::FileNotFound);
     std::filesystem::create_symlink("loop", mFolder / "loop");
-    EXPECT_FALSE(mpFiles->GetAttributes(Name(u"loop"), eError));
+    EXPECT_FALSE(mpFiles->GetAttributes(Name(u"loop/x"), eError));
     EXPECT_EQ(eError, EFileError::Other);
     EXPECT_EQ(errno, ELOOP);
     ASSERT_TRUE(mpFiles->GetAttributes(Name(u"file"), eError));
@@ -88,6 +90,87 @@ TEST_F(FileSystem, TheTwoThatEveryFolderHasComeFirst)
     EXPECT_FALSE(mpFiles->Enumerate(Name(u"none"), visit));
 }
 
+TEST_F(FileSystem, AnEntryIsLookedUpInItsFolder)
+{
+    struct Case {
+        const char16_t* pName;
+        bool bEntry; ///< by FindEntry
+        bool bAttributes;
+        bool bStatus;
+        bool bDirectory;
+        bool bDevice;
+    };
+    std::filesystem::create_symlink("file", mFolder / "to-file");
+    std::filesystem::create_symlink("sub", mFolder / "to-sub");
+    std::filesystem::create_symlink("/dev/null", mFolder / "to-null");
+    std::filesystem::create_symlink("none", mFolder / "dangling");
+    std::filesystem::create_symlink("loop", mFolder / "loop");
+    const Case cases[] = {
+        {u"file", true, true, true, false, false},
+        {u"sub", true, true, true, true, false},
+        {u"to-file", true, true, true, false, false},
+        {u"to-sub", true, true, true, true, false},
+        {u"to-null", true, true, true, false, true},
+        {u"dangling", true, true, false, false, false},
+        {u"loop", true, true, false, false, false},
+        {u"none", false, false, false, false, false},
+        {u"sub/", false, true, true, true, false}, // a slash at the end: no entry of that name
+        {u"sub\\", false, true, true, true, false},
+        {u"file/", false, false, false, false, false},
+    };
+    for (const Case& rCase : cases) {
+        const std::u16string sPath = Name(rCase.pName);
+        EFileError eError = EFileError::Other;
+        const auto entry = mpFiles->FindEntry(sPath);
+        const auto attributes = mpFiles->GetAttributes(sPath, eError);
+        const auto status = mpFiles->GetStatus(sPath);
+        const std::string sName = gToSystemPath(rCase.pName);
+        EXPECT_EQ(entry.has_value(), rCase.bEntry) << sName;
+        EXPECT_EQ(attributes.has_value(), rCase.bAttributes) << sName;
+        EXPECT_EQ(status.has_value(), rCase.bStatus) << sName;
+        for (const auto& rFound : {entry, attributes, status}) {
+            EXPECT_EQ(rFound && rFound->mbDirectory, rFound && rCase.bDirectory) << sName;
+            EXPECT_EQ(rFound && rFound->mbDevice, rFound && rCase.bDevice) << sName;
+        }
+    }
+    EXPECT_FALSE(mpFiles->FindEntry(u"/"));
+    EXPECT_EQ(errno, ENOENT);
+}
+
+TEST_F(FileSystem, ADiskErrorEndsAnEnumeration)
+{
+    // The folder will get the lowest free number. A file in its place can't be read as one.
+    const int nFolder = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+    const int nFile = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+    ::close(nFolder);
+    std::vector<std::u16string> names;
+    const auto visit = [&](std::u16string_view sName) {
+        names.emplace_back(sName);
+        ::dup2(nFile, nFolder);
+        return true;
+    };
+    EXPECT_FALSE(mpFiles->Enumerate(Name(u""), visit));
+    EXPECT_EQ(errno, ENOTDIR);
+    EXPECT_EQ(names, (std::vector<std::u16string>{u".", u".."}));
+    ::close(nFile);
+}
+
+TEST_F(FileSystem, TimesAreThoseOfNamesInTheSystemsCodePage)
+{
+    // The second byte of the Japanese character is a backslash when it stands alone.
+    std::ofstream(mFolder / u"\u30BD") << "text";
+    std::ofstream(mFolder / u"\u00E9") << "text";
+    const std::string sFolder = mFolder.string();
+    {
+        const CCodePageScope scope(932);
+        EXPECT_NE(mpFiles->GetModificationTime(sFolder + "/\x83\x5C"), -1);
+        EXPECT_NE(mpFiles->GetModificationTime(sFolder + "\\\x83\x5C"), -1);
+    }
+    const CCodePageScope scope(kCodePageWindows1252);
+    EXPECT_NE(mpFiles->GetModificationTime(sFolder + "/\xE9"), -1);
+    EXPECT_EQ(mpFiles->GetModificationTime(sFolder + "/\xEA"), -1);
+}
+
 TEST_F(FileSystem, FoldersAreMadeOneByOne)
 {
     EXPECT_FALSE(mpFiles->CanAccess(Name(u"new")));
@@ -97,6 +180,18 @@ TEST_F(FileSystem, FoldersAreMadeOneByOne)
     EXPECT_TRUE(mpFiles->CanAccess(Name(u"new")));
     EXPECT_FALSE(mpFiles->MakeFolder(Name(u"new")));
     EXPECT_EQ(errno, EEXIST);
+}
+
+TEST_F(FileSystem, AFolderBecomesTheCurrentOne)
+{
+    const auto before = std::filesystem::current_path();
+    EXPECT_TRUE(mpFiles->SetCurrentFolder(Name(u"sub")));
+    EXPECT_EQ(std::filesystem::current_path(), std::filesystem::canonical(mFolder / "sub"));
+    for (const std::u16string& rsNone : {Name(u"none"), Name(u"file"), std::u16string()}) {
+        EXPECT_FALSE(mpFiles->SetCurrentFolder(rsNone));
+        EXPECT_EQ(std::filesystem::current_path(), std::filesystem::canonical(mFolder / "sub"));
+    }
+    std::filesystem::current_path(before);
 }
 
 TEST_F(FileSystem, ARemovedCurrentFolderIsNone)

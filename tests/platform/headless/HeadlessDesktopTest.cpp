@@ -133,7 +133,11 @@ TEST(HeadlessDesktopTest, DrawsNothing)
 {
     HeadlessDesktop desktop;
     CWnd wnd;
-    EXPECT_EQ(desktop.MakePeer(wnd), nullptr);
+    const auto pPeer = desktop.MakePeer(wnd);
+    ASSERT_TRUE(pPeer);
+    wnd.SetWindowText("kept");
+    pPeer->OnChanged(EAspect::Text);
+    EXPECT_EQ(wnd.GetWindowText(), "") << "a window that was never created keeps no text";
 }
 
 TEST(HeadlessDesktopTest, EachTurnGoesToTheInnermostDialog)

@@ -1,6 +1,8 @@
 #include "platform/ui/FieldView.h"
 
 #include "platform/ui/Button.h"
+#include "platform/ui/Fields.h"
+#include "platform/ui/Mnemonics.h"
 #include "platform/ui/PropertyPage.h"
 #include "platform/ui/SampleDialog.h"
 #include "platform/ui/TemplateRows.h"
@@ -77,6 +79,44 @@ TEST(FieldViewTest, AFieldWithoutALabelHasTheTitleOfTheGroupThatBeginsBeforeIt)
         EXPECT_EQ(gFindField(pane, "next").pLabel, nullptr);
         EXPECT_EQ(gFindField(pane, "box").pLabel, nullptr);
         EXPECT_EQ(gFindField(pane, "group").pLabel, nullptr);
+    });
+}
+
+// A field that takes another's place: the name, or a text of several lines.
+constexpr unsigned kLineLayer = 1;
+constexpr unsigned kTextLayer = 2;
+constexpr auto kLine = Row(1, "line", EControl::Edit, "", {20, 0, 30, 13}, kNoFlags, kLineLayer);
+constexpr auto kSharedRows =
+    JoinRows(LabelFor(Row(1, "line", EControl::Edit, "", {}), "&Name:", {0, 0, 20, 9}), kLine,
+             Row(2, "text", EControl::MultilineEdit, "", {20, 0, 30, 20}, kSharesLabel, kTextLayer),
+             Row(3, "next", EControl::Edit, "", {0, 30, 30, 13}));
+constexpr DialogTemplate kSharedTemplate{"Shared", {50, 50}, kSharedRows};
+
+TEST(FieldViewTest, AFieldThatSharesALabelHasThatOfTheFieldBeforeIt)
+{
+    CSampleDialog dialog;
+    CPropertyPage pane(kSharedTemplate);
+    gLookInto(dialog, [&] {
+        ASSERT_TRUE(pane.CreatePane(dialog));
+        EXPECT_EQ(gFindField(pane, "line").pLabel, pane.GetDlgItem(LabelOf(1)));
+        EXPECT_EQ(gFindField(pane, "text").pLabel, pane.GetDlgItem(LabelOf(1)));
+        EXPECT_EQ(gFindField(pane, "next").pLabel, nullptr);
+    });
+}
+
+TEST(FieldViewTest, TheLetterOfASharedLabelLeadsToTheFieldThatIsShown)
+{
+    CSampleDialog dialog;
+    CPropertyPage pane(kSharedTemplate);
+    gLookInto(dialog, [&] {
+        ASSERT_TRUE(pane.CreatePane(dialog));
+        pane.ShowWindow(SW_SHOW);
+        for (const auto& [nLayer, nField] : {std::pair{kLineLayer, 1}, {kTextLayer, 2}}) {
+            gShowLayers(pane, nLayer);
+            EXPECT_EQ(gMnemonicTargets(pane, 'n'), std::vector{pane.GetDlgItem(nField)});
+        }
+        gShowLayers(pane, 0);
+        EXPECT_TRUE(gMnemonicTargets(pane, 'n').empty());
     });
 }
 

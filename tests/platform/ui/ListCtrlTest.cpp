@@ -124,7 +124,7 @@ TEST_F(ListCtrlOperationsTest, WidthsAndStyle)
         rTable.SetColumnWidth(1, 99);
         rTable.SetColumnWidth(2, 5);
         rTable.SetColumnWidth(-1, 5);
-        EXPECT_EQ(rTable.GetColumns()[0].nWidth, 40);
+        EXPECT_EQ(rTable.GetColumns()[0].nWidth, 60);
         EXPECT_EQ(rTable.GetColumns()[1].nWidth, 99);
         EXPECT_EQ(rTable.GetExtendedStyle(), 0U);
         rTable.SetExtendedStyle(LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);

@@ -29,9 +29,9 @@ constexpr auto kRows = JoinRows(
     Row(kFruit, "fruit", EControl::ListBox, "", {70, 80, 60, 40}, kUnlabelled, 0, kFruits),
     Row(kPlaces, "places", EControl::Tree, "", {135, 5, 60, 60}, kUnlabelled),
     Row(kCells, "cells", EControl::Table, "", {135, 70, 60, 60}, kUnlabelled),
-    Row(kViews, "views", EControl::Tabs, "", {135, 135, 60, 20}, kUnlabelled),
+    Row(kViews, "views", EControl::Tabs, "", {70, 141, 125, 20}, kUnlabelled),
     Row(kPress, "press", EControl::PushButton, "&Press", {5, 145, 50, 14}),
-    Row(kFrameAround, "around", EControl::Group, "Around", {0, 0, 195, 165}),
+    Row(kFrameAround, "around", EControl::Group, "Around", {67, 131, 131, 33}),
     Row(kRemark, "remark", EControl::Static, "A remark", {5, 165, 60, 9}),
     Row(IDOK, "ok", EControl::DefaultButton, "OK", {60, 165, 50, 14}),
     Row(IDCANCEL, "cancel", EControl::PushButton, "Cancel", {115, 165, 50, 14}));
@@ -49,8 +49,8 @@ bool CSampleDialog::OnInitDialog()
     rTree.InsertItem("C1", rTree.InsertItem("C"));
 
     auto& rTable = Get<CListCtrl>(kCells);
-    rTable.InsertColumn(0, "Letter", 0, 40, -1);
-    rTable.InsertColumn(1, "Number", 0, 60, -1);
+    rTable.InsertColumn(0, "Letter", 0, 60, -1);
+    rTable.InsertColumn(1, "Number", 0, 70, -1);
     for (const char* pLetter : {"x", "y", "z"})
         rTable.InsertItem(rTable.GetItemCount(), pLetter);
 

@@ -1,34 +1,80 @@
+#include "platform/headless/TreePath.h"
+#include "platform/ui/TreeCtrl.h"
 #include "qt/Player.h"
 #include "qt/Visits.h"
+#include "support/WizardRun.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFont>
+#include <QImage>
+#include <QList>
+#include <QMap>
 #include <QPalette>
 #include <QPixmap>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTextStream>
 #include <QWidget>
 #include <string>
 
 // Takes a picture of every window, to be looked at: `qt-pictures FOLDER` makes one folder per
 // palette and scale in FOLDER. Each of these is a process of its own, because the scale is Qt's for
-// the whole of one.
+// the whole of one. `qt-pictures docs/images/pages pages` takes those of the user's documents.
 
 namespace
 {
 QString sFolder;
 int snPictures = 0;
 
+QString FileName(const std::string& rsName)
+{
+    static const QRegularExpression sOther(QStringLiteral("[ /]"));
+    return QString::fromStdString(rsName).toLower().replace(sOther, QStringLiteral("-"));
+}
+
 void TakePicture(const std::string& rsName, QWidget& rWindow)
 {
-    const QString sName =
-        QString::fromStdString(rsName).toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+    const QString sName = FileName(rsName);
     const QString sNumber = QString::number(++snPictures).rightJustified(3, QLatin1Char('0'));
     rWindow.grab().save(
         QDir(sFolder).filePath(sNumber + QLatin1Char('-') + sName + QLatin1String(".png")));
+}
+
+/// The colours of a picture, as exactly as a table of 256 can hold them.
+QList<QRgb> ColoursOf(const QImage& rPicture)
+{
+    QMap<QRgb, int> pixels; // of each colour, how many
+    for (int y = 0; y < rPicture.height(); ++y)
+        for (int x = 0; x < rPicture.width(); ++x)
+            ++pixels[rPicture.pixel(x, y)];
+    for (unsigned nDropped = 0;; ++nDropped) {
+        const QRgb nMask = 0x010101U * (0xFFU << nDropped & 0xFFU);
+        QMap<QRgb, QRgb> colours; // of those that look alike, the most frequent
+        for (auto it = pixels.cbegin(); it != pixels.cend(); ++it)
+            if (it.value() > pixels.value(colours.value(it.key() & nMask)))
+                colours[it.key() & nMask] = it.key();
+        if (colours.size() <= 256)
+            return colours.values();
+    }
+}
+
+/// A picture for the user's documents: a page as it opens, and what a choice on it shows if there
+/// is a picture of that already.
+void TakePagePicture(const std::string& rsName, QWidget& rWindow)
+{
+    const CTreeCtrl& rTree = gOpenWizard().GetTree();
+    const std::string sPath = gTreePathOf(rTree, rTree.GetSelectedItem());
+    const QString sFile = QDir(sFolder).filePath(FileName(rsName) + QLatin1String(".png"));
+    if (sPath.find('/') == std::string::npos || (rsName != sPath && !QFile::exists(sFile)))
+        return;
+    ++snPictures;
+    // Small, for they are kept: few colours, packed as tightly as can be.
+    const QImage picture = rWindow.grab().toImage();
+    picture.convertToFormat(QImage::Format_Indexed8, ColoursOf(picture)).save(sFile, "PNG", 0);
 }
 
 QPalette DarkPalette()
@@ -50,11 +96,15 @@ int TakeAll(const QStringList& rOptions)
     }
     QDir().mkpath(sFolder);
     CTestDesktop desktop;
-    gVisitWizard(TakePicture);
-    gVisitSinglePages(TakePicture);
-    gVisitSweep(TakePicture);
-    gVisitSample(TakePicture);
-    gVisitBoxes(TakePicture);
+    if (rOptions.contains(QStringLiteral("pages"))) {
+        gVisitWizard(TakePagePicture);
+    } else {
+        gVisitWizard(TakePicture);
+        gVisitSinglePages(TakePicture);
+        gVisitSweep(TakePicture);
+        gVisitSample(TakePicture);
+        gVisitBoxes(TakePicture);
+    }
     QTextStream(stdout) << snPictures << " pictures in " << sFolder << '\n';
     return 0;
 }
@@ -90,7 +140,7 @@ int main(int nCount, char** pArguments)
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 2) {
-        QTextStream(stderr) << "usage: qt-pictures FOLDER\n";
+        QTextStream(stderr) << "usage: qt-pictures FOLDER [dark | larger | pages]\n";
         return 2;
     }
     sFolder = arguments[1];

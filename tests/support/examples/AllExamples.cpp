@@ -3,7 +3,9 @@
 TExampleLines gAllExamples()
 {
     TExampleLines all;
-    for (const TExampleLines* pExamples : {&gAnalysisExamples(), &gSetupExamples()})
+    for (const TExampleLines* pExamples :
+         {&gAnalysisExamples(), &gSetupExamples(), &gWaveformExamples(), &gDigitalSourceExamples(),
+          &gControlledSourceExamples()})
         all.insert(all.end(), pExamples->begin(), pExamples->end());
     return all;
 }

@@ -13,9 +13,12 @@ struct TExampleLine {
 
 using TExampleLines = std::vector<TExampleLine>;
 
-/// The examples of the pages of a category.
+/// The examples of the pages of a category, or of a family of sources.
 const TExampleLines& gAnalysisExamples();
 const TExampleLines& gSetupExamples();
+const TExampleLines& gWaveformExamples();
+const TExampleLines& gDigitalSourceExamples();
+const TExampleLines& gControlledSourceExamples();
 
 /// All of them.
 TExampleLines gAllExamples();

@@ -55,6 +55,20 @@ TEST(PageLayoutTest, WideFieldsHaveTheirLabelAbove)
                   {4, {7, 144, 235, 18}}});
 }
 
+TEST(PageLayoutTest, AUnitStandsBehindAFieldBelowItsLabelToo)
+{
+    ExpectPlaces(PageRows(GroupBox(1, "g", "G",
+                                   Beside(120, WideEdit(2, "a", "A:", "V", 100),
+                                          WideEdit(3, "b", "B:", "deg", 220)))),
+                 {{1, {7, 7, 235, 41}},
+                  {LabelOf(2), {14, 19, 100, 9}},
+                  {2, {14, 30, 82, 13}},
+                  {UnitOf(2), {100, 32, 14, 9}},
+                  {LabelOf(3), {120, 19, 115, 9}},
+                  {3, {120, 30, 96, 13}},
+                  {UnitOf(3), {220, 32, 15, 9}}});
+}
+
 TEST(PageLayoutTest, TheLargerGapOfTwoNeighboursCounts)
 {
     ExpectPlaces(PageRows(RadioLines("r", TChoice{1, "A"}, TChoice{2, "B"}),
@@ -192,6 +206,20 @@ TEST(PageLayoutTest, AListHasItsButtonsBesideIt)
     EXPECT_EQ(kRows[1].nFlags, kNoFlags);
     EXPECT_EQ(kRows[2].nFlags, kDisabled);
     EXPECT_EQ(kRows[3].nFlags, kDisabled);
+}
+
+TEST(PageLayoutTest, AListWithALabelHasAllItsButtonsDisabled)
+{
+    constexpr auto kRows = PageRows(
+        LabelledListLines(1, "list", "&List:", 80, {2, "&Add"}, {3, "&Delete"}, {4, "&Clear"}));
+    ExpectPlaces(kRows, {{LabelOf(1), {7, 7, 179, 9}},
+                         {1, {7, 18, 179, 80}},
+                         {2, {192, 18, 50, 14}},
+                         {3, {192, 36, 50, 14}},
+                         {4, {192, 54, 50, 14}}});
+    EXPECT_EQ(kRows[1].nFlags, kNoFlags) << "its label is its own";
+    for (const std::size_t nButton : {2U, 3U, 4U})
+        EXPECT_EQ(kRows[nButton].nFlags, kDisabled);
 }
 
 TEST(PageLayoutTest, TheFirstOfTheRadioLinesBeginsTheGroup)

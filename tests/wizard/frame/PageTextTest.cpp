@@ -150,4 +150,27 @@ TEST(PageText, AFailureIsAMessageThatThePageKeepsTranslatedIfItsLiteralSaysSo)
     EXPECT_EQ(boxes[0].box.sText, "[Missing a.]");
     EXPECT_EQ(boxes[1].box.sText, "Missing b.");
 }
+
+TEST(PageText, TheFirstEmptyFieldOfThoseRequiredIsReportedAndNoOther)
+{
+    const CBracketTranslation translation;
+    HeadlessDesktop desktop;
+    CWnd page;
+    CString sMessage;
+    const CString sFull = "a";
+    const CString sBlank = " ";
+    const CString sEmpty;
+    EXPECT_TRUE(gAreFilled(page, sMessage, {}));
+    EXPECT_TRUE(gAreFilled(page, sMessage, {{sFull, "Missing a."}, {sBlank, "Missing b."}}));
+    EXPECT_TRUE(desktop.TakeBoxes().empty());
+
+    EXPECT_FALSE(gAreFilled(page, sMessage,
+                            {{sFull, "Missing a."},
+                             {sEmpty, "__$$Translatable$$_Missing c."},
+                             {sEmpty, "Missing d."}}));
+    const auto boxes = desktop.TakeBoxes();
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].box.sText, "[Missing c.]");
+    EXPECT_EQ(sMessage, "[Missing c.]");
+}
 } // namespace

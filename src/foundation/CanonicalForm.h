@@ -5,8 +5,7 @@
 #include <string>
 #include <string_view>
 
-// The rules behind the functions of Paths.h that others of them need, too, on 16-bit text and
-// without a log line.
+// The canonical form and what is told by it, on 16-bit text and without a log line.
 
 /// As gCanonicalizePath.
 /// @param sPath the path
@@ -21,15 +20,3 @@
 
 /// As gIsAbsolutePath.
 [[nodiscard]] bool gIsAbsoluteText(std::u16string_view sPath);
-
-/// As gConcatenatePaths.
-[[nodiscard]] std::u16string gJoinPaths(std::u16string_view sPath, std::u16string_view sRelative);
-
-/// As gIsUnixStylePath.
-[[nodiscard]] bool gIsUnixStyleText(std::u16string_view sPath);
-
-/// As gGetFileNameWithoutPath.
-[[nodiscard]] std::u16string_view gFileNameOf(std::u16string_view sPath);
-
-/// As gGetPathWithoutFileName.
-[[nodiscard]] std::u16string_view gFolderOf(std::u16string_view sPath);

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "wizard/sources/SourceHead.h"
+
+// The controls of the pages of voltage-controlled sources, and all that differs between the two.
+
+namespace VoltageControlled
+{
+enum EControlId {
+    kSourceGroup = kFirstSourceField,
+    kModeGroup,
+    kLinear, ///< the radio buttons of the mode stand together
+    kPolynomial,
+    kExpression,
+    kFirstControl,
+    kSecondControl,
+    kGain,
+    kCoefficients,
+    kSecondPositive, ///< the further pairs stand together
+    kSecondNegative,
+    kThirdPositive,
+    kThirdNegative,
+};
+
+// What the modes show in each other's place.
+inline constexpr unsigned kLinearLayer = 1;
+inline constexpr unsigned kPolynomialLayer = 2;
+inline constexpr unsigned kExpressionLayer = 4;
+
+/// A label: a translatable literal, or an empty one, and what is put behind it untranslated.
+struct TLabel {
+    const char* pLiteral;
+    const char* pTail = "";
+};
+
+/// What a mode asks for.
+struct TMode {
+    unsigned nLayer;
+    const char* pFirstControl;
+    const char* pSecondControl; ///< null: the label stays that of the template
+    const char* pGain;          ///< of the gain or the coefficients
+    const char* pMissingName;
+};
+
+/// What differs between the pages.
+struct TTwin {
+    char chLetter;
+    const char* pGroup;
+    const char* pNameLabel;
+    const char* pMissingPositive;
+    const char* pMissingGain;
+    TMode linear;
+    TMode polynomial;
+    TLabel furtherPairs[4]; ///< shown in the polynomial mode
+    TMode expression;
+    unsigned nSecondControlLayers; ///< 0: all
+    const char* pFirstExpression;
+    const char* pSecondExpression; ///< null: the second control isn't used
+    const char* pMissingExpression;
+    /// A failed check of the expression mode reports and then counts as a success.
+    bool bFailedExpressionSucceeds;
+};
+
+inline constexpr const char* kPositive = "__$$Translatable$$_&Controlling positive terminal:";
+inline constexpr const char* kNegative = "__$$Translatable$$_Con&trolling negative terminal (GND):";
+inline constexpr const char* kPolynomialCoefficients =
+    "__$$Translatable$$_Pol&ynomial coefficients:";
+
+inline constexpr TTwin kCurrent{
+    .chLetter = 'G',
+    .pGroup = "Voltage-controlled current source",
+    .pNameLabel = "&VCCS name:",
+    .pMissingPositive = "__$$Translatable$$_Missing controlled positive terminal name.",
+    .pMissingGain = "__$$Translatable$$_Missing transconductance.",
+    .linear = {kLinearLayer, kPositive, kNegative,
+               "__$$Translatable$$_T&ransconductance (in 1/Ohm):",
+               "__$$Translatable$$_Missing voltage-controlled current source name."},
+    .polynomial = {kPolynomialLayer, kPositive, kNegative, kPolynomialCoefficients,
+                   // Meant: without a full stop.
+                   "__$$Translatable$$_Missing voltage-controlled current source name"},
+    .furtherPairs = {{"__$$Translatable$$_Controllin&g positive terminal #2:"},
+                     {"__$$Translatable$$_Controlling negative ter&minal #2 (GND):"},
+                     {"__$$Translatable$$_Controlling po&sitive terminal #3:"},
+                     {"__$$Translatable$$_Controlling negative termin&al #3 (GND):"}},
+    .expression = {kExpressionLayer, "__$$Translatable$$_C&urrent expression:",
+                   "__$$Translatable$$_C&harge expression:", "",
+                   "__$$Translatable$$_Missing voltage-controlled current source name."},
+    .nSecondControlLayers = 0,
+    .pFirstExpression = " cur='",
+    .pSecondExpression = " chg='",
+    .pMissingExpression = "__$$Translatable$$_Missing current or charge expression.",
+    .bFailedExpressionSucceeds = true,
+};
+
+inline constexpr TTwin kVoltage{
+    .chLetter = 'E',
+    .pGroup = "Voltage-controlled voltage source",
+    .pNameLabel = "&VCVS name:",
+    .pMissingPositive = kMissingPositiveTerminal,
+    .pMissingGain = "__$$Translatable$$_Missing voltage gain.",
+    .linear = {kLinearLayer, kPositive, nullptr, "__$$Translatable$$_Volt&age gain:",
+               "__$$Translatable$$_Missing voltage-controlled voltage source name."},
+    .polynomial = {kPolynomialLayer, kPositive, nullptr, kPolynomialCoefficients,
+                   "__$$Translatable$$_Missing voltage-controlled voltage source name."},
+    // Meant: the numbers aren't translated here.
+    .furtherPairs = {{"__$$Translatable$$_Controllin&g positive terminal", " #2:"},
+                     {"__$$Translatable$$_Controlling negative ter&minal", " #2 (GND):"},
+                     {"__$$Translatable$$_Controlling po&sitive terminal", " #3:"},
+                     {"__$$Translatable$$_Controlling negative termin&al", " #3 (GND):"}},
+    .expression = {kExpressionLayer, "__$$Translatable$$_Volt&age expression:", nullptr, "",
+                   "__$$Translatable$$_Missing voltage-controlled voltage source name."},
+    .nSecondControlLayers = kLinearLayer | kPolynomialLayer,
+    .pFirstExpression = " vol='",
+    .pSecondExpression = nullptr,
+    .pMissingExpression = "__$$Translatable$$_Missing voltage expression.",
+    .bFailedExpressionSucceeds = false,
+};
+} // namespace VoltageControlled

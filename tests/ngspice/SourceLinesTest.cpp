@@ -1,0 +1,132 @@
+// A second opinion on the lines of the source pages: another simulator reads them. Each line of the
+// examples stands in a small circuit that ngspice simulates.
+
+#include "ngspice/Ngspice.h"
+#include "platform/base/Ascii.h"
+#include "support/PageTest.h"
+#include "support/WizardRun.h"
+#include "support/examples/ExampleLines.h"
+
+#include <algorithm>
+#include <cctype>
+#include <sstream>
+
+namespace
+{
+using SourceLines = PageTest;
+
+/// A part of a line that ngspice takes for an error.
+struct TUnknownForm {
+    const char* pPart;
+    const char* pReason;
+};
+
+const TUnknownForm kUnknownForms[] = {
+    {" BIT (", "it has no such waveform"},
+    {" BUS (", "it has no such waveform"},
+    {" chg='", "it takes no expression for a charge"},
+    {" ROUND=", "it rounds no corners"},
+    {" SIN ()", "it wants an offset and an amplitude"},
+    {" SIN (2)", "it wants an amplitude behind the offset"},
+    {" PWL (a b)", "it wants numbers where the page counts words"},
+};
+
+const TUnknownForm* UnknownFormIn(const std::string& rsLine)
+{
+    const auto* const pForm =
+        std::ranges::find_if(kUnknownForms, [&rsLine](const TUnknownForm& rForm) {
+            return rsLine.find(rForm.pPart) != std::string::npos;
+        });
+    return pForm == std::end(kUnknownForms) ? nullptr : pForm;
+}
+
+/// What the pages of sources insert for their examples.
+std::vector<std::string> ComposedLines()
+{
+    std::vector<std::string> lines;
+    for (const TExampleLine& rExample : gAllExamples()) {
+        if (rExample.sPage.find(" source/") == std::string::npos || rExample.sLine.empty())
+            continue;
+        CRememberedBase::ResetAll();
+        for (const std::string& rsLine : gCompose(rExample.sPage, rExample.arguments).inserted)
+            lines.push_back(rsLine);
+    }
+    return lines;
+}
+
+/// What controls the device of this line: voltage sources, or nodes; each with a load.
+std::string ControlOf(char chDevice, std::istringstream& rWords)
+{
+    std::string sControl;
+    for (std::string sWord; rWords >> sWord;) {
+        if (const std::size_t nAt = sWord.find("='v("); nAt != std::string::npos)
+            sWord = sWord.substr(nAt + 4, sWord.find(')') - nAt - 4);
+        if (!std::isalpha(static_cast<unsigned char>(sWord.front())) || sWord.starts_with("POLY") ||
+            sWord == "GND" || sWord.find('=') != std::string::npos)
+            continue;
+        if (chDevice == 'F' || chDevice == 'H')
+            sControl += sWord + " of" + sWord + " 0 1\nR" + sWord + " of" + sWord + " 0 1k\n";
+        else
+            sControl += "R" + sWord + ' ' + sWord + " 0 1k\n";
+    }
+    return sControl;
+}
+
+/// The device of this line with a load at each of its nodes, and a short transient analysis.
+std::string CircuitOf(const std::string& rsLine)
+{
+    std::istringstream words(rsLine);
+    std::string sName;
+    std::string sPositive;
+    std::string sNegative;
+    words >> sName >> sPositive >> sNegative;
+    std::string sCircuit =
+        "* a source and its load\n" + rsLine + "\nRpositive " + sPositive + " 0 1k\n";
+    if (sNegative != "GND")
+        sCircuit += "Rnegative " + sNegative + " 0 1k\n";
+    const char chDevice = gToUpperAscii(sName.front());
+    if (chDevice >= 'E' && chDevice <= 'H')
+        sCircuit += ControlOf(chDevice, words);
+    return sCircuit + ".tran 1n 30n\n.print tran v(" + sPositive + ")\n.end\n";
+}
+
+TEST_F(SourceLines, NgspiceSimulatesThoseOfTheFormsThatItKnows)
+{
+    int nSimulated = 0;
+    for (const std::string& rsLine : ComposedLines()) {
+        if (UnknownFormIn(rsLine))
+            continue;
+        const TProgramRun run = gSimulate(CircuitOf(rsLine));
+        EXPECT_TRUE(gIsAccepted(run)) << rsLine << '\n' << testing::PrintToString(run);
+        ++nSimulated;
+    }
+    for (const char* pWaveform :
+         {"PULSE", "PWL", "SIN", "EXP", "SFFM", "POLY(1)", "POLY(2)", "POLY(3)", "F1 a GND vsense",
+          "H1 a GND V1", "g1 a GND c", "E1 a", " vol='"})
+        EXPECT_TRUE(std::ranges::any_of(ComposedLines(), [pWaveform](const std::string& rsLine) {
+            return !UnknownFormIn(rsLine) && rsLine.find(pWaveform) != std::string::npos;
+        })) << pWaveform;
+    EXPECT_GE(nSimulated, 29);
+}
+
+TEST_F(SourceLines, NgspiceRefusesThoseOfTheFormsThatItDoesNotKnow)
+{
+    for (const TUnknownForm& rForm : kUnknownForms) {
+        SCOPED_TRACE(rForm.pReason);
+        std::vector<std::string> lines = ComposedLines();
+        std::erase_if(
+            lines, [&rForm](const std::string& rsLine) { return UnknownFormIn(rsLine) != &rForm; });
+        EXPECT_FALSE(lines.empty()) << rForm.pPart;
+        for (const std::string& rsLine : lines)
+            EXPECT_FALSE(gIsAccepted(gSimulate(CircuitOf(rsLine)))) << rsLine;
+    }
+}
+
+TEST_F(SourceLines, NgspiceIsAStrictJudge)
+{
+    EXPECT_TRUE(gIsAccepted(gSimulate(CircuitOf("V1 a GND PULSE (0 5)"))));
+    EXPECT_FALSE(gIsAccepted(gSimulate(CircuitOf("V1 a GND PLSE (0 5)"))));
+    EXPECT_FALSE(gIsAccepted(gSimulate(CircuitOf("V1 a GND PULSE (0 5) AD 1"))));
+    EXPECT_FALSE(gIsAccepted(gSimulate(CircuitOf("V1 a"))));
+}
+} // namespace
