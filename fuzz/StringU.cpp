@@ -24,8 +24,7 @@ void CheckText(const CStringU& rsText)
     const int nLength = rsText.GetByteLength();
     Require(rsText.ToWide().size() <= rsText.Text().size());
     Require(rsText.GetCharCount() <= nLength);
-    // In front of a piece a stray 0x80 reads as the marker.
-    Require(rsText.Left(nLength).Text() == rsText.Text() || rsText.Text().starts_with('\x80'));
+    Require(rsText.Left(nLength).Text() == rsText.Text());
     Require(CompareNoCase(rsText, rsText) == 0);
     Require(!(rsText < rsText));
     int nSteps = 0;

@@ -1,8 +1,8 @@
 #include "foundation/FromCodePage.h"
 
-#include "foundation/StringOrder.h"
+#include "foundation/MarkerRule.h"
 #include "foundation/Utf8Units.h"
-#include "platform/base/Ascii.h"
+#include "platform/base/AsciiRuns.h"
 #include "platform/base/CodePage.h"
 #include "platform/base/Codec.h"
 
@@ -10,8 +10,6 @@
 
 namespace
 {
-
-constexpr char16_t kReplacement = 0xFFFD;
 
 void AppendUnits(std::u16string_view sUnits, std::string& rsStored)
 {
@@ -26,26 +24,16 @@ void gStoreCodePage(std::string_view sText, std::string& rsStored)
 {
     rsStored.clear();
     const ICodec& rCodec = *gFindCodec(gGetSystemCodePage()); // the system's is always known
-    std::string_view sRest = sText;
     std::u16string sUnits;
-    while (!sRest.empty()) {
-        const std::string_view sAscii = sRest.substr(0, gFindNonAscii(sRest));
-        const std::string_view sRun = sAscii.substr(0, sAscii.find('\0'));
-        rsStored += sRun;
-        if (sRun.size() < sAscii.size()) {
-            break;
-        }
-        sRest.remove_prefix(sAscii.size());
-        if (!sRest.empty()) {
+    gForEachRun(
+        sText.substr(0, sText.find('\0')),
+        [&rsStored](std::string_view sAscii) { rsStored += sAscii; },
+        [&](std::string_view& rsRest) {
             sUnits.clear();
-            if (!rCodec.DecodeNext(sRest, sUnits)) {
+            if (!rCodec.DecodeNext(rsRest, sUnits)) {
                 sUnits = kReplacement;
             }
             AppendUnits(sUnits, rsStored);
-        }
-    }
-    const std::size_t nAscii = gFindNonAscii(rsStored);
-    if (nAscii > 0 && nAscii < rsStored.size()) {
-        rsStored.insert(0, 1, kUtf8Marker);
-    }
+        });
+    gMark(rsStored);
 }

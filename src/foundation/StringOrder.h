@@ -1,21 +1,13 @@
 #pragma once
 
+#include "foundation/MarkerRule.h"
+
 #include <bit>
 #include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
-
-/// The byte in front of UTF-8 whose first character is ASCII. It can begin no UTF-8 sequence.
-inline constexpr char kUtf8Marker = '\x80';
-
-/// The text behind the marker.
-/// @param sStored the bytes as a CStringU stores them
-[[nodiscard]] constexpr std::string_view gBehindMarker(std::string_view sStored) noexcept
-{
-    return sStored.substr(!sStored.empty() && sStored.front() == kUtf8Marker ? 1 : 0);
-}
 
 /// Compares texts of one length by their last sizeof(TWord) bytes, as one little-endian number, and
 /// then by the bytes in front of them.

@@ -1,12 +1,13 @@
 #include "foundation/StringU.h"
 
 #include "foundation/FromCodePage.h"
+#include "foundation/Literal.h"
 #include "foundation/MarkerRule.h"
 #include "foundation/Utf8Units.h"
 #include "platform/base/Ascii.h"
 #include "platform/base/CodePage.h"
+#include "platform/base/StringIndex.h"
 
-#include <algorithm>
 #include <type_traits>
 #include <utility>
 
@@ -18,15 +19,6 @@ struct CStringU::TStored {
 
 namespace
 {
-
-void StoreUtf8(std::string_view sText, std::string& rsStored)
-{
-    const bool bMarker = !sText.empty() && sText.front() != '\0' && gIsAscii(sText.substr(0, 1));
-    rsStored.clear();
-    rsStored.reserve(sText.size() + 1);
-    rsStored.append(bMarker ? 1 : 0, kUtf8Marker);
-    rsStored += sText;
-}
 
 void StoreKind(std::string_view sText, TTextKind kind, std::string& rsStored)
 {
@@ -47,20 +39,10 @@ void StoreKind(std::string_view sText, TTextKind kind, std::string& rsStored)
         }
         [[fallthrough]];
     case TTextKind::Utf8:
-        StoreUtf8(sText, rsStored);
+        gStoreUtf8(sText, rsStored);
         return;
     }
     rsStored = sText;
-}
-
-std::u16string_view ViewOf(const char16_t* pText) noexcept
-{
-    return pText != nullptr ? std::u16string_view(pText) : std::u16string_view();
-}
-
-std::size_t Clamp(int nValue, std::size_t nMost) noexcept
-{
-    return nValue < 0 ? 0 : std::min(static_cast<std::size_t>(nValue), nMost);
 }
 
 } // namespace
@@ -70,7 +52,7 @@ CStringU::CStringU(std::string sStored, const TStored& /*rTag*/) noexcept
 {
 }
 
-CStringU::CStringU(const char* pText) : CStringU(gOperandView(pText)) {}
+CStringU::CStringU(const char* pText) : CStringU(gViewOf(pText)) {}
 
 CStringU::CStringU(std::string_view sText) : CStringU(sText, TTextKind::CodePageIfNeeded) {}
 
@@ -83,19 +65,24 @@ CStringU::CStringU(std::string_view sText, TTextKind kind)
     StoreKind(sText, kind, Bytes());
 }
 
-CStringU::CStringU(const char* pText, TTextKind kind) : CStringU(gOperandView(pText), kind) {}
+CStringU::CStringU(const char* pText, TTextKind kind) : CStringU(gViewOf(pText), kind) {}
 
-CStringU::CStringU(const char16_t* pText) : CStringU(ViewOf(pText)) {}
+CStringU::CStringU(const char16_t* pText) : CStringU(gViewOf(pText)) {}
 
 CStringU::CStringU(std::u16string_view sText) : CStringA(gStoreWide(sText)) {}
 
 CStringU::CStringU(const std::u16string& rsText) : CStringU(std::u16string_view(rsText)) {}
 
-CStringU::CStringU(char16_t chChar) : CStringU(std::u16string_view(&chChar, 1)) {}
+CStringU::CStringU(TCharacter character) : CStringU(std::u16string_view(&character.mchUnit, 1)) {}
 
 CStringU CStringU::FromWideBigEndian(std::u16string_view sText)
 {
     return {gSwapUnitBytes(sText)};
+}
+
+CStringU CStringU::FromWideBigEndian(const char16_t* pText)
+{
+    return FromWideBigEndian(gViewOf(pText));
 }
 
 void CStringU::Assign(std::string_view sText, TTextKind kind)
@@ -105,12 +92,17 @@ void CStringU::Assign(std::string_view sText, TTextKind kind)
 
 void CStringU::AppendUtf8(std::string_view sBytes)
 {
-    const bool bUtf8 = IsUtf8() || !gIsAscii(sBytes);
-    const bool bLikeMarker = IsEmpty() && sBytes.starts_with(kUtf8Marker);
-    Bytes() += sBytes;
-    if ((bUtf8 && !IsUtf8()) || bLikeMarker) {
-        Bytes().insert(0, 1, kUtf8Marker);
-    }
+    gOverwriteStored(Bytes(), std::string_view::npos, sBytes);
+}
+
+void CStringU::OverwriteUtf8(std::size_t nFirst, std::string_view sBytes)
+{
+    gOverwriteStored(Bytes(), nFirst, sBytes);
+}
+
+void CStringU::ResizeUtf8(std::size_t nSize)
+{
+    gResizeStored(Bytes(), nSize);
 }
 
 CStringA CStringU::ToUtf8() const
@@ -168,33 +160,39 @@ CStringU CStringU::Piece(std::size_t nFirst, std::size_t nCount) const
 
 CStringU CStringU::Left(int nCount) const
 {
-    return Piece(0, Clamp(nCount, Text().size()));
+    return Piece(0, gClampIndex(nCount, Text().size()));
 }
 
 CStringU CStringU::Right(int nCount) const
 {
-    const std::size_t nClamped = Clamp(nCount, Text().size());
+    const std::size_t nClamped = gClampIndex(nCount, Text().size());
     return Piece(Text().size() - nClamped, nClamped);
 }
 
 CStringU CStringU::Mid(int nFirst) const
 {
-    return Piece(Clamp(nFirst, Text().size()), std::string_view::npos);
+    return Piece(gClampIndex(nFirst, Text().size()), std::string_view::npos);
 }
 
 CStringU CStringU::Mid(int nFirst, int nCount) const
 {
-    const std::size_t nAt = Clamp(nFirst, Text().size());
-    return Piece(nAt, Clamp(nCount, Text().size() - nAt));
+    const std::size_t nAt = gClampIndex(nFirst, Text().size());
+    return Piece(nAt, gClampIndex(nCount, Text().size() - nAt));
 }
 
 CStringU& CStringU::operator+=(const CStringU& rsText)
 {
-    const bool bUtf8 = rsText.IsUtf8();
-    Bytes() += rsText.Text();
-    if (bUtf8 && !IsUtf8()) {
-        Bytes().insert(0, 1, kUtf8Marker);
+    gAppendStored(Bytes(), rsText.Stored());
+    return *this;
+}
+
+CStringU& CStringU::operator+=(const char* pText)
+{
+    const std::string_view sText = gViewOf(pText);
+    if (!gIsAscii(sText)) {
+        return *this += CStringU(sText);
     }
+    Bytes() += sText;
     return *this;
 }
 
@@ -209,5 +207,51 @@ CStringU& CStringU::operator+=(char16_t chChar)
 
 CStringU& CStringU::operator+=(char chChar)
 {
-    return *this += CStringU(std::string_view(&chChar, 1));
+    return *this += CStringU(std::string_view(&chChar, 1)); // of one byte, so without a block
+}
+
+CStringU CStringU::Joined(std::string_view sLeft, std::string_view sRight)
+{
+    CStringU sJoined;
+    sJoined.Bytes().reserve(sLeft.size() + sRight.size() + 1); // a marker may come to the front
+    sJoined.Bytes() = sLeft;
+    gAppendStored(sJoined.Bytes(), sRight);
+    return sJoined;
+}
+
+CStringU operator+(const CStringU& rsLeft, const CStringU& rsRight)
+{
+    return CStringU::Joined(rsLeft.Stored(), rsRight.Stored());
+}
+
+CStringU operator+(CStringU&& rsLeft, const CStringU& rsRight)
+{
+    return std::move(rsLeft += rsRight);
+}
+
+CStringU operator+(const CStringU& rsLeft, const char* pRight)
+{
+    const CLiteral right(pRight);
+    return CStringU::Joined(rsLeft.Stored(), right.Stored());
+}
+
+CStringU operator+(CStringU&& rsLeft, const char* pRight)
+{
+    return std::move(rsLeft += pRight);
+}
+
+CStringU operator+(const char* pLeft, const CStringU& rsRight)
+{
+    const CLiteral left(pLeft);
+    return CStringU::Joined(left.Stored(), rsRight.Stored());
+}
+
+bool operator==(const CStringU& rsLeft, const char* pRight)
+{
+    return rsLeft.Stored() == CLiteral(pRight).Stored();
+}
+
+std::strong_ordering operator<=>(const CStringU& rsLeft, const char* pRight)
+{
+    return gCompareStored(rsLeft.Stored(), CLiteral(pRight).Stored());
 }

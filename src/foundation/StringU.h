@@ -1,6 +1,8 @@
 #pragma once
 
 #include "foundation/CharIterator.h"
+#include "foundation/Character.h"
+#include "foundation/MarkerRule.h"
 #include "foundation/StringOrder.h"
 #include "platform/base/StringA.h"
 
@@ -26,11 +28,16 @@ enum class TTextKind {
 ///
 /// Characters are 16-bit units; a character above U+FFFF is two of them. 16-bit text is char16_t on
 /// every system, std::u16string where it is owned. Lengths and indices are in bytes behind the
-/// marker unless said otherwise. No operation fails on malformed bytes; they give some text.
+/// marker unless said otherwise, and a text has at most INT_MAX of them; nothing checks that. No
+/// operation fails on malformed bytes; they give some text.
 ///
 /// What converts to a CStringU, in comparisons and concatenations too: 8-bit text by
-/// TTextKind::CodePageIfNeeded (so also a CString), and 16-bit text. The base class sees the stored
-/// bytes, so its operations that would cut through the marker or a character are not offered.
+/// TTextKind::CodePageIfNeeded (so also a CString), and 16-bit text. A literal of 7-bit characters
+/// is used where it stands.
+///
+/// The base class sees the stored bytes, marker included: GetString, GetLength, GetAt and
+/// operator[] of it are for who wants those. Its operations that would change or compare them
+/// without regard to the marker are not offered.
 class CStringU : public CStringA
 {
 public:
@@ -64,20 +71,30 @@ public:
     /// 16-bit text up to its length or its first zero.
     CStringU(const std::u16string& rsText);
     /// One 16-bit character; zero gives the empty text.
-    explicit CStringU(char16_t chChar);
+    explicit CStringU(TCharacter character);
 
     /// 16-bit text whose units have their high byte first.
     /// @param sText the units as they stand in such a source; up to the length or the first zero
     [[nodiscard]] static CStringU FromWideBigEndian(std::u16string_view sText);
+    /// The same of zero-terminated text; null gives the empty text.
+    [[nodiscard]] static CStringU FromWideBigEndian(const char16_t* pText);
 
     /// Becomes what a construction from the same gives, and keeps its room where it can.
     /// @param sText the bytes, none of them of this text
     /// @param kind how to read them
     void Assign(std::string_view sText, TTextKind kind);
 
-    /// Appends bytes of UTF-8, perhaps cut inside a character, by the marker rule. None is lost: a
-    /// first byte that reads as the marker gets one in front of it.
+    /// Appends bytes of UTF-8, perhaps cut inside a character. Text gives all of them back, also
+    /// where the first one is 0x80.
+    /// @param sBytes the bytes, none of them of this text
     void AppendUtf8(std::string_view sBytes);
+    /// Puts bytes of UTF-8 in the place of as many, as AppendUtf8 where they go past the end.
+    /// @param nFirst the first byte to go, behind the marker; past the end is the end
+    /// @param sBytes the bytes, none of them of this text
+    void OverwriteUtf8(std::size_t nFirst, std::string_view sBytes);
+    /// Cuts the text, perhaps inside a character, or lengthens it with zeros.
+    /// @param nSize the new length in bytes behind the marker
+    void ResizeUtf8(std::size_t nSize);
 
     /// A text with its values filled in, as printf does; the result is taken as
     /// TTextKind::Utf8IfNeeded. For "%s" give the text of a CStringU by Data. Not for floating
@@ -88,10 +105,7 @@ public:
     operator std::string_view() const = delete;
 
     /// Tells whether the text is UTF-8: its first byte has its top bit set.
-    [[nodiscard]] bool IsUtf8() const noexcept
-    {
-        return !Bytes().empty() && (static_cast<unsigned char>(Bytes().front()) & 0x80U) != 0;
-    }
+    [[nodiscard]] bool IsUtf8() const noexcept { return gIsStoredUtf8(Bytes()); }
 
     /// The bytes behind the marker, valid until the text changes.
     [[nodiscard]] std::string_view Text() const noexcept { return gBehindMarker(Bytes()); }
@@ -143,36 +157,50 @@ public:
 
     /// Appends a text, which may be this one. A plain text that takes on UTF-8 gets the marker.
     CStringU& operator+=(const CStringU& rsText);
+    /// Appends a zero-terminated text of the system's code page; null appends nothing.
+    CStringU& operator+=(const char* pText);
     /// Appends one 16-bit character; zero appends nothing.
     CStringU& operator+=(char16_t chChar);
     /// Appends one character of the system's code page.
     CStringU& operator+=(char chChar);
 
     /// This text with another behind it.
-    friend CStringU operator+(CStringU sLeft, const CStringU& rsRight)
-    {
-        sLeft += rsRight;
-        return sLeft;
-    }
+    friend CStringU operator+(const CStringU& rsLeft, const CStringU& rsRight);
+    /// This text with another behind it, in the room that it has.
+    friend CStringU operator+(CStringU&& rsLeft, const CStringU& rsRight);
+    /// This text with a literal behind it.
+    friend CStringU operator+(const CStringU& rsLeft, const char* pRight);
+    /// This text with a literal behind it, in the room that it has.
+    friend CStringU operator+(CStringU&& rsLeft, const char* pRight);
+    /// This text with a literal in front of it.
+    friend CStringU operator+(const char* pLeft, const CStringU& rsRight);
 
     /// Equality of the stored bytes, which is that of the texts by the rule of the marker.
     friend bool operator==(const CStringU& rsLeft, const CStringU& rsRight) noexcept
     {
         return rsLeft.Stored() == rsRight.Stored();
     }
+    /// Equality with a literal.
+    friend bool operator==(const CStringU& rsLeft, const char* pRight);
     /// The fast total order of gCompareStored, which goes by length first.
     friend std::strong_ordering operator<=>(const CStringU& rsLeft,
                                             const CStringU& rsRight) noexcept
     {
         return gCompareStored(rsLeft.Stored(), rsRight.Stored());
     }
+    /// The order with a literal.
+    friend std::strong_ordering operator<=>(const CStringU& rsLeft, const char* pRight);
 
     /// Compares without regard to case; see the function CompareNoCase.
     [[nodiscard]] int CompareNoCase(const CStringU& rsOther) const noexcept;
     /// Tells whether the text begins with another, byte for byte.
     [[nodiscard]] bool StartsWith(const CStringU& rsText) const noexcept;
+    /// Tells whether the text begins with a literal.
+    [[nodiscard]] bool StartsWith(const char* pText) const;
     /// Tells whether the text ends with another, byte for byte.
     [[nodiscard]] bool EndsWith(const CStringU& rsText) const noexcept;
+    /// Tells whether the text ends with a literal.
+    [[nodiscard]] bool EndsWith(const char* pText) const;
 
     /// Lowers each character by the simple mapping of Unicode, of a plain text A to Z only.
     CStringU& MakeLower();
@@ -181,18 +209,22 @@ public:
 
     /// Finds the first such character.
     /// @return its place, or the end
-    [[nodiscard]] TCharIterator Find(char16_t chChar) const noexcept;
+    [[nodiscard]] TCharIterator Find(TCharacter character) const noexcept;
     /// Finds the first character that is the same when both are lowered.
     /// @return its place, or the end
-    [[nodiscard]] TCharIterator FindNoCase(char16_t chChar) const noexcept;
+    [[nodiscard]] TCharIterator FindNoCase(TCharacter character) const noexcept;
     /// Finds the first such text.
     /// @param rsText the text; the empty one is found at once
     /// @return its byte index behind the marker, or -1
     [[nodiscard]] int Find(const CStringU& rsText) const noexcept;
+    /// The same for a literal.
+    [[nodiscard]] int Find(const char* pText) const;
     /// Finds the last such text.
     /// @param rsText the text; the empty one is found at the end
     /// @return its byte index behind the marker, or -1
     [[nodiscard]] int ReverseFind(const CStringU& rsText) const noexcept;
+    /// The same for a literal.
+    [[nodiscard]] int ReverseFind(const char* pText) const;
     /// Finds the first character that is in a set.
     /// @return its place, or the end
     [[nodiscard]] TCharIterator FindOneOf(const CStringU& rsSet) const noexcept;
@@ -201,13 +233,12 @@ public:
     [[nodiscard]] TCharIterator FindLastOf(const CStringU& rsSet) const noexcept;
 
     /// Replaces every such character.
-    /// @return how many there were; 0 if one of the two is zero, and in a plain text if only the
-    /// new
-    ///         one is ASCII
-    int Replace(char16_t chOld, char16_t chNew);
+    /// @return how many there were; 0 if one of the two is zero, and in a plain text if the new one
+    ///         is ASCII and the old one isn't
+    int Replace(TCharacter oldOne, TCharacter newOne);
     /// Replaces every character that is the same when both are lowered.
     /// @return as Replace
-    int ReplaceNoCase(char16_t chOld, char16_t chNew);
+    int ReplaceNoCase(TCharacter oldOne, TCharacter newOne);
 
     /// Removes leading white space, as gIsWhiteSpace has it.
     CStringU& TrimLeft();
@@ -225,6 +256,7 @@ private:
     struct TStored; // tells the constructor that takes stored bytes from the others
     CStringU(std::string sStored, const TStored& rTag) noexcept;
 
+    [[nodiscard]] static CStringU Joined(std::string_view sLeft, std::string_view sRight);
     [[nodiscard]] CStringU Piece(std::size_t nFirst, std::size_t nCount) const;
     int ReplaceIn(char16_t chOld, char16_t chNew, char16_t (*pFold)(char16_t) noexcept);
     CStringU& MapCase(char (*pMapAscii)(char) noexcept, char16_t (*pMapUnit)(char16_t) noexcept);
@@ -238,7 +270,8 @@ private:
 };
 
 /// Compares without regard to case: A to Z and, from 0x80 on, each 16-bit character by the simple
-/// mapping of Unicode; by length, zeros included.
+/// mapping of Unicode; by length, zeros included. Any bytes have their place in one order: it is
+/// that of the characters that each text gives when it is decoded from its beginning.
 /// @return below 0, 0, above 0: the left text is the lesser, the same, the greater. The size means
 ///         nothing
 [[nodiscard]] int CompareNoCase(const CStringU& rsLeft, const CStringU& rsRight) noexcept;

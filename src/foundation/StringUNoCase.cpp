@@ -89,8 +89,9 @@ char16_t NextLowered(std::string_view sText, std::size_t& rnIndex) noexcept
     return gToLowerWide(gDecodeUnit(sText, rnIndex));
 }
 
-// From the character on that holds the first byte in which they differ. (Not inlined, so that plain
-// texts don't pay for its registers.)
+// From the character on that holds the first byte in which they differ. In both it begins at the
+// same place, because the lengths of all those before come from equal bytes. (Not inlined, so that
+// plain texts don't pay for its registers.)
 [[gnu::noinline]] int CompareUnits(std::string_view sLeft, std::string_view sRight) noexcept
 {
     const std::size_t nCommon = std::min(sLeft.size(), sRight.size());
@@ -99,8 +100,8 @@ char16_t NextLowered(std::string_view sText, std::size_t& rnIndex) noexcept
                       sRight.begin())
             .first;
     const auto nSame = static_cast<std::size_t>(itSame - sLeft.begin());
-    std::size_t nLeft = gCharacterStart(sLeft, nSame);
-    std::size_t nRight = gCharacterStart(sRight, nSame);
+    std::size_t nLeft = gSequenceStart(sLeft, nSame);
+    std::size_t nRight = nLeft;
     while (nLeft < sLeft.size() && nRight < sRight.size()) {
         const int nDifference = NextLowered(sLeft, nLeft) - NextLowered(sRight, nRight);
         if (nDifference != 0) {

@@ -1,16 +1,30 @@
+#include "foundation/Literal.h"
+#include "foundation/MarkerRule.h"
 #include "foundation/StringU.h"
-#include "platform/base/Ascii.h"
 #include "platform/base/CodePage.h"
+#include "platform/base/StringIndex.h"
 
-#include <algorithm>
+#include <bitset>
 
 namespace
 {
 
-int IndexOrNone(std::size_t nFound) noexcept
+/// The characters of a text, to be asked for one after the other.
+class CCharacterSet
 {
-    return nFound == std::string_view::npos ? -1 : static_cast<int>(nFound);
-}
+public:
+    explicit CCharacterSet(const CStringU& rsText) noexcept
+    {
+        for (TCharIterator it = rsText.begin(); !it.IsEnd(); ++it) {
+            mUnits.set(*it);
+        }
+    }
+
+    [[nodiscard]] bool Has(char16_t chUnit) const noexcept { return mUnits.test(chUnit); }
+
+private:
+    std::bitset<0x10000> mUnits;
+};
 
 char16_t KeepCase(char16_t chChar) noexcept
 {
@@ -19,13 +33,15 @@ char16_t KeepCase(char16_t chChar) noexcept
 
 } // namespace
 
-TCharIterator CStringU::Find(char16_t chChar) const noexcept
+TCharIterator CStringU::Find(TCharacter character) const noexcept
 {
+    const char16_t chChar = character.mchUnit;
     // Not in UTF-8, where a malformed sequence may decode to an ASCII character.
     if (!IsUtf8()) {
         const std::size_t nFound =
             chChar < 0x100 ? Text().find(static_cast<char>(chChar)) : std::string_view::npos;
-        return nFound == std::string_view::npos ? end() : TCharIterator(*this, IndexOrNone(nFound));
+        return nFound == std::string_view::npos ? end()
+                                                : TCharIterator(*this, static_cast<int>(nFound));
     }
     TCharIterator it = begin();
     while (!it.IsEnd() && *it != chChar) {
@@ -34,9 +50,9 @@ TCharIterator CStringU::Find(char16_t chChar) const noexcept
     return it;
 }
 
-TCharIterator CStringU::FindNoCase(char16_t chChar) const noexcept
+TCharIterator CStringU::FindNoCase(TCharacter character) const noexcept
 {
-    const char16_t chLower = gToLowerWide(chChar);
+    const char16_t chLower = gToLowerWide(character.mchUnit);
     TCharIterator it = begin();
     while (!it.IsEnd() && gToLowerWide(*it) != chLower) {
         ++it;
@@ -46,18 +62,29 @@ TCharIterator CStringU::FindNoCase(char16_t chChar) const noexcept
 
 int CStringU::Find(const CStringU& rsText) const noexcept
 {
-    return IndexOrNone(Text().find(rsText.Text()));
+    return gIndexOrNone(Text().find(rsText.Text()));
+}
+
+int CStringU::Find(const char* pText) const
+{
+    return gIndexOrNone(Text().find(CLiteral(pText).Text()));
 }
 
 int CStringU::ReverseFind(const CStringU& rsText) const noexcept
 {
-    return IndexOrNone(Text().rfind(rsText.Text()));
+    return gIndexOrNone(Text().rfind(rsText.Text()));
+}
+
+int CStringU::ReverseFind(const char* pText) const
+{
+    return gIndexOrNone(Text().rfind(CLiteral(pText).Text()));
 }
 
 TCharIterator CStringU::FindOneOf(const CStringU& rsSet) const noexcept
 {
+    const CCharacterSet set(rsSet);
     TCharIterator it = begin();
-    while (!it.IsEnd() && rsSet.Find(*it).IsEnd()) {
+    while (!it.IsEnd() && !set.Has(*it)) {
         ++it;
     }
     return it;
@@ -65,10 +92,11 @@ TCharIterator CStringU::FindOneOf(const CStringU& rsSet) const noexcept
 
 TCharIterator CStringU::FindLastOf(const CStringU& rsSet) const noexcept
 {
+    const CCharacterSet set(rsSet);
     TCharIterator it = end();
     while (it.GetIndex() > 0) {
         --it;
-        if (!rsSet.Find(*it).IsEnd()) {
+        if (set.Has(*it)) {
             return it;
         }
     }
@@ -102,19 +130,19 @@ int CStringU::ReplaceIn(char16_t chOld, char16_t chNew, char16_t (*pFold)(char16
         }
     }
     if (nCount > 0) {
-        *this = CStringU(sWide);
+        Bytes() = gStoreUnits(sWide);
     }
     return nCount;
 }
 
-int CStringU::Replace(char16_t chOld, char16_t chNew)
+int CStringU::Replace(TCharacter oldOne, TCharacter newOne)
 {
-    return ReplaceIn(chOld, chNew, KeepCase);
+    return ReplaceIn(oldOne.mchUnit, newOne.mchUnit, KeepCase);
 }
 
-int CStringU::ReplaceNoCase(char16_t chOld, char16_t chNew)
+int CStringU::ReplaceNoCase(TCharacter oldOne, TCharacter newOne)
 {
-    return ReplaceIn(chOld, chNew, gToLowerWide);
+    return ReplaceIn(oldOne.mchUnit, newOne.mchUnit, gToLowerWide);
 }
 
 bool CStringU::StartsWith(const CStringU& rsText) const noexcept
@@ -122,7 +150,17 @@ bool CStringU::StartsWith(const CStringU& rsText) const noexcept
     return Text().starts_with(rsText.Text());
 }
 
+bool CStringU::StartsWith(const char* pText) const
+{
+    return Text().starts_with(CLiteral(pText).Text());
+}
+
 bool CStringU::EndsWith(const CStringU& rsText) const noexcept
 {
     return Text().ends_with(rsText.Text());
+}
+
+bool CStringU::EndsWith(const char* pText) const
+{
+    return Text().ends_with(CLiteral(pText).Text());
 }

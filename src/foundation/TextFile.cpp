@@ -62,40 +62,38 @@ void TTextFile::SetFilePath(const char* pFileName)
 
 bool TTextFile::Open(const CStringU& rsFileName, unsigned nOpenFlags, CFileException* pError)
 {
-    if (!OpenOnDisk(rsFileName, nOpenFlags, pError)) {
-        return false;
-    }
-    DetectEncoding(EncodingAnsi);
-    GoToStart();
-    return true;
+    return OpenOnDisk(rsFileName, nOpenFlags, pError) &&
+           StartOnDisk(&TTextFile::DetectEncoding, EncodingAnsi, pError);
 }
 
 bool TTextFile::Open(const CStringU& rsFileName, TTextEncoding encoding, unsigned nOpenFlags,
                      CFileException* pError)
 {
-    if (!OpenOnDisk(rsFileName, nOpenFlags, pError)) {
-        return false;
-    }
-    if (!ApplyMarkRule(encoding)) {
-        Close();
-        return false;
-    }
-    GoToStart();
-    return true;
+    return OpenOnDisk(rsFileName, nOpenFlags, pError) &&
+           StartOnDisk(&TTextFile::ApplyMarkRule, encoding, pError);
 }
 
-void TTextFile::GoToStart()
+bool TTextFile::StartOnDisk(bool (TTextFile::*pFindEncoding)(TTextEncoding), TTextEncoding encoding,
+                            CFileException* pError)
 {
     try {
-        TTextFile::Seek(0, begin);
-    } catch (const CFileException&) {
-        return; // what has no positions, such as a pipe, starts where it is
+        if ((this->*pFindEncoding)(encoding)) {
+            TTextFile::Seek(0, begin);
+            return true;
+        }
+    } catch (const CFileException& rException) {
+        if (pError != nullptr) {
+            *pError = rException;
+        }
+        KeepOpenError(pError);
     }
+    TTextFile::Close();
+    return false;
 }
 
 bool TTextFile::OpenOnDisk(const CStringU& rsFileName, unsigned nOpenFlags, CFileException* pError)
 {
-    Close();
+    TTextFile::Close();
     mbInMemory = false;
     mnLine = 0;
     msError.Empty();
@@ -105,17 +103,7 @@ bool TTextFile::OpenOnDisk(const CStringU& rsFileName, unsigned nOpenFlags, CFil
         return false;
     }
     if (!CFile::Open(rsFileName.ToAnsi().GetString(), nOpenFlags, pError)) {
-        CStringU sMessage;
-        const CStringU sShown = gToUnixPath(rsFileName);
-        if (pError != nullptr) {
-            std::array<char, 1024> reason{};
-            pError->GetErrorMessage(reason.data(), static_cast<unsigned>(reason.size()));
-            sMessage.Format("Can't open file \"%s\": %s", sShown.Data(),
-                            CStringU(reason.data()).Data());
-        } else {
-            sMessage.Format("Can't open file \"%s\".", sShown.Data());
-        }
-        KeepError(sMessage);
+        KeepOpenError(pError);
         return false;
     }
     AllocateBuffer();
@@ -142,6 +130,8 @@ void TTextFile::Close()
         WriteOut();
     }
     ResetBuffer();
+    // A CFile opens without a word to its derived class; then the text in memory was left.
+    mbInMemory = IsInMemory();
     try {
         CFile::Close();
     } catch (const CFileException& rException) {
@@ -151,10 +141,10 @@ void TTextFile::Close()
 
 bool TTextFile::Remove()
 {
-    if (mbInMemory || msFileName.IsEmpty()) {
+    if (IsInMemory() || msFileName.IsEmpty()) {
         return false;
     }
-    Close();
+    TTextFile::Close();
     try {
         CFile::Remove(msFileName.ToAnsi().GetString());
     } catch (const CFileException&) {
@@ -163,18 +153,23 @@ bool TTextFile::Remove()
     return true;
 }
 
-void TTextFile::DetectEncoding(TTextEncoding whenUnknown)
+bool TTextFile::DetectEncoding(TTextEncoding whenUnknown)
 {
     std::array<char, kDetectedBytes> first{};
     unsigned nRead = 0;
     try {
         const std::uint64_t nPosition = RawPosition();
         nRead = RawRead(first.data(), first.size());
-        RawSeek(nPosition);
+        if (IsStream()) {
+            KeepRead({first.data(), nRead}); // what was read from it can't be read again
+        } else {
+            RawSeek(nPosition);
+        }
     } catch (const CFileException&) {
         nRead = 0; // not open for reading
     }
     mEncoding = gDetectEncoding({first.data(), nRead}, whenUnknown);
+    return true;
 }
 
 bool TTextFile::ApplyMarkRule(TTextEncoding encoding)
@@ -182,8 +177,7 @@ bool TTextFile::ApplyMarkRule(TTextEncoding encoding)
     mEncoding = encoding;
     const unsigned nMode = mnOpenFlags & kModeMask;
     if (nMode != modeWrite && nMode != modeReadWrite) {
-        DetectEncoding(encoding);
-        return true;
+        return DetectEncoding(encoding);
     }
     try {
         if (RawLength() == 0) {
@@ -208,6 +202,21 @@ void TTextFile::KeepError(const CStringU& rsError)
     if (msError.IsEmpty()) {
         msError = rsError;
     }
+}
+
+void TTextFile::KeepOpenError(const CFileException* pError)
+{
+    CStringU sMessage;
+    const CStringU sShown = gToUnixPath(msFileName);
+    if (pError != nullptr) {
+        std::array<char, 1024> reason{};
+        pError->GetErrorMessage(reason.data(), static_cast<unsigned>(reason.size()));
+        sMessage.Format("Can't open file \"%s\": %s", sShown.Data(),
+                        CStringU(reason.data()).Data());
+    } else {
+        sMessage.Format("Can't open file \"%s\".", sShown.Data());
+    }
+    KeepError(sMessage);
 }
 
 void TTextFile::KeepWriteError(int nOsError)

@@ -21,6 +21,13 @@
 /// Positions and lengths are in bytes and leave out the mark, so 0 is the first byte behind it. The
 /// text operations throw nothing: the first error since the last Open is kept as a text. What is
 /// written is in the file, or in the text in memory, after Flush, Close or the destructor.
+///
+/// What can't be sought in, such as a pipe, is either read or written, from its beginning to its
+/// end; what a Seek passes over is read and forgotten. To be read it is opened as soon as its first
+/// bytes are there.
+///
+/// The forms of Open that CFile has are reached through a CFile alone. They open the bytes of a
+/// file: the encoding, the name in messages and the error text stay those from before.
 class TTextFile : public CFile, private TNonCopyable
 {
 public:
@@ -48,22 +55,25 @@ public:
     ~TTextFile() override;
 
     /// Where the next read or write goes.
+    /// @throws CFileException if closed
     [[nodiscard]] std::uint64_t GetPosition() const override;
     /// Sets the name that messages and Remove use.
     /// @throws CInvalidArgException for null
     void SetFilePath(const char* pFileName) override;
     /// Moves the position, perhaps past the end.
-    /// @throws CFileException for a place in front of the text, and if the system refuses
+    /// @throws CFileException for a place in front of the text, for one that is left behind where
+    ///         the file can only be read on, if closed, and if the system refuses
     std::uint64_t Seek(std::int64_t nOffset, unsigned nFrom) override;
-    /// Cuts the file or lengthens it with zeros. The new length counts the mark; a file cut to 0
-    /// gets its mark again. Does nothing if what is buffered can't be written.
-    /// @throws CFileException if the system refuses
+    /// Has all that is written on the disk, and then cuts the file or lengthens it with zeros. A
+    /// file cut to 0 gets its mark again. Does nothing if what is buffered can't be written.
+    /// @param nNewLength without the mark, as GetLength gives it
+    /// @throws CFileException if the system refuses, and in memory for more than 2 GB
     void SetLength(std::uint64_t nNewLength) override;
-    /// The length, with what is still buffered.
+    /// The length, with what is still buffered; of what can't be sought in, how far it was read or
+    /// written.
     [[nodiscard]] std::uint64_t GetLength() const override;
     /// Reads bytes through the buffer.
-    /// @return how many; less than nCount at the end, where the system refuses, and on a closed
-    /// file
+    /// @return how many; less than nCount at the end, where the system refuses, and if closed
     unsigned Read(void* pBuffer, unsigned nCount) override;
     /// Writes bytes through the buffer, as they are. An error while the buffer is written out is
     /// kept as a text.
@@ -81,15 +91,16 @@ public:
 
     /// Opens a file and detects its encoding, EncodingAnsi if unknown. With CFile::modeCreate its
     /// folder is made where there is none.
-    /// @param rsFileName the name
+    /// @param rsFileName the name, whose characters must be of the system's code page
     /// @param nOpenFlags of CFile::OpenFlags
-    /// @param pError if not null: filled where the file can't be opened, and its text becomes a
-    /// part of
-    ///               the message
-    /// @return false on failure; GetLastErrorText says why
+    /// @param pError if not null: filled where the file can't be opened, and the message has its
+    ///               text then
+    /// @return false on failure, and the file is closed; GetLastErrorText says why
     virtual bool Open(const CStringU& rsFileName, unsigned nOpenFlags, CFileException* pError);
-    /// Opens a file in an encoding. One opened only for reading still has its encoding detected; an
-    /// empty one gets the encoding's mark; any other is taken for what the caller says.
+    /// Opens a file in an encoding. One opened only for reading still has its encoding detected,
+    /// and has the one given where nothing tells of another; an empty one gets the encoding's mark;
+    /// any other is taken for what the caller says. An encoding with a mark is taken at its word:
+    /// of a file that has none as many bytes count as the mark, and aren't read.
     bool Open(const CStringU& rsFileName, TTextEncoding encoding, unsigned nOpenFlags,
               CFileException* pError);
     /// Closes a file on the disk and deletes it.
@@ -150,26 +161,34 @@ public:
 private:
     void StartInMemory(TTextEncoding encoding, const CStringU& rsName);
     bool OpenOnDisk(const CStringU& rsFileName, unsigned nOpenFlags, CFileException* pError);
+    bool StartOnDisk(bool (TTextFile::*pFindEncoding)(TTextEncoding), TTextEncoding encoding,
+                     CFileException* pError);
     bool MakeFolder(const CStringU& rsFileName);
-    void DetectEncoding(TTextEncoding whenUnknown);
+    bool DetectEncoding(TTextEncoding whenUnknown);
     bool ApplyMarkRule(TTextEncoding encoding);
-    void GoToStart();
 
     void KeepError(const CStringU& rsError);
+    void KeepOpenError(const CFileException* pError);
     void KeepWriteError(int nOsError);
     [[nodiscard]] std::int64_t MarkSize() const noexcept;
 
     // The file or the text in memory, past the buffer and with the mark.
+    [[nodiscard]] bool IsInMemory() const noexcept { return mbInMemory && !HasHandle(); }
+    [[nodiscard]] bool IsStream() const noexcept;
     unsigned RawRead(void* pBuffer, std::size_t nCount);
     void RawWrite(const char* pBuffer, std::size_t nCount);
     void RawSeek(std::uint64_t nPosition);
     [[nodiscard]] std::uint64_t RawPosition() const;
     [[nodiscard]] std::uint64_t RawLength() const;
     void WriteIntoMemory(std::string_view sBytes);
+    void SkipTo(std::uint64_t nPosition);
+    void RequireRoom(std::uint64_t nSize) const;
 
     // The buffer.
     void AllocateBuffer();
     void ResetBuffer() noexcept;
+    void KeepRead(std::string_view sBytes);
+    [[nodiscard]] std::uint64_t CurrentPosition() const;
     bool WriteOut();
     bool FillIfEmpty();
     [[nodiscard]] std::string_view Buffered() const noexcept;
@@ -178,16 +197,18 @@ private:
 
     bool ReadLineOfBytes(CStringU& rsLine);
     bool ReadLineOfUnits(CStringU& rsLine);
+    std::size_t TakeUnits(std::string_view sBytes, bool& rbLineEnd);
     void SetLine(CStringU& rsLine, std::string_view sBytes) const;
     bool WriteBytes(std::string_view sBytes);
     bool WriteUnits(std::u16string_view sUnits);
     template <class TWrite> bool CatchWriteError(const TWrite& rWrite);
     template <class TNumber> TTextFile& WriteNumber(TNumber number);
 
-    std::string msLineBuffer; // grows, and is freed by Close
+    std::string msLineBuffer;    // grows, and is freed by Close
+    std::u16string msUnitBuffer; // the same for 16-bit units
     std::unique_ptr<char[]> mpBuffer;
     std::uint64_t mnValid = 0;          // how much of the buffer is filled
-    std::uint64_t mnBufferPosition = 0; // where in the file its first byte is
+    std::uint64_t mnBufferPosition = 0; // where in the file its first byte is, if it has any
     std::uint64_t mnIndex = 0;          // where in it the next read or write goes
     bool mbDirty = false;               // it holds what isn't in the file yet
     TTextEncoding mEncoding = EncodingAnsi;
@@ -198,6 +219,7 @@ private:
     CStringU msOwnText;
     CStringU* mpText = nullptr; // msOwnText or the caller's
     std::uint64_t mnMemoryPosition = 0;
+    std::uint64_t mnStreamPosition = 0; // of what doesn't know its position itself
     int mnLine = 0;
 };
 

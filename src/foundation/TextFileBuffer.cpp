@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
-#include <limits>
+#include <utility>
 
 namespace
 {
@@ -25,10 +25,26 @@ void TTextFile::AllocateBuffer()
 void TTextFile::ResetBuffer() noexcept
 {
     std::string().swap(msLineBuffer);
+    std::u16string().swap(msUnitBuffer);
     mnValid = 0;
     mnBufferPosition = 0;
     mnIndex = 0;
     mbDirty = false;
+    mnStreamPosition = 0;
+}
+
+// Puts what was read from the raw beginning into the buffer.
+void TTextFile::KeepRead(std::string_view sBytes)
+{
+    mnValid = sBytes.copy(mpBuffer.get(), kBufferSize);
+    mnBufferPosition = 0;
+    mnIndex = 0;
+}
+
+std::uint64_t TTextFile::CurrentPosition() const
+{
+    // Where nothing is buffered the file knows it best, whatever became of the last call.
+    return mnValid > 0 && IsOpen() ? mnBufferPosition + mnIndex : RawPosition();
 }
 
 std::string_view TTextFile::Buffered() const noexcept
@@ -39,27 +55,27 @@ std::string_view TTextFile::Buffered() const noexcept
 
 bool TTextFile::WriteOut()
 {
-    if (mnValid == 0) {
+    if (mnValid == 0 || !IsOpen()) {
         return true;
     }
     bool bWritten = true;
-    if (mbDirty) {
-        mbDirty = false;
-        try {
-            RawSeek(mnBufferPosition);
-            RawWrite(mpBuffer.get(), mnValid);
-        } catch (const CFileException& rException) {
-            KeepWriteError(rException.GetOsError());
-            bWritten = false;
-        }
-    }
-    mnBufferPosition += mnIndex;
+    const std::uint64_t nPosition = mnBufferPosition + mnIndex;
+    const std::size_t nValid = std::exchange(mnValid, 0);
     mnIndex = 0;
-    mnValid = 0;
     try {
-        RawSeek(mnBufferPosition);
+        if (std::exchange(mbDirty, false)) {
+            bWritten = false;
+            RawSeek(mnBufferPosition);
+            RawWrite(mpBuffer.get(), nValid);
+            bWritten = true;
+        }
+    } catch (const CFileException& rException) {
+        KeepWriteError(rException.GetOsError());
+    }
+    try {
+        RawSeek(nPosition);
     } catch (const CFileException&) {
-        // What has no positions, such as a pipe, is read on from where it is.
+        // What can't be sought in is read and written on from where it is.
         return bWritten;
     }
     return bWritten;
@@ -73,6 +89,7 @@ bool TTextFile::FillIfEmpty()
     WriteOut();
     AllocateBuffer();
     try {
+        mnBufferPosition = RawPosition();
         mnValid = RawRead(mpBuffer.get(), kBufferSize);
     } catch (const CFileException&) {
         mnValid = 0;
@@ -99,14 +116,11 @@ unsigned TTextFile::Read(void* pBuffer, unsigned nCount)
     std::size_t nDone = TakeBuffered(pOut, nCount);
     if (nCount - nDone >= kBufferSize) {
         const std::size_t nDirect = nCount - nDone - kBufferSize;
-        std::size_t nRead = 0;
         try {
-            nRead = RawRead(pOut + nDone, nDirect);
+            nDone += RawRead(pOut + nDone, nDirect);
         } catch (const CFileException&) {
             return static_cast<unsigned>(nDone);
         }
-        mnBufferPosition += nRead;
-        nDone += nRead;
     }
     if (nDone < nCount && FillIfEmpty()) {
         nDone += TakeBuffered(pOut + nDone, nCount - nDone);
@@ -122,7 +136,10 @@ bool TTextFile::Put(std::string_view sBytes)
     if (sBytes.empty()) {
         return true;
     }
-    AllocateBuffer();
+    if (mnValid == 0) {
+        AllocateBuffer();
+        mnBufferPosition = RawPosition();
+    }
     const std::size_t nBuffered = std::min<std::size_t>(sBytes.size(), kBufferSize - mnIndex);
     std::memcpy(mpBuffer.get() + mnIndex, sBytes.data(), nBuffered);
     mnIndex += nBuffered;
@@ -131,7 +148,6 @@ bool TTextFile::Put(std::string_view sBytes)
     const bool bWritten = mnIndex < kBufferSize || WriteOut();
     if (nBuffered < sBytes.size()) {
         RawWrite(sBytes.data() + nBuffered, sBytes.size() - nBuffered);
-        mnBufferPosition += sBytes.size() - nBuffered;
     }
     return bWritten;
 }
@@ -139,89 +155,4 @@ bool TTextFile::Put(std::string_view sBytes)
 void TTextFile::Write(const void* pBuffer, unsigned nCount)
 {
     Put({static_cast<const char*>(pBuffer), nCount});
-}
-
-std::uint64_t TTextFile::GetPosition() const
-{
-    const std::uint64_t nPosition = mnValid > 0 ? mnBufferPosition + mnIndex : RawPosition();
-    const auto nMark = static_cast<std::uint64_t>(MarkSize());
-    return nPosition - std::min(nPosition, nMark);
-}
-
-std::uint64_t TTextFile::GetLength() const
-{
-    const std::uint64_t nBufferEnd = mnValid > 0 ? mnBufferPosition + mnValid : 0;
-    const std::uint64_t nLength = std::max(RawLength(), nBufferEnd);
-    const auto nMark = static_cast<std::uint64_t>(MarkSize());
-    return nLength - std::min(nLength, nMark);
-}
-
-std::uint64_t TTextFile::Seek(std::int64_t nOffset, unsigned nFrom)
-{
-    const std::int64_t nMark = MarkSize();
-    std::uint64_t nFromPosition = 0; // where the offset counts from
-    switch (nFrom) {
-    case begin:
-        nFromPosition = static_cast<std::uint64_t>(nMark);
-        break;
-    case current:
-        nFromPosition = mnBufferPosition + mnIndex;
-        break;
-    case end:
-        nFromPosition = static_cast<std::uint64_t>(nMark) + GetLength();
-        break;
-    default:
-        CFileException::ThrowOsError(EINVAL, msFileName.ToAnsi());
-    }
-    const auto nSignedFrom = static_cast<std::int64_t>(nFromPosition);
-    if (nOffset > std::numeric_limits<std::int64_t>::max() - nSignedFrom ||
-        nSignedFrom + nOffset < nMark) {
-        CFileException::ThrowOsError(EINVAL, msFileName.ToAnsi());
-    }
-    const auto nTarget = static_cast<std::uint64_t>(nSignedFrom + nOffset);
-    if (mnValid > 0 && nTarget >= mnBufferPosition && nTarget <= mnBufferPosition + mnValid) {
-        mnIndex = nTarget - mnBufferPosition;
-    } else {
-        WriteOut();
-        RawSeek(nTarget);
-        mnBufferPosition = nTarget;
-    }
-    return nTarget - static_cast<std::uint64_t>(nMark);
-}
-
-void TTextFile::SetLength(std::uint64_t nNewLength)
-{
-    if (!WriteOut()) {
-        return;
-    }
-    if (mbInMemory) {
-        std::string sText(mpText->Text());
-        sText.resize(nNewLength);
-        mpText->Empty();
-        mpText->AppendUtf8(sText);
-    } else {
-        CFile::SetLength(nNewLength);
-    }
-    ApplyMarkRule(mEncoding);
-    mnBufferPosition = RawPosition();
-}
-
-void TTextFile::LockRange(std::uint64_t nPosition, std::uint64_t nCount)
-{
-    if (!mbInMemory) {
-        CFile::LockRange(nPosition + static_cast<std::uint64_t>(MarkSize()), nCount);
-    }
-}
-
-void TTextFile::UnlockRange(std::uint64_t nPosition, std::uint64_t nCount)
-{
-    if (!mbInMemory) {
-        CFile::UnlockRange(nPosition + static_cast<std::uint64_t>(MarkSize()), nCount);
-    }
-}
-
-void TTextFile::Flush()
-{
-    WriteOut();
-    CFile::Flush();
 }

@@ -81,26 +81,42 @@ void TTextFile::SetLine(CStringU& rsLine, std::string_view sBytes) const
 
 bool TTextFile::ReadLineOfUnits(CStringU& rsLine)
 {
-    std::u16string sUnits;
+    msUnitBuffer.reserve(kFirstLineCapacity);
+    msUnitBuffer.clear();
     bool bRead = false;
-    std::array<char, kUnit> bytes{};
-    // Each unit is read by itself, since one may stand across the end of the buffer. An odd last
-    // byte is no unit.
-    while (TTextFile::Read(bytes.data(), kUnit) == kUnit) {
-        bRead = true;
-        const auto nFirst = static_cast<unsigned char>(bytes[0]);
-        const auto nSecond = static_cast<unsigned char>(bytes[1]);
-        const auto chUnit = static_cast<char16_t>(gIsBigEndian(mEncoding) ? nFirst * 256 + nSecond
-                                                                          : nSecond * 256 + nFirst);
-        if (chUnit == u'\n') {
-            break;
+    bool bLineEnd = false;
+    while (!bLineEnd) {
+        std::array<char, kUnit> split{};
+        if (Buffered().size() >= kUnit) {
+            mnIndex += TakeUnits(Buffered(), bLineEnd);
+        } else if (TTextFile::Read(split.data(), kUnit) == kUnit) {
+            TakeUnits({split.data(), kUnit}, bLineEnd); // may stand across the end of the buffer
+        } else {
+            break; // an odd last byte is no unit
         }
-        if (chUnit != u'\r') {
-            sUnits += chUnit;
+        bRead = true;
+    }
+    rsLine = CStringU(std::u16string_view(msUnitBuffer));
+    return bRead;
+}
+
+// Puts units into the line up to a line feed or the last whole one. Result: how many bytes of them.
+std::size_t TTextFile::TakeUnits(std::string_view sBytes, bool& rbLineEnd)
+{
+    const bool bSwap = gIsBigEndian(mEncoding);
+    std::size_t nAt = 0;
+    while (!rbLineEnd && nAt + kUnit <= sBytes.size()) {
+        const unsigned nFirst = static_cast<unsigned char>(sBytes[nAt]);
+        const unsigned nSecond = static_cast<unsigned char>(sBytes[nAt + 1]);
+        nAt += kUnit;
+        const auto chUnit =
+            static_cast<char16_t>(bSwap ? nFirst * 256 + nSecond : nSecond * 256 + nFirst);
+        rbLineEnd = chUnit == u'\n';
+        if (!rbLineEnd && chUnit != u'\r') {
+            msUnitBuffer += chUnit;
         }
     }
-    rsLine = CStringU(sUnits);
-    return bRead;
+    return nAt;
 }
 
 CStringU TTextFile::ReadAll()

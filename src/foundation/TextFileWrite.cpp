@@ -60,7 +60,7 @@ bool TTextFile::WriteText(const CStringU& rsText)
 
 bool TTextFile::WriteText(const char* pText)
 {
-    const std::string_view sText = gOperandView(pText);
+    const std::string_view sText = gViewOf(pText);
     return gHasTwoByteUnits(mEncoding) ? WriteUnits(gMultiByteToWide(sText, gGetSystemCodePage()))
                                        : WriteBytes(sText);
 }

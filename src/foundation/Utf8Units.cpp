@@ -98,13 +98,21 @@ std::size_t gPreviousCharacter(std::string_view sText, std::size_t nIndex) noexc
     return nIndex;
 }
 
-std::size_t gCharacterStart(std::string_view sText, std::size_t nIndex) noexcept
+std::size_t gSequenceStart(std::string_view sText, std::size_t nIndex) noexcept
 {
-    const std::size_t nLeast = nIndex - std::min(nIndex, kMostSteps);
-    while (nIndex > nLeast && nIndex < sText.size() && gIsContinuation(sText[nIndex])) {
-        --nIndex;
+    std::size_t nAt = 0;
+    while (nAt < nIndex) {
+        if (!IsHigh(sText[nAt])) {
+            nAt += gFindNonAscii(sText.substr(nAt, nIndex - nAt));
+            continue;
+        }
+        const std::size_t nNext = nAt + gSequenceLength(sText[nAt]);
+        if (nNext > nIndex) {
+            return nAt;
+        }
+        nAt = nNext;
     }
-    return nIndex;
+    return nAt;
 }
 
 std::u16string gDecodeUnits(std::string_view sText)

@@ -35,11 +35,9 @@
 /// Decodes one unit and moves on.
 /// @param sText the bytes, without the marker
 /// @param rnIndex where the sequence begins, in bytes; moves by the length that its first byte
-/// states,
-///                perhaps past the end. It stays at a zero byte and at the end
-/// @return the unit; 0 at a zero byte and at or past the end. Trail bytes that aren't there are
-/// read
-///         as 0, of four bytes only the low 16 bits are kept, and 0xF8 to 0xFF are a question mark
+///                states, perhaps past the end. It stays at a zero byte and at the end
+/// @return the unit; 0 at a zero byte and at or past the end. Trail bytes that aren't there read as
+///         0, of four bytes only the low 16 bits are kept, and 0xF8 to 0xFF are a question mark
 [[nodiscard]] char16_t gDecodeUnit(std::string_view sText, std::size_t& rnIndex) noexcept;
 
 /// The index of the next character: behind this byte and the continuation bytes that follow it.
@@ -54,11 +52,13 @@
 /// @return 0 at the beginning
 [[nodiscard]] std::size_t gPreviousCharacter(std::string_view sText, std::size_t nIndex) noexcept;
 
-/// The index at which the character begins that a byte belongs to.
+/// The index at which the sequence begins that a byte belongs to when the text is decoded from its
+/// beginning. In well-formed text that is a character; in malformed text it may be other than what
+/// a look back over continuation bytes tells.
 /// @param sText the bytes, without the marker
-/// @param nIndex in bytes; at the end it stays
-/// @return nIndex, or up to four bytes before it where it stands on a continuation byte
-[[nodiscard]] std::size_t gCharacterStart(std::string_view sText, std::size_t nIndex) noexcept;
+/// @param nIndex in bytes, at most sText.size()
+/// @return at most nIndex
+[[nodiscard]] std::size_t gSequenceStart(std::string_view sText, std::size_t nIndex) noexcept;
 
 /// Decodes a text up to its end or the first zero byte at which a sequence would begin.
 /// @param sText the bytes, without the marker

@@ -1,15 +1,16 @@
 // Comparing and converting without regard to case.
 
 #include "foundation/RandomText.h"
+#include "foundation/StringModel.h"
 #include "foundation/StringU.h"
 #include "support/PrintStringU.h"
 
 #include <gtest/gtest.h>
-#include <unicode/uchar.h>
 
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace
 {
@@ -21,19 +22,12 @@ int Sign(int nValue)
     return (nValue > 0) - (nValue < 0);
 }
 
-int LowerUnit(char16_t chUnit)
-{
-    if (chUnit >= u'A' && chUnit <= u'Z')
-        return chUnit + 32;
-    return chUnit < 128 ? chUnit : static_cast<char16_t>(u_tolower(chUnit));
-}
-
 // By units: what the comparison must give on every well-formed text.
 int CompareByUnits(std::u16string_view sLeft, std::u16string_view sRight)
 {
     for (std::size_t i = 0; i < sLeft.size() && i < sRight.size(); ++i) {
-        if (LowerUnit(sLeft[i]) != LowerUnit(sRight[i]))
-            return Sign(LowerUnit(sLeft[i]) - LowerUnit(sRight[i]));
+        if (model::Lower(sLeft[i]) != model::Lower(sRight[i]))
+            return Sign(model::Lower(sLeft[i]) - model::Lower(sRight[i]));
     }
     return Sign(static_cast<int>(sLeft.size()) - static_cast<int>(sRight.size()));
 }
@@ -88,8 +82,8 @@ TEST(StringUNoCaseTest, EveryPairOfAsciiCharactersInsideALongText)
             std::string sLeft = "aBcDeFgHi", sRight = "AbCdEfGhI";
             sLeft[5] = static_cast<char>(nLeft);
             sRight[5] = static_cast<char>(nRight);
-            const int nExpected =
-                LowerUnit(static_cast<char16_t>(nLeft)) - LowerUnit(static_cast<char16_t>(nRight));
+            const int nExpected = model::Lower(static_cast<char16_t>(nLeft)) -
+                                  model::Lower(static_cast<char16_t>(nRight));
             ASSERT_EQ(Sign(CompareNoCase(sLeft, sRight)), Sign(nExpected))
                 << nLeft << ' ' << nRight;
         }
@@ -120,23 +114,94 @@ TEST(StringUNoCaseTest, EveryUnitIsTheSameAsItsSmallLetter)
     for (int nUnit = 1; nUnit < 0x10000; ++nUnit) {
         const auto chUnit = static_cast<char16_t>(nUnit);
         ASSERT_EQ(
-            CompareNoCase(CStringU(chUnit), CStringU(static_cast<char16_t>(LowerUnit(chUnit)))), 0)
+            CompareNoCase(CStringU(chUnit), CStringU(static_cast<char16_t>(model::Lower(chUnit)))),
+            0)
             << nUnit;
     }
 }
 
-TEST(StringUNoCaseTest, EveryPairOfOneByteAndManyOfTwoByteTextsAreInOneOrder)
+int SignOf(const std::string& rsLeft, const std::string& rsRight)
+{
+    return Sign(
+        CompareNoCase(CStringU(rsLeft, TTextKind::Plain), CStringU(rsRight, TTextKind::Plain)));
+}
+
+int ModelSignOf(const std::string& rsLeft, const std::string& rsRight)
+{
+    return model::CompareNoCase(model::Text(rsLeft), model::Text(rsRight));
+}
+
+TEST(StringUNoCaseTest, EveryTextOfTwoBytesAgainstEveryOneOfOneByte)
 {
     for (int nFirst = 0; nFirst < 256; ++nFirst) {
         for (int nSecond = 0; nSecond < 256; ++nSecond) {
             const std::string sTwo{static_cast<char>(nFirst), static_cast<char>(nSecond)};
-            const CStringU sLeft(sTwo.substr(0, 1), TTextKind::Plain);
-            const CStringU sRight(sTwo.substr(1), TTextKind::Plain);
-            const CStringU sBoth(sTwo, TTextKind::Plain);
-            ASSERT_EQ(Sign(CompareNoCase(sLeft, sRight)), -Sign(CompareNoCase(sRight, sLeft)));
-            ASSERT_EQ(Sign(CompareNoCase(sBoth, sRight)), -Sign(CompareNoCase(sRight, sBoth)));
-            ASSERT_EQ(CompareNoCase(sBoth, sBoth), 0);
+            const std::string sFirst = sTwo.substr(0, 1), sSecond = sTwo.substr(1);
+            ASSERT_EQ(SignOf(sFirst, sSecond), ModelSignOf(sFirst, sSecond)) << nFirst << nSecond;
+            ASSERT_EQ(SignOf(sTwo, sFirst), ModelSignOf(sTwo, sFirst)) << nFirst << nSecond;
+            ASSERT_EQ(SignOf(sSecond, sTwo), ModelSignOf(sSecond, sTwo)) << nFirst << nSecond;
+            ASSERT_EQ(SignOf(sTwo, sTwo), 0);
         }
+    }
+}
+
+// All texts of up to two bytes of these, which are of each kind.
+std::vector<std::string> ShortTexts()
+{
+    const std::string sAlphabet("\0Aa\x7F\x80\x81\xC3\xE2\xF0\xF8"sv);
+    std::vector<std::string> texts{""};
+    for (const char chFirst : sAlphabet) {
+        texts.emplace_back(1, chFirst);
+        for (const char chSecond : sAlphabet)
+            texts.push_back({chFirst, chSecond});
+    }
+    return texts;
+}
+
+TEST(StringUNoCaseTest, MalformedTextsHaveOneOrderToo)
+{
+    std::vector<CStringU> texts;
+    for (const std::string& rsBytes : ShortTexts())
+        texts.emplace_back(rsBytes, TTextKind::Plain);
+    const TStringLessNoCase less;
+    for (const CStringU& rsA : texts) {
+        ASSERT_FALSE(less(rsA, rsA));
+        for (const CStringU& rsB : texts) {
+            ASSERT_FALSE(less(rsA, rsB) && less(rsB, rsA));
+            const bool bSame = !less(rsA, rsB) && !less(rsB, rsA);
+            for (const CStringU& rsC : texts) {
+                // Transitive, and so is being the same.
+                ASSERT_FALSE(less(rsA, rsB) && less(rsB, rsC) && !less(rsA, rsC))
+                    << testing::PrintToString(rsA) << testing::PrintToString(rsB)
+                    << testing::PrintToString(rsC);
+                ASSERT_FALSE(bSame && less(rsA, rsC) != less(rsB, rsC))
+                    << testing::PrintToString(rsA) << testing::PrintToString(rsB)
+                    << testing::PrintToString(rsC);
+            }
+        }
+    }
+}
+
+TEST(StringUNoCaseTest, AMapOfMalformedKeysFindsEachOfThem)
+{
+    std::map<CStringU, std::string, TStringLessNoCase> map;
+    for (const std::string& rsBytes : ShortTexts())
+        map.emplace(CStringU(rsBytes, TTextKind::Plain), rsBytes);
+    for (const std::string& rsBytes : ShortTexts()) {
+        const auto it = map.find(CStringU(rsBytes, TTextKind::Plain));
+        ASSERT_NE(it, map.end()) << testing::PrintToString(rsBytes);
+        ASSERT_EQ(ModelSignOf(it->second, rsBytes), 0);
+    }
+}
+
+TEST(StringUNoCaseTest, RandomBytesCompareByWhatTheyDecodeTo)
+{
+    CRandomText random(12);
+    for (int nRound = 0; nRound < kRandomRounds; ++nRound) {
+        const std::string sCommon = random.Bytes(40);
+        const std::string sLeft = sCommon + random.Bytes(4), sRight = sCommon + random.Bytes(4);
+        ASSERT_EQ(SignOf(sLeft, sRight), ModelSignOf(sLeft, sRight))
+            << testing::PrintToString(sLeft) << testing::PrintToString(sRight);
     }
 }
 
@@ -150,7 +215,7 @@ TEST(StringUNoCaseTest, RandomTextsCompareByTheirUnits)
             sRight = random.Text(20);
         for (char16_t& rchUnit : sRight) {
             if (random.Number(4) == 0)
-                rchUnit = static_cast<char16_t>(LowerUnit(rchUnit));
+                rchUnit = static_cast<char16_t>(model::Lower(rchUnit));
             if (random.Number(nRound % 4 == 0 ? 200 : 30) == 0)
                 rchUnit = random.Unit();
         }
@@ -165,6 +230,21 @@ TEST(StringUNoCaseTest, AMapFindsAKeyOfAnyCase)
     EXPECT_EQ(map.at("NODE"), 1);
     EXPECT_EQ(map.at(u"\u00e9T\u00c9"), 2);
     EXPECT_FALSE(map.contains("nodes"));
+}
+
+TEST(StringUNoCaseTest, RandomTextsAreConvertedByTheirUnits)
+{
+    CRandomText random(13);
+    for (int nRound = 0; nRound < kRandomRounds; ++nRound) {
+        const std::u16string sUnits = random.Text(12);
+        std::u16string sLower = sUnits, sUpper = sUnits;
+        for (char16_t& rchUnit : sLower)
+            rchUnit = model::Lower(rchUnit);
+        for (char16_t& rchUnit : sUpper)
+            rchUnit = model::Upper(rchUnit);
+        ASSERT_EQ(CStringU(sUnits).MakeLower(), CStringU(sLower));
+        ASSERT_EQ(CStringU(sUnits).MakeUpper(), CStringU(sUpper));
+    }
 }
 
 TEST(StringUNoCaseTest, ConvertsCase)

@@ -2,6 +2,7 @@
 // everything.
 
 #include "foundation/RandomText.h"
+#include "foundation/StringModel.h"
 #include "foundation/StringU.h"
 #include "support/PrintStringU.h"
 
@@ -9,6 +10,8 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace
 {
@@ -36,7 +39,7 @@ TEST(StringURandomTest, ChainsOfChangesKeepTheMarkerRule)
         const std::u16string sOther = random.Text(4);
         const int nCut = random.Number(static_cast<int>(sUnits.size()));
         const auto nUnit = static_cast<std::size_t>(nCut);
-        switch (random.Number(4)) {
+        switch (random.Number(6)) {
         case 0:
             sText += CStringU(sOther);
             sUnits += sOther;
@@ -53,6 +56,20 @@ TEST(StringURandomTest, ChainsOfChangesKeepTheMarkerRule)
             sText = sText.Mid(sText.begin() + nCut);
             sUnits.erase(0, nUnit);
             break;
+        case 4: {
+            const int nBytes = sText.GetByteLength() - (sText.begin() + nCut).GetIndex();
+            sText = sText.Right(nBytes) + sText;
+            sUnits = sUnits.substr(nUnit) + sUnits;
+            break;
+        }
+        case 5: {
+            const auto nLast = nUnit + static_cast<std::size_t>(random.Number(3));
+            const int nFirst = (sText.begin() + nCut).GetIndex();
+            const int nEnd = (sText.begin() + static_cast<int>(nLast)).GetIndex();
+            sText = sText.Mid(nFirst, nEnd - nFirst);
+            sUnits = sUnits.substr(nUnit, nLast - nUnit);
+            break;
+        }
         default:
             sText += random.Number(1) == 0 ? u'a' : u'\u20ac';
             sUnits += sText.ToWide().back();
@@ -73,20 +90,40 @@ TEST(StringURandomTest, AnyBytesGiveSomeText)
     for (int nRound = 0; nRound < kRandomRounds; ++nRound) {
         CStringU sText(random.Bytes(12), static_cast<TTextKind>(random.Number(4)));
         const CStringU sOther(random.Bytes(4), TTextKind::Plain);
-        ASSERT_EQ(CompareNoCase(sText, sText), 0);
-        ASSERT_LE(sText.ToWide().size(), sText.Text().size());
+        const std::string sStored(sText.Stored());
+        ASSERT_EQ(sText.Text(), model::Text(sStored));
+        ASSERT_EQ(sText.ToWide(), model::Wide(sStored));
+        const std::vector<model::TPlace> places = model::Places(sStored);
+        auto place = places.begin();
+        for (TCharIterator it = sText.begin(); !it.IsEnd(); ++it, ++place) {
+            ASSERT_NE(place, places.end());
+            ASSERT_EQ(it.GetIndex(), static_cast<int>(place->nIndex));
+            ASSERT_EQ(*it, place->chUnit);
+        }
+        ASSERT_EQ(place, places.end());
         ASSERT_EQ(sText.end().GetIndex(), sText.GetByteLength());
-        ASSERT_LE(sText.Find(sOther), sText.ReverseFind(sOther));
-        // A stray first byte 0x80 reads as a marker.
-        const int nBoth = sText.GetByteLength() + sOther.GetByteLength();
-        ASSERT_LE(nBoth - (sText + sOther).GetByteLength(), 1);
-        int nSteps = 0;
-        for (TCharIterator it = sText.begin(); !it.IsEnd(); ++it)
-            ++nSteps;
-        ASSERT_LE(nSteps, sText.GetByteLength());
+        const auto found = sText.Text().find(sOther.Text());
+        ASSERT_EQ(sText.Find(sOther),
+                  found == std::string_view::npos ? -1 : static_cast<int>(found));
+        // All bytes of both are there, whatever they begin with.
+        ASSERT_EQ((sText + sOther).Text(), std::string(sText.Text()) + std::string(sOther.Text()));
+        const int nCut = random.Number(sText.GetByteLength());
+        const auto nBytes = static_cast<std::size_t>(nCut);
+        ASSERT_EQ(sText.Left(nCut).Stored(), model::Piece(sStored, 0, nBytes));
+        ASSERT_EQ(sText.Mid(nCut).Stored(), model::Piece(sStored, nBytes, sStored.size()));
+        const char16_t chWanted = random.Unit();
+        const auto isWanted = [&](const model::TPlace& rPlace) {
+            return rPlace.chUnit == chWanted;
+        };
+        const auto wanted = std::find_if(places.begin(), places.end(), isWanted);
+        ASSERT_EQ(sText.Find(chWanted).GetIndex(), wanted == places.end()
+                                                       ? sText.GetByteLength()
+                                                       : static_cast<int>(wanted->nIndex));
         sText.Trim().StripQuotes().AddQuotes().MakeUpper().MakeLower();
         sText.ReplaceNoCase(random.Unit(), random.Unit());
         static_cast<void>(sText.ToAnsi());
+        // What went through all that still is stored by the rule.
+        ASSERT_EQ(sText.ToWide(), model::Wide(sText.Stored()));
     }
 }
 

@@ -1,4 +1,5 @@
 #include "foundation/RandomText.h"
+#include "foundation/StringModel.h"
 #include "foundation/StringU.h"
 #include "support/PrintStringU.h"
 
@@ -50,6 +51,52 @@ TEST(StringUSearchTest, FindsCharactersInOddTexts)
     EXPECT_EQ(CStringU("\xF8", TTextKind::Plain).Find(u'?').GetIndex(), 0);
     EXPECT_EQ(CStringU("\xC1\x81", TTextKind::Plain).Find(u'A').GetIndex(), 0);
     EXPECT_TRUE(CStringU().Find(u'a').IsEnd());
+}
+
+TEST(StringUSearchTest, AByteIsTheUnitOfItsNumber)
+{
+    const CStringU sText(u"ab\u00e9\u00c9");
+    EXPECT_EQ(CStringU('\xE9').Stored(), "\xC3\xA9");
+    EXPECT_EQ(CStringU('a').Stored(), "a");
+    EXPECT_EQ(sText.Find('\xE9').GetIndex(), 2);
+    EXPECT_EQ(sText.Find('b').GetIndex(), 1);
+    EXPECT_EQ(sText.FindNoCase('\xC9').GetIndex(), 2);
+    CStringU sChanged = sText;
+    EXPECT_EQ(sChanged.Replace('\xE9', 'x'), 1);
+    EXPECT_EQ(sChanged.Replace('a', u'\u20ac'), 1);
+    EXPECT_EQ(sChanged.ReplaceNoCase('\xE9', '\xE8'), 1);
+    EXPECT_EQ(sChanged, u"\u20acbx\u00e8");
+}
+
+TEST(StringUSearchTest, ReplacingKeepsZerosInside)
+{
+    struct Case {
+        std::string_view sText;
+        std::string_view sStored;
+        int nCount;
+    };
+    const Case cases[] = {
+        {"a\0b\0b"sv, "\x80\x61\0\xC3\xA9\0\xC3\xA9"sv, 2},
+        {"b\0"sv, "\xC3\xA9\0"sv, 1},
+        {"\0b"sv, "\x80\0\xC3\xA9"sv, 1},
+        {"a\0c"sv, "a\0c"sv, 0},
+    };
+    for (const Case& rCase : cases) {
+        CStringU sText(rCase.sText, TTextKind::Plain);
+        EXPECT_EQ(sText.Replace(u'b', u'\u00e9'), rCase.nCount);
+        EXPECT_EQ(sText.Stored(), rCase.sStored);
+    }
+}
+
+TEST(StringUSearchTest, ASetAsLongAsTheTextTakesNoTimeByTheSquare)
+{
+    // By the square these would be 10 to the 11th steps.
+    const std::string sMuch(300'000, 'a');
+    const CStringU sText(sMuch + "\xC3\xA9");
+    const CStringU sSet(std::string(300'000, 'b'));
+    EXPECT_TRUE(sText.FindOneOf(sSet).IsEnd());
+    EXPECT_TRUE(sText.FindLastOf(sSet).IsEnd());
+    EXPECT_EQ(sText.FindOneOf(sSet + u"\u00e9").GetIndex(), 300'000);
 }
 
 TEST(StringUSearchTest, FindsTexts)
@@ -177,6 +224,18 @@ TEST(StringUSearchTest, RandomTextsAreSearchedByTheirUnits)
                   place(sUnits.find_last_of(sNeedle)));
         const char16_t chOld = random.Unit(), chNew = random.Unit();
         ASSERT_EQ(sText.Find(chOld).GetIndex(), place(sUnits.find(chOld)));
+        const auto isSame = [&](char16_t ch) { return model::Lower(ch) == model::Lower(chOld); };
+        ASSERT_EQ(sText.FindNoCase(chOld).GetIndex(),
+                  place(static_cast<std::size_t>(
+                      std::find_if(sUnits.begin(), sUnits.end(), isSame) - sUnits.begin())));
+        CStringU sNoCase = sText;
+        std::u16string sReplacedNoCase = sUnits;
+        const bool bNever = !sText.IsUtf8() && chNew < 0x80 && chOld >= 0x80;
+        const auto nCountNoCase = bNever ? 0 : std::count_if(sUnits.begin(), sUnits.end(), isSame);
+        if (!bNever)
+            std::replace_if(sReplacedNoCase.begin(), sReplacedNoCase.end(), isSame, chNew);
+        ASSERT_EQ(sNoCase.ReplaceNoCase(chOld, chNew), nCountNoCase);
+        ASSERT_EQ(sNoCase, CStringU(sReplacedNoCase));
         std::u16string sReplaced = sUnits;
         const auto nCount = std::count(sUnits.begin(), sUnits.end(), chOld);
         std::replace(sReplaced.begin(), sReplaced.end(), chOld, chNew);

@@ -138,6 +138,8 @@ TEST(StringUStoreTest, BigEndianUnitsAreSwappedInACopy)
     EXPECT_EQ(CStringU::FromWideBigEndian(sSource), u"a\u00e9");
     EXPECT_EQ(sSource, u"\u6100\uE900");
     EXPECT_EQ(CStringU::FromWideBigEndian(u""), "");
+    EXPECT_EQ(CStringU::FromWideBigEndian(nullptr), "");
+    EXPECT_EQ(CStringU::FromWideBigEndian(std::u16string_view(sSource).substr(1)), u"\u00e9");
     EXPECT_EQ(CStringU(u"a\u00e9").ToWideBigEndian(), sSource);
     EXPECT_EQ(CStringU("a").ToWideBigEndian(), u"\u6100");
 }
@@ -272,6 +274,42 @@ TEST(StringUStoreTest, AppendedUtf8MayBeCutInsideACharacter)
     CStringU sStray;
     sStray.AppendUtf8("\x80z"); // a byte of its own, and no marker either
     EXPECT_EQ(sStray.Stored(), "\x80\x80z");
+}
+
+TEST(StringUStoreTest, BytesOfAFileComeBackAndAreStoredInOneWay)
+{
+    for (const std::string_view sBytes :
+         {"abc"sv, "a\xC3\xA9"sv, "\xC3\xA9"sv, "\x80"sv, "\x80\x80z"sv, "\0\xC3\xA9"sv, ""sv}) {
+        CStringU sAtOnce, sByByte, sOverwritten("xyz"), sResized(sBytes, TTextKind::Plain);
+        sAtOnce.AppendUtf8(sBytes);
+        for (const char chByte : sBytes)
+            sByByte.AppendUtf8({&chByte, 1});
+        sOverwritten.ResizeUtf8(sBytes.size());
+        sOverwritten.OverwriteUtf8(0, sBytes);
+        sResized.Empty();
+        sResized.OverwriteUtf8(99, sBytes); // the end, wherever it is
+        EXPECT_EQ(sAtOnce.Text(), sBytes);
+        EXPECT_EQ(sByByte, sAtOnce);
+        EXPECT_EQ(sOverwritten, sAtOnce);
+        EXPECT_EQ(sResized, sAtOnce);
+        const bool bGuarded = sBytes.starts_with('\x80');
+        EXPECT_EQ(CStringU(sBytes, TTextKind::Utf8IfNeeded) == sAtOnce, !bGuarded);
+    }
+}
+
+TEST(StringUStoreTest, OverwritingMovesTheMarkerWithTheText)
+{
+    CStringU sText(u"a\u00e9b");
+    sText.OverwriteUtf8(1, "xy");
+    EXPECT_EQ(sText.Stored(), "axyb");
+    sText.OverwriteUtf8(0, "\xC3\xA9");
+    EXPECT_EQ(sText.Stored(), "\xC3\xA9yb");
+    sText.OverwriteUtf8(0, "z");
+    EXPECT_EQ(sText.Stored(), "\x80z\xA9yb");
+    sText.ResizeUtf8(1);
+    EXPECT_EQ(sText.Stored(), "z");
+    sText.ResizeUtf8(3);
+    EXPECT_EQ(sText.Stored(), "z\0\0"sv);
 }
 
 TEST(StringUStoreTest, EqualTextsHaveOneHash)

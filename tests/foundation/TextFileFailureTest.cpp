@@ -5,14 +5,15 @@
 #include "support/PrintStringU.h"
 #include "support/TempFolder.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/mman.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
+#include <cstring>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -52,25 +53,6 @@ private:
     rlimit mOld{};
     void (*mOldHandler)(int) = nullptr;
 };
-
-TEST(TextFileFailureTest, APipeIsReadFromWhereItIs)
-{
-    const CTempFolder folder;
-    const std::string sName = folder.Path("pipe");
-    ASSERT_EQ(::mkfifo(sName.c_str(), 0600), 0);
-    const int nBothEnds = ::open(sName.c_str(), O_RDWR); // so that opening one end doesn't wait
-    ASSERT_GE(nBothEnds, 0);
-    ASSERT_EQ(::write(nBothEnds, "a\nb\n", 4), 4);
-    TTextFile detected;
-    EXPECT_TRUE(detected.Open(CStringU(sName), CFile::modeRead, nullptr));
-    TTextFile given;
-    EXPECT_TRUE(given.Open(CStringU(sName), EncodingUtf8, CFile::modeRead, nullptr));
-    ::close(nBothEnds); // now the pipe ends
-    EXPECT_EQ(given.ReadAll(), "a\nb\n");
-    EXPECT_EQ(given.GetLastErrorText(), "");
-    EXPECT_EQ(detected.ReadAll(), "");
-    EXPECT_EQ(detected.GetLastErrorText(), "");
-}
 
 TEST(TextFileFailureTest, AnErrorThatTheSystemTellsWhenClosingIsKept)
 {
@@ -164,6 +146,45 @@ TEST(TextFileFailureTest, AnInterruptedWriteLosesNothingThatWasFlushed)
     file.Close();
     EXPECT_EQ(folder.Read("a.txt").substr(0, 9), "flushed\r\n");
     EXPECT_TRUE(folder.Read("a.txt").ends_with("on\r\n"));
+}
+
+TEST(TextFileFailureTest, AfterADirectWriteCutShortThePositionIsTheFiles)
+{
+    const CTempFolder folder;
+    TTextFile file{CStringU(folder.Path("a.bin"))};
+    const std::string sMuch(3 * kBuffer, 'x');
+    {
+        const CFileSizeLimit limit(2 * kBuffer + 5);
+        EXPECT_THROW(file.Write(sMuch.data(), static_cast<unsigned>(sMuch.size())), CFileException);
+        EXPECT_EQ(file.GetPosition(), 2 * kBuffer + 5);
+        EXPECT_EQ(file.GetLength(), 2 * kBuffer + 5);
+    }
+    file.Write("end", 3);
+    file.Close();
+    EXPECT_TRUE(folder.Read("a.bin") == std::string(2 * kBuffer + 5, 'x') + "end");
+}
+
+TEST(TextFileFailureTest, AReadCutShortGivesWhatThereWas)
+{
+    // The process's own memory as a file, of which a piece ends where nothing may be read.
+    constexpr std::size_t size = 4 * kBuffer;
+    void* const pBlock =
+        ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(pBlock, MAP_FAILED);
+    std::memset(pBlock, 'x', size);
+    ASSERT_EQ(::munmap(static_cast<char*>(pBlock) + size / 2, size / 2), 0);
+    const auto nStart = static_cast<std::int64_t>(reinterpret_cast<std::uintptr_t>(pBlock));
+    TTextFile file("/proc/self/mem", CFile::modeRead);
+    ASSERT_TRUE(file.IsOpen());
+    for (const std::size_t nAsked : {size / 2 + 5, size}) { // through the buffer, and past it
+        file.Seek(nStart, CFile::begin);
+        std::string sRead(nAsked, '\0');
+        EXPECT_EQ(file.Read(sRead.data(), static_cast<unsigned>(nAsked)), size / 2);
+        EXPECT_EQ(file.GetPosition(), static_cast<std::uint64_t>(nStart) + size / 2);
+        EXPECT_EQ(sRead[size / 2 - 1], 'x');
+        EXPECT_EQ(file.Read(sRead.data(), 1), 0U);
+    }
+    EXPECT_EQ(::munmap(pBlock, size / 2), 0);
 }
 
 TEST(TextFileFailureTest, AFileOpenedForReadingTakesNoText)

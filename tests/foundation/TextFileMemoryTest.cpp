@@ -1,6 +1,7 @@
 #include "foundation/RandomText.h"
 #include "foundation/TextFile.h"
 #include "support/PrintStringU.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -141,6 +142,97 @@ TEST(TextFileMemoryTest, WritesInTheMiddleReplaceAsManyBytes)
     }
 }
 
+TEST(TextFileMemoryTest, EveryByteComesBackWhateverTheFirstOnesAre)
+{
+    // In pieces too, as a buffer is written out: 0x80 in front reads as a marker unless guarded.
+    const std::string sAlphabet("\0a\x7F\x80\x81\xC3\xE2\xF8\xFF"sv);
+    for (const char chFirst : sAlphabet) {
+        for (const char chSecond : sAlphabet) {
+            for (const char chThird : sAlphabet) {
+                const std::string sBytes{chFirst, chSecond, chThird};
+                for (std::size_t nCut = 0; nCut <= sBytes.size(); ++nCut) {
+                    CStringU sText;
+                    TTextFile file(EncodingUtf8, &sText, "");
+                    file.Write(sBytes.data(), static_cast<unsigned>(nCut));
+                    file.Flush();
+                    file.Write(sBytes.data() + nCut, static_cast<unsigned>(sBytes.size() - nCut));
+                    file.Flush();
+                    ASSERT_EQ(sText.Text(), sBytes) << testing::PrintToString(sBytes) << nCut;
+                    file.Seek(static_cast<std::int64_t>(nCut), CFile::begin);
+                    file.Write("x", 1);
+                    file.Flush();
+                    std::string sOverwritten = sBytes;
+                    sOverwritten.replace(nCut, 1, "x");
+                    ASSERT_EQ(sText.Text(), sOverwritten) << testing::PrintToString(sBytes) << nCut;
+                    file.SetLength(2);
+                    ASSERT_EQ(sText.Text(), sOverwritten.substr(0, 2));
+                    const bool bMarkIsSpared = sOverwritten.front() != '\x80';
+                    if (bMarkIsSpared) {
+                        ASSERT_EQ(sText,
+                                  CStringU(sOverwritten.substr(0, 2), TTextKind::Utf8IfNeeded));
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(TextFileMemoryTest, AfterCloseWritingGoesOnWhereItWas)
+{
+    CStringU sText;
+    TTextFile file(EncodingUtf8Bom, &sText, "");
+    file << "ab";
+    file.Close();
+    EXPECT_EQ(file.GetPosition(), 2U);
+    file << "cd";
+    file.Close();
+    EXPECT_EQ(sText.Text(), "\xEF\xBB\xBF"
+                            "abcd");
+    file.Seek(1, CFile::begin);
+    file.Close();
+    file << "X";
+    file.Close();
+    EXPECT_EQ(sText.Text(), "\xEF\xBB\xBF"
+                            "aXcd");
+}
+
+TEST(TextFileMemoryTest, FlushAndSetLengthKeepTheMarkOfTwoByteUnits)
+{
+    CStringU sText;
+    TTextFile file(EncodingUtf16Bom, &sText, "");
+    file << u"a\u00e9\n";
+    file.Flush();
+    EXPECT_EQ(sText.Text(), "\xFF\xFE"
+                            "a\0\xE9\0\r\0\n\0"sv);
+    EXPECT_EQ(file.GetLength(), 8U);
+    file.SetLength(file.GetLength());
+    EXPECT_EQ(file.GetLength(), 8U);
+    file.SetLength(4);
+    EXPECT_EQ(sText.Text(), "\xFF\xFE"
+                            "a\0\xE9\0"sv);
+    file.SetLength(6);
+    EXPECT_EQ(sText.Text(), "\xFF\xFE"
+                            "a\0\xE9\0\0\0"sv);
+    file.SetLength(0);
+    EXPECT_EQ(sText.Text(), "\xFF\xFE");
+    EXPECT_EQ(file.GetPosition(), 0U);
+}
+
+TEST(TextFileMemoryTest, IsNoFileToDuplicate)
+{
+    const TTextFile file(EncodingUtf8, "abc", "");
+    EXPECT_THROW(static_cast<void>(file.Duplicate()), CFileException);
+}
+
+TEST(TextFileMemoryTest, ATextGetsNoLongerThanItsLengthsCanSay)
+{
+    CStringU sText("abc");
+    TTextFile file(EncodingUtf8, &sText, "");
+    EXPECT_THROW(file.SetLength(0x80000000U), CFileException);
+    EXPECT_THROW(file.SetLength(~std::uint64_t{0}), CFileException);
+    EXPECT_EQ(sText, "abc");
+}
+
 TEST(TextFileMemoryTest, SetLengthCutsAndLengthens)
 {
     CStringU sText(u"a\u00e9z");
@@ -166,6 +258,24 @@ TEST(TextFileMemoryTest, AFileOnTheDiskMayFollow)
     file << "a";
     EXPECT_FALSE(file.Open("/nowhere/at/all", CFile::modeRead, nullptr));
     EXPECT_EQ(sText, "a");
+    EXPECT_FALSE(file.IsOpen());
+}
+
+TEST(TextFileMemoryTest, AFileOpenedByThePlatformsFormTakesItsPlace)
+{
+    const CTempFolder folder;
+    CStringU sText;
+    TTextFile file(EncodingUtf8, &sText, "");
+    file << "kept";
+    CFile& rBase = file;
+    ASSERT_TRUE(rBase.Open(folder.Write("a.txt", "disk").c_str(), CFile::modeReadWrite));
+    EXPECT_EQ(sText, "kept");
+    EXPECT_EQ(file.GetLength(), 4U);
+    EXPECT_EQ(file.ReadAll(), "disk\n");
+    file << "!";
+    file.Close();
+    EXPECT_EQ(folder.Read("a.txt"), "disk!");
+    EXPECT_EQ(sText, "kept");
     EXPECT_FALSE(file.IsOpen());
 }
 

@@ -155,7 +155,10 @@ TEST(TextFileVirtualTest, SeekRefusesWhatIsInFrontOfTheText)
 TEST(TextFileVirtualTest, SetLengthGivesAnEmptyFileItsMark)
 {
     TSample sample;
-    sample.file.SetLength(5);
+    sample.file.SetLength(sample.file.GetLength());
+    EXPECT_EQ(sample.folder.Read("a.txt"), "\xEF\xBB\xBF"
+                                           "abcdef");
+    sample.file.SetLength(2);
     EXPECT_EQ(sample.folder.Read("a.txt"), "\xEF\xBB\xBF"
                                            "ab");
     EXPECT_EQ(sample.file.GetLength(), 2U);
@@ -253,6 +256,20 @@ TEST(TextFileVirtualTest, AbortLeavesWhatIsBufferedUnwritten)
     EXPECT_EQ(sample.file.ReadAll(), "");
 }
 
+TEST(TextFileVirtualTest, AfterAbortNothingAnswersFromTheBuffer)
+{
+    TSample sample;
+    sample.file.Abort();
+    EXPECT_EQ(ErrorOf([&] { static_cast<void>(sample.file.GetPosition()); }), EBADF);
+    EXPECT_EQ(ErrorOf([&] { sample.file.Seek(0, CFile::begin); }), EBADF);
+    EXPECT_EQ(ErrorOf([&] { static_cast<void>(sample.file.GetLength()); }), EBADF);
+    EXPECT_EQ(ErrorOf([&] { sample.file.SetLength(0); }), EBADF);
+    EXPECT_EQ(Read(sample.file, 9), "");
+    sample.file.Flush();
+    EXPECT_EQ(sample.file.GetLastErrorText(), "");
+    EXPECT_EQ(sample.folder.Read("a.txt"), "\xEF\xBB\xBF");
+}
+
 TEST(TextFileVirtualTest, FlushAndCloseAndDestructorWriteOut)
 {
     const CTempFolder folder;
@@ -285,6 +302,38 @@ TEST(TextFileVirtualTest, ThePlatformsOpenIsThere)
     file.Close();
     EXPECT_EQ(folder.Read("a.txt"), "abcd");
     EXPECT_EQ(file.GetBufferPtr(0), 0U);
+}
+
+TEST(TextFileVirtualTest, ThePlatformsOpenOnAUsedFileStartsAnew)
+{
+    const CTempFolder folder;
+    const std::string sNew = folder.Write("new.txt", "abc");
+    TTextFile file;
+    ASSERT_TRUE(file.Open(folder.Path("old.txt"), EncodingUtf8, kCreate, nullptr));
+    file << "for the old one";
+    CFile& rBase = file;
+    EXPECT_TRUE(rBase.Open(sNew.c_str(), CFile::modeReadWrite));
+    EXPECT_EQ(folder.Read("old.txt"), "for the old one");
+    EXPECT_EQ(file.GetPosition(), 0U);
+    EXPECT_EQ(Read(file, 2), "ab");
+    EXPECT_TRUE(rBase.Open(sNew.c_str(), CFile::modeReadWrite, nullptr, nullptr));
+    EXPECT_EQ(Read(file, 9), "abc"); // not what was still buffered
+    file << "d";
+    file.Close();
+    EXPECT_EQ(folder.Read("new.txt"), "abcd");
+    EXPECT_EQ(folder.Read("old.txt"), "for the old one");
+}
+
+TEST(TextFileVirtualTest, ADuplicateSeesWhatIsFlushedAndMayMoveThePosition)
+{
+    TSample sample;
+    sample.file.Seek(2, CFile::begin);
+    sample.file.Flush();
+    const auto pFile = sample.file.Duplicate();
+    EXPECT_EQ(pFile->GetPosition(), 5U); // the mark is a part of it
+    EXPECT_EQ(Read(*pFile, 2), "cd");
+    EXPECT_EQ(sample.file.GetPosition(), 4U);
+    EXPECT_EQ(Read(sample.file, 9), "ef");
 }
 
 TEST(TextFileVirtualTest, AClosedFileReadsNothingAndRefusesWrites)

@@ -187,7 +187,7 @@ TEST(Utf8UnitsTest, StepsGoByWholeSequences)
         std::size_t nIndex;
         std::size_t nNext;
         std::size_t nPrevious;
-        std::size_t nStart;
+        std::size_t nStart; // of the sequence, decoded from the beginning
     };
     const Case cases[] = {
         {"ASCII", "abc", 1, 2, 0, 1},
@@ -195,16 +195,19 @@ TEST(Utf8UnitsTest, StepsGoByWholeSequences)
         {"the end", "abc", 3, 3, 2, 3},
         {"between sequences", "\xC3\xA9\xE2\x82\xAC", 2, 5, 0, 2},
         {"inside a sequence", "a\xE2\x82\xAC", 2, 4, 1, 1},
+        {"at the last byte of a sequence", "a\xE2\x82\xAC", 3, 4, 1, 1},
+        {"a lead that swallows ASCII", "\xE2zzz", 2, 3, 1, 0},
+        {"behind a lead that swallows ASCII", "\xE2zzz", 3, 4, 2, 3},
         {"the end behind a sequence", "a\xE2\x82\xAC", 4, 4, 1, 4},
         {"four bytes", "a\xF0\x9F\x98\x80", 5, 5, 1, 5},
-        {"four steps back at most", "a\x80\x80\x80\x80\x80", 6, 6, 2, 6},
-        {"four steps to the start at most", "a\x80\x80\x80\x80\x80", 5, 6, 1, 1},
+        {"four steps back at most", "a\x80\x80\x80\x80\x80", 6, 6, 2, 5},
+        {"continuation bytes in pairs", "a\x80\x80\x80\x80\x80", 4, 6, 0, 3},
         {"all continuation bytes are passed over", "\xC3\x80\x80\x80\x80\x80z", 0, 6, 0, 0},
     };
     for (const Case& rCase : cases) {
         EXPECT_EQ(gNextCharacter(rCase.sText, rCase.nIndex), rCase.nNext) << rCase.sName;
         EXPECT_EQ(gPreviousCharacter(rCase.sText, rCase.nIndex), rCase.nPrevious) << rCase.sName;
-        EXPECT_EQ(gCharacterStart(rCase.sText, rCase.nIndex), rCase.nStart) << rCase.sName;
+        EXPECT_EQ(gSequenceStart(rCase.sText, rCase.nIndex), rCase.nStart) << rCase.sName;
     }
 }
 

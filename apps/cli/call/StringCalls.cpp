@@ -3,13 +3,17 @@
 #include "foundation/StringU.h"
 #include "foundation/Utf8Units.h"
 
+#include <cstddef>
 #include <optional>
+#include <stdexcept>
 #include <string>
 
 namespace quorvawiz::cli
 {
 namespace
 {
+constexpr std::size_t kMostFormatted = 4;
+
 TBytes BytesOf(const CStringA& rText)
 {
     return {std::string(std::string_view(rText))};
@@ -27,6 +31,95 @@ std::vector<TCallFunction> Constructions()
             "CStringU.FromWideBigEndian",
             [](const std::u16string& rsUnits) { return CStringU::FromWideBigEndian(rsUnits); }),
         gCallable("CStringU.FromChar", [](TUnit unit) { return CStringU(unit.mchUnit); }),
+    };
+}
+
+/// printf with texts only: a format that asked for anything else would read what isn't there.
+CStringU Format(const TBytes& rFormat, const std::vector<CStringU>& rTexts)
+{
+    std::size_t nWanted = 0;
+    for (std::size_t nAt = 0; (nAt = rFormat.msBytes.find('%', nAt)) != std::string::npos;
+         nAt += 2) {
+        const std::string sPlace = rFormat.msBytes.substr(nAt, 2);
+        if (sPlace != "%s" && sPlace != "%%")
+            throw std::invalid_argument("a format has no other places than %s and %%");
+        nWanted += sPlace == "%s" ? 1 : 0;
+    }
+    if (nWanted != rTexts.size() || nWanted > kMostFormatted)
+        throw std::invalid_argument("a format has as many %s as there are texts, at most 4");
+    std::vector<CStringU> texts = rTexts;
+    texts.resize(kMostFormatted);
+    CStringU sResult;
+    sResult.Format(rFormat.msBytes.c_str(), texts[0].Data(), texts[1].Data(), texts[2].Data(),
+                   texts[3].Data());
+    return sResult;
+}
+
+std::vector<TCallFunction> Bytes()
+{
+    return {
+        gCallable("CStringU.Assign",
+                  [](CStringU sText, const TBytes& rBytes, TTextKind kind) {
+                      sText.Assign(rBytes.msBytes, kind);
+                      return sText;
+                  }),
+        gCallable("CStringU.AppendUtf8",
+                  [](CStringU sText, const TBytes& rBytes) {
+                      sText.AppendUtf8(rBytes.msBytes);
+                      return sText;
+                  }),
+        gCallable("CStringU.OverwriteUtf8",
+                  [](CStringU sText, unsigned nFirst, const TBytes& rBytes) {
+                      sText.OverwriteUtf8(nFirst, rBytes.msBytes);
+                      return sText;
+                  }),
+        gCallable("CStringU.ResizeUtf8",
+                  [](CStringU sText, unsigned nSize) {
+                      sText.ResizeUtf8(nSize);
+                      return sText;
+                  }),
+        gCallable("CStringU.Format", Format),
+    };
+}
+
+TJson Place(const TCharIterator& rPlace)
+{
+    return {{"index", rPlace.GetIndex()}, {"unit", static_cast<unsigned>(*rPlace)}};
+}
+
+std::vector<TCallFunction> Moves()
+{
+    return {
+        gCallable("CStringU.Characters",
+                  [](const CStringU& rText) {
+                      std::u16string sUnits;
+                      for (TCharIterator it = rText.begin(); !it.IsEnd(); ++it)
+                          sUnits += *it;
+                      return sUnits;
+                  }),
+        gCallable("CStringU.CharactersBack",
+                  [](const CStringU& rText) {
+                      std::u16string sUnits;
+                      for (TCharIterator it = rText.end(); it != rText.begin();)
+                          sUnits += *--it;
+                      return sUnits;
+                  }),
+        gCallable("CStringU.Next",
+                  [](const CStringU& rText, int nIndex) {
+                      return Place(++TCharIterator(rText, nIndex));
+                  }),
+        gCallable("CStringU.Previous",
+                  [](const CStringU& rText, int nIndex) {
+                      return Place(--TCharIterator(rText, nIndex));
+                  }),
+        gCallable("CStringU.Move",
+                  [](const CStringU& rText, int nIndex, int nCount) {
+                      return Place(TCharIterator(rText, nIndex) + nCount);
+                  }),
+        gCallable("CStringU.MoveBack",
+                  [](const CStringU& rText, int nIndex, int nCount) {
+                      return Place(TCharIterator(rText, nIndex) - nCount);
+                  }),
     };
 }
 
@@ -49,13 +142,6 @@ std::vector<TCallFunction> Conversions()
                   [](const CStringU& rText) { return rText.GetByteLength(); }),
         gCallable("CStringU.GetCharCount",
                   [](const CStringU& rText) { return rText.GetCharCount(); }),
-        gCallable("CStringU.Characters",
-                  [](const CStringU& rText) {
-                      std::u16string sUnits;
-                      for (TCharIterator it = rText.begin(); !it.IsEnd(); ++it)
-                          sUnits += *it;
-                      return sUnits;
-                  }),
     };
 }
 
@@ -74,6 +160,8 @@ std::vector<TCallFunction> Pieces()
                   [](const CStringU& rLeft, const CStringU& rRight) { return rLeft + rRight; }),
         gCallable("CStringU.operator+=",
                   [](CStringU sLeft, const CStringU& rRight) { return sLeft += rRight; }),
+        gCallable("CStringU.operator+=.unit",
+                  [](CStringU sLeft, TUnit right) { return sLeft += right.mchUnit; }),
     };
 }
 
@@ -180,8 +268,8 @@ std::vector<TCallFunction> Characters()
 std::vector<TCallFunction> gStringCalls()
 {
     std::vector<TCallFunction> calls;
-    for (auto* const pPart :
-         {Constructions, Conversions, Pieces, Comparisons, Searches, Changes, Characters}) {
+    for (auto* const pPart : {Constructions, Bytes, Conversions, Pieces, Moves, Comparisons,
+                              Searches, Changes, Characters}) {
         for (TCallFunction& rFunction : pPart())
             calls.push_back(std::move(rFunction));
     }

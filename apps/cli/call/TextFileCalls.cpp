@@ -71,10 +71,10 @@ TJson Read(const TBytes& rBytes, TTextEncoding whenUnknown)
 
 TJson Write(TTextEncoding encoding, unsigned nFlags, const std::vector<CStringU>& rTexts)
 {
+    const unsigned nMode = (nFlags & CFile::modeReadWrite) != 0 ? 0U : unsigned{CFile::modeWrite};
     CMemoryFile memory;
     TTextFile file;
-    if (file.Open(memory.Name(), encoding, nFlags | CFile::modeCreate | CFile::modeWrite,
-                  nullptr)) {
+    if (file.Open(memory.Name(), encoding, nFlags | CFile::modeCreate | nMode, nullptr)) {
         for (const CStringU& rText : rTexts)
             file.WriteText(rText);
         file.Close();

@@ -95,6 +95,12 @@ inline void gNarrowAscii(std::u16string_view sText, char* pOut) noexcept
     return gFindNonAscii(sText) == sText.size();
 }
 
+/// Tells whether a byte or a 16-bit unit is an ASCII character.
+template <class TUnit> [[nodiscard]] constexpr bool gIsAsciiUnit(TUnit unit) noexcept
+{
+    return std::char_traits<TUnit>::to_int_type(unit) < 0x80;
+}
+
 /// Lowers A to Z, whatever the locale.
 /// @param chChar any byte
 /// @return the lower case letter, or chChar itself where it is no ASCII capital

@@ -1,21 +1,19 @@
 #include "platform/base/CodePage.h"
 
 #include "platform/base/Ascii.h"
+#include "platform/base/AsciiRuns.h"
 #include "platform/base/Codec.h"
 #include "platform/base/Exceptions.h"
 
 #include <unicode/uchar.h>
 
-#include <atomic>
 #include <cstddef>
 #include <utility>
 
 namespace
 {
 
-constexpr char16_t kReplacement = 0xFFFD;
-
-std::atomic<unsigned> gnSystemCodePage{kCodePageUtf8};
+unsigned gnSystemCodePage = kCodePageUtf8;
 
 const ICodec& CodecOf(unsigned nCodePage)
 {
@@ -26,39 +24,20 @@ const ICodec& CodecOf(unsigned nCodePage)
     return *pCodec;
 }
 
-// A text that begins with ASCII characters: moves them over, and leaves the rest.
-void MoveAscii(std::string_view& rsRest, std::u16string& rsOut)
-{
-    const std::size_t nCount = gFindNonAscii(rsRest);
-    gAppendWidened(rsRest.substr(0, nCount), rsOut);
-    rsRest.remove_prefix(nCount);
-}
-
-void MoveAscii(std::u16string_view& rsRest, std::string& rsOut)
-{
-    const std::size_t nCount = gFindNonAscii(rsRest);
-    const std::size_t nOld = rsOut.size();
-    rsOut.resize(nOld + nCount);
-    gNarrowAscii(rsRest.substr(0, nCount), rsOut.data() + nOld);
-    rsRest.remove_prefix(nCount);
-}
-
 // Decodes with rOnMisfit(ill-formed bytes, rsOut) for each part that isn't valid.
 template <class TOnMisfit>
 std::u16string Decode(std::string_view sText, const ICodec& rCodec, const TOnMisfit& rOnMisfit)
 {
     std::u16string sOut;
     sOut.reserve(sText.size());
-    std::string_view sRest = sText;
-    while (!sRest.empty()) {
-        MoveAscii(sRest, sOut);
-        while (!sRest.empty() && !gIsAscii(sRest.substr(0, 1))) {
-            const std::string_view sBefore = sRest;
-            if (!rCodec.DecodeNext(sRest, sOut)) {
-                rOnMisfit(sBefore.substr(0, sBefore.size() - sRest.size()), sOut);
+    gForEachRun(
+        sText, [&sOut](std::string_view sAscii) { gAppendWidened(sAscii, sOut); },
+        [&](std::string_view& rsRest) {
+            const std::string_view sBefore = rsRest;
+            if (!rCodec.DecodeNext(rsRest, sOut)) {
+                rOnMisfit(sBefore.substr(0, sBefore.size() - rsRest.size()), sOut);
             }
-        }
-    }
+        });
     return sOut;
 }
 
@@ -66,13 +45,13 @@ std::u16string Decode(std::string_view sText, const ICodec& rCodec, const TOnMis
 
 unsigned gGetSystemCodePage() noexcept
 {
-    return gnSystemCodePage.load(std::memory_order_relaxed);
+    return gnSystemCodePage;
 }
 
 void gSetSystemCodePage(unsigned nCodePage)
 {
     static_cast<void>(CodecOf(nCodePage));
-    gnSystemCodePage.store(nCodePage, std::memory_order_relaxed);
+    gnSystemCodePage = nCodePage;
 }
 
 bool gIsCodePageKnown(unsigned nCodePage)
@@ -94,17 +73,20 @@ std::string gWideToMultiByte(std::u16string_view sText, unsigned nCodePage, char
     bool bReplaced = false;
     std::string sOut;
     sOut.reserve(sText.size());
-    std::u16string_view sRest = sText;
-    while (!sRest.empty()) {
-        MoveAscii(sRest, sOut);
-        while (!sRest.empty() && sRest.front() >= 0x80) {
-            const std::size_t nBefore = sRest.size();
-            if (!rCodec.EncodeNext(sRest, sOut)) {
-                sOut.append(nBefore - sRest.size(), chDefault);
+    gForEachRun(
+        sText,
+        [&sOut](std::u16string_view sAscii) {
+            const std::size_t nOld = sOut.size();
+            sOut.resize(nOld + sAscii.size());
+            gNarrowAscii(sAscii, sOut.data() + nOld);
+        },
+        [&](std::u16string_view& rsRest) {
+            const std::size_t nBefore = rsRest.size();
+            if (!rCodec.EncodeNext(rsRest, sOut)) {
+                sOut.append(nBefore - rsRest.size(), chDefault);
                 bReplaced = true;
             }
-        }
-    }
+        });
     if (pbReplaced != nullptr) {
         *pbReplaced = bReplaced;
     }

@@ -1,6 +1,7 @@
 #include "platform/base/CodePageCase.h"
 
 #include "platform/base/Ascii.h"
+#include "platform/base/AsciiRuns.h"
 #include "platform/base/CodePage.h"
 #include "platform/base/Codec.h"
 
@@ -37,15 +38,13 @@ std::string MapCase(std::string_view sText, const TCaseMapping& rMapping)
     const ICodec* pCodec = gIsAscii(sText) ? nullptr : gFindCodec(gGetSystemCodePage());
     std::string sOut;
     sOut.reserve(sText.size());
-    std::string_view sRest = sText;
-    while (!sRest.empty()) {
-        const std::string_view sAscii = sRest.substr(0, gFindNonAscii(sRest));
-        std::transform(sAscii.begin(), sAscii.end(), std::back_inserter(sOut), rMapping.pMapAscii);
-        sRest.remove_prefix(sAscii.size());
-        if (pCodec != nullptr && !sRest.empty()) {
-            AppendMapped(sRest, *pCodec, rMapping, sOut);
-        }
-    }
+    gForEachRun(
+        sText,
+        [&](std::string_view sAscii) {
+            std::transform(sAscii.begin(), sAscii.end(), std::back_inserter(sOut),
+                           rMapping.pMapAscii);
+        },
+        [&](std::string_view& rsRest) { AppendMapped(rsRest, *pCodec, rMapping, sOut); });
     return sOut;
 }
 

@@ -7,7 +7,6 @@
 
 #include <map>
 #include <memory>
-#include <mutex>
 #include <utility>
 
 namespace
@@ -35,9 +34,7 @@ const ICodec* gFindCodec(unsigned nCodePage)
         return &rUtf8Codec;
     }
 
-    static auto& rMutex = *new std::mutex;
     static auto& rCodecs = *new std::map<unsigned, std::unique_ptr<const ICodec>>;
-    const std::lock_guard lock(rMutex);
     auto it = rCodecs.find(nCodePage);
     if (it == rCodecs.end()) {
         auto pCodec = MakeCodec(nCodePage);

@@ -4,9 +4,12 @@
 #include <string>
 #include <string_view>
 
+/// The character in the place of what isn't valid.
+inline constexpr char16_t kReplacement = 0xFFFD;
+
 /// One code page in which every byte below 0x80 that starts a character is that ASCII character.
 /// It goes character by character, so that a caller can decide what becomes of each misfit.
-/// Stateless between calls; may be used from any thread.
+/// What it does in a call leaves no trace for the next one.
 class ICodec
 {
 public:

@@ -3,7 +3,6 @@
 #include "platform/base/Exceptions.h"
 
 #include <cstdlib>
-#include <mutex>
 #include <new>
 #include <utility>
 
@@ -18,7 +17,7 @@ bool IsValidName(std::string_view sName)
            sName.find(kNul) == std::string_view::npos;
 }
 
-/// The environment of the process. The lock keeps our own readers and writers apart.
+/// The environment of the process.
 class CProcessEnvironment final : public IEnvironment
 {
 public:
@@ -28,7 +27,6 @@ public:
             return std::nullopt;
         }
         const std::string sZeroEnded(sName);
-        const std::lock_guard lock(mMutex);
         const char* pValue = std::getenv(sZeroEnded.c_str());
         return pValue != nullptr ? std::optional<std::string>(pValue) : std::nullopt;
     }
@@ -37,7 +35,6 @@ public:
     {
         const std::string sZeroEndedName(sName);
         const std::string sZeroEndedValue(sValue);
-        const std::lock_guard lock(mMutex);
         if (::setenv(sZeroEndedName.c_str(), sZeroEndedValue.c_str(), 1) != 0) {
             throw std::bad_alloc(); // the name is valid, so only memory can be missing
         }
@@ -46,44 +43,15 @@ public:
     void Unset(std::string_view sName) override
     {
         const std::string sZeroEnded(sName);
-        const std::lock_guard lock(mMutex);
         ::unsetenv(sZeroEnded.c_str());
     }
-
-private:
-    mutable std::mutex mMutex;
 };
 
-/// The current source. Handed out as a shared pointer, so that a source that is being replaced
-/// lives until its last reader is done.
-class CSourceSlot
+/// The current source. Whoever asks it holds it as well, so that it may be replaced meanwhile.
+std::shared_ptr<IEnvironment>& Slot()
 {
-public:
-    std::shared_ptr<IEnvironment> Get()
-    {
-        const std::lock_guard lock(mMutex);
-        return mpSource;
-    }
-
-    void Set(std::shared_ptr<IEnvironment> pSource)
-    {
-        if (!pSource) {
-            pSource = mpProcess;
-        }
-        const std::lock_guard lock(mMutex);
-        mpSource.swap(pSource); // the old one ends behind the lock, as its end may call us
-    }
-
-private:
-    std::mutex mMutex;
-    const std::shared_ptr<IEnvironment> mpProcess = std::make_shared<CProcessEnvironment>();
-    std::shared_ptr<IEnvironment> mpSource = mpProcess;
-};
-
-CSourceSlot& Slot()
-{
-    static CSourceSlot slot;
-    return slot;
+    static std::shared_ptr<IEnvironment> pSource = std::make_shared<CProcessEnvironment>();
+    return pSource;
 }
 
 void RequireName(std::string_view sName)
@@ -97,7 +65,8 @@ void RequireName(std::string_view sName)
 
 std::optional<std::string> gGetEnvironment(std::string_view sName)
 {
-    return Slot().Get()->Get(sName);
+    const auto pSource = Slot();
+    return pSource->Get(sName);
 }
 
 void gSetEnvironment(std::string_view sName, std::string_view sValue)
@@ -106,21 +75,26 @@ void gSetEnvironment(std::string_view sName, std::string_view sValue)
     if (sValue.find(kNul) != std::string_view::npos) {
         gThrowInvalidArg("invalid value of an environment variable");
     }
-    Slot().Get()->Set(sName, sValue);
+    const auto pSource = Slot();
+    pSource->Set(sName, sValue);
 }
 
 void gUnsetEnvironment(std::string_view sName)
 {
     RequireName(sName);
-    Slot().Get()->Unset(sName);
+    const auto pSource = Slot();
+    pSource->Unset(sName);
 }
 
 void gSetEnvironmentSource(std::shared_ptr<IEnvironment> pSource)
 {
-    Slot().Set(std::move(pSource));
+    if (!pSource) {
+        pSource = std::make_shared<CProcessEnvironment>();
+    }
+    Slot().swap(pSource); // the old one ends behind the change, as its end may call us
 }
 
 void gResetEnvironmentSource()
 {
-    Slot().Set(nullptr);
+    gSetEnvironmentSource(nullptr);
 }

@@ -6,7 +6,7 @@
 #include <string_view>
 
 /// Where environment variables are read and written. Names are exact, letters of different case are
-/// different. Implementations may be called from any thread.
+/// different.
 class IEnvironment
 {
 public:

@@ -2,6 +2,7 @@
 
 #include "platform/base/Exceptions.h"
 #include "platform/base/SystemError.h"
+#include "platform/base/SystemPath.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -9,6 +10,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <string>
 #include <string_view>
 
 static_assert(sizeof(::off_t) == sizeof(std::int64_t));
@@ -17,6 +19,7 @@ namespace
 {
 
 constexpr mode_t kNewFile = 0666; // less the process's mask
+constexpr unsigned kModeMask = 3;
 
 // Calls again for as long as a signal interrupts.
 template <class TCall> auto Retry(const TCall& rCall)
@@ -31,7 +34,7 @@ template <class TCall> auto Retry(const TCall& rCall)
 int SystemFlags(unsigned nOpenFlags) noexcept
 {
     int nFlags = O_CLOEXEC;
-    switch (nOpenFlags & 3U) {
+    switch (nOpenFlags & kModeMask) {
     case CFile::modeRead:
         nFlags |= O_RDONLY;
         break;
@@ -56,12 +59,29 @@ bool IsFolder(int nHandle) noexcept
     return ::fstat(nHandle, &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+// Result: the handle, or -1 and the reason in errno.
+int OpenHandle(const std::string& rsSystemName, unsigned nOpenFlags) noexcept
+{
+    if ((nOpenFlags & kModeMask) == kModeMask) {
+        errno = EINVAL; // no way to read or write has this number
+        return -1;
+    }
+    const int nFlags = SystemFlags(nOpenFlags);
+    const int nHandle = Retry([&] { return ::open(rsSystemName.c_str(), nFlags, kNewFile); });
+    if (nHandle >= 0 && IsFolder(nHandle)) {
+        ::close(nHandle);
+        errno = EISDIR;
+        return -1;
+    }
+    return nHandle;
+}
+
 } // namespace
 
 CFile::CFile(const char* pFileName, unsigned nOpenFlags)
 {
     CFileException exception;
-    if (!CFile::Open(pFileName, nOpenFlags, &exception)) {
+    if (!OpenNew(pFileName, nOpenFlags, &exception)) {
         CFileException::ThrowOsError(exception.GetOsError(), exception.GetFileName());
     }
 }
@@ -82,7 +102,8 @@ std::uint64_t CFile::GetPosition() const
 
 CString CFile::GetFileName() const
 {
-    return msFileName.Mid(msFileName.ReverseFind('/') + 1);
+    const std::string_view sName(msFileName);
+    return sName.substr(sName.find_last_of("/\\") + 1); // npos plus 1 is 0: all of it
 }
 
 CString CFile::GetFileTitle() const
@@ -107,15 +128,18 @@ void CFile::SetFilePath(const char* pFileName)
 
 bool CFile::Open(const char* pFileName, unsigned nOpenFlags, CFileException* pError)
 {
-    CFile::Abort();
-    const CString sFileName(pFileName);
-    const int nFlags = SystemFlags(nOpenFlags);
-    int nHandle = Retry([&] { return ::open(sFileName.GetString(), nFlags, kNewFile); });
-    if (nHandle >= 0 && IsFolder(nHandle)) {
-        ::close(nHandle);
-        nHandle = -1;
-        errno = EISDIR;
+    try {
+        Close(); // of a derived class too, which may hold something back
+    } catch (const CFileException&) {
+        CFile::Abort();
     }
+    return OpenNew(pFileName, nOpenFlags, pError);
+}
+
+bool CFile::OpenNew(const char* pFileName, unsigned nOpenFlags, CFileException* pError)
+{
+    const CString sFileName(pFileName);
+    const int nHandle = OpenHandle(gToSystemFileName(sFileName), nOpenFlags);
     if (nHandle < 0) {
         const int nError = errno;
         if (pError != nullptr) {
@@ -125,7 +149,7 @@ bool CFile::Open(const char* pFileName, unsigned nOpenFlags, CFileException* pEr
         return false;
     }
     mnHandle = nHandle;
-    mbWritable = (nFlags & O_ACCMODE) != O_RDONLY;
+    mbWritable = (nOpenFlags & kModeMask) != modeRead;
     msFileName = sFileName;
     return true;
 }
@@ -188,10 +212,10 @@ unsigned CFile::Read(void* pBuffer, unsigned nCount)
     while (nDone < nCount) {
         const auto nRead = Retry(
             [&] { return ::read(mnHandle, static_cast<char*>(pBuffer) + nDone, nCount - nDone); });
-        if (nRead < 0) {
+        if (nRead < 0 && nDone == 0) {
             ThrowLastError();
         }
-        if (nRead == 0) {
+        if (nRead <= 0) {
             break;
         }
         nDone += static_cast<unsigned>(nRead);
@@ -211,6 +235,11 @@ void CFile::Write(const void* pBuffer, unsigned nCount)
         }
         nDone += static_cast<unsigned>(nWritten);
     }
+}
+
+bool CFile::HasPositions() const noexcept
+{
+    return ::lseek(mnHandle, 0, SEEK_CUR) >= 0 || errno != ESPIPE;
 }
 
 void CFile::Lock(short nType, std::uint64_t nPosition, std::uint64_t nCount) const
@@ -277,7 +306,7 @@ unsigned CFile::GetBufferPtr(unsigned /*nCommand*/, unsigned /*nCount*/, void** 
 void CFile::Remove(const char* pFileName)
 {
     const CString sFileName(pFileName);
-    if (::unlink(sFileName.GetString()) != 0) {
+    if (::unlink(gToSystemFileName(sFileName).c_str()) != 0) {
         CFileException::ThrowOsError(errno, sFileName);
     }
 }

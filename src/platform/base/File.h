@@ -10,11 +10,13 @@ class CAtlTransactionManager;
 
 /// The platform's file of bytes, unbuffered: each operation is a system call. An operation that
 /// fails throws a CFileException, unless it says otherwise; one that a signal interrupted is tried
-/// again. Positions and lengths are in bytes.
+/// again. Positions and lengths are in bytes. Names are in the system's code page, with either
+/// separator (gToSystemFileName).
 class CFile
 {
 public:
-    /// How a file is opened; one of the first three, and any of the others.
+    /// How a file is opened; one of the first three, and any of the others. (The number 3 is none
+    /// of the three, and refused.)
     enum OpenFlags : unsigned {
         modeRead = 0x0000,
         modeWrite = 0x0001,
@@ -57,7 +59,8 @@ public:
     /// @throws CInvalidArgException for null
     virtual void SetFilePath(const char* pFileName);
 
-    /// Opens a file, and closes the one before. A folder is refused.
+    /// Opens a file, and closes the one before by Close, whose errors are lost. A folder is
+    /// refused.
     /// @param pFileName its name, zero-terminated
     /// @param nOpenFlags of OpenFlags
     /// @param pError if not null: filled on failure
@@ -82,7 +85,8 @@ public:
 
     /// Reads at the position and moves it.
     /// @param pBuffer room for nCount bytes
-    /// @return how many bytes were read; less than nCount only at the end
+    /// @return how many bytes were read; less than nCount only at the end, and in front of a place
+    ///         that can't be read, at which the next call throws
     virtual unsigned Read(void* pBuffer, unsigned nCount);
     /// Writes all bytes at the position and moves it.
     virtual void Write(const void* pBuffer, unsigned nCount);
@@ -106,12 +110,16 @@ public:
     /// Tells whether a file is open.
     [[nodiscard]] bool HasHandle() const noexcept { return mnHandle >= 0; }
 
+    /// Tells whether the open file can be sought in, as a pipe or a terminal can't.
+    [[nodiscard]] bool HasPositions() const noexcept;
+
     /// Deletes a file.
     /// @param pFileName its name, zero-terminated
     static void Remove(const char* pFileName);
 
 private:
     [[noreturn]] void ThrowLastError() const;
+    bool OpenNew(const char* pFileName, unsigned nOpenFlags, CFileException* pError);
     void Lock(short nType, std::uint64_t nPosition, std::uint64_t nCount) const;
 
     int mnHandle = -1;

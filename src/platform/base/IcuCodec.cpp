@@ -103,7 +103,6 @@ bool CIcuCodec::DecodeNext(std::string_view& rsRest, std::u16string& rsOut) cons
         return true;
     }
 
-    const std::lock_guard lock(mMutex);
     const char* pNext = rsRest.data();
     const char* const pEnd =
         rsRest.data() + (rsRest.size() < kMostOfCharacter ? rsRest.size() : kMostOfCharacter);
@@ -139,7 +138,6 @@ bool CIcuCodec::EncodeNext(std::u16string_view& rsRest, std::string& rsOut) cons
         return true;
     }
 
-    const std::lock_guard lock(mMutex);
     std::array<char, kMostOfCharacter> bytes{};
     UErrorCode error = U_ZERO_ERROR;
     const std::int32_t nBytes =

@@ -3,14 +3,12 @@
 #include "platform/base/Codec.h"
 
 #include <memory>
-#include <mutex>
 #include <string>
 #include <string_view>
 
 struct UConverter;
 
-/// Any code page that ICU knows. General and slow: one converter behind a lock, one call per
-/// character.
+/// Any code page that ICU knows. General and slow: one call of its converter per character.
 class CIcuCodec final : public ICodec
 {
 public:
@@ -38,6 +36,5 @@ private:
 
     std::u16string DecodeAll(std::string_view sBytes) const;
 
-    mutable std::mutex mMutex; // a converter holds state during a call
     TConverterPtr mpConverter;
 };

@@ -1,20 +1,18 @@
 #include "platform/base/IsWine.h"
 
-#include <atomic>
-
 namespace
 {
 
-std::atomic<bool> gbIsWine{false};
+bool gbIsWine = false;
 
 } // namespace
 
 bool gIsWine() noexcept
 {
-    return gbIsWine.load(std::memory_order_relaxed);
+    return gbIsWine;
 }
 
 void gSetIsWine(bool bIsWine) noexcept
 {
-    gbIsWine.store(bIsWine, std::memory_order_relaxed);
+    gbIsWine = bIsWine;
 }

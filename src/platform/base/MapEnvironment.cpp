@@ -6,20 +6,17 @@ CMapEnvironment::CMapEnvironment(TVariables variables) : mVariables(std::move(va
 
 std::optional<std::string> CMapEnvironment::Get(std::string_view sName) const
 {
-    const std::lock_guard lock(mMutex);
     const auto it = mVariables.find(sName);
     return it != mVariables.end() ? std::optional(it->second) : std::nullopt;
 }
 
 void CMapEnvironment::Set(std::string_view sName, std::string_view sValue)
 {
-    const std::lock_guard lock(mMutex);
     mVariables.insert_or_assign(std::string(sName), std::string(sValue));
 }
 
 void CMapEnvironment::Unset(std::string_view sName)
 {
-    const std::lock_guard lock(mMutex);
     if (const auto it = mVariables.find(sName); it != mVariables.end()) {
         mVariables.erase(it);
     }

@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <map>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,6 +28,5 @@ public:
     void Unset(std::string_view sName) override;
 
 private:
-    mutable std::mutex mMutex;
     TVariables mVariables;
 };

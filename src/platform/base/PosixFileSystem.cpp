@@ -141,8 +141,7 @@ std::int64_t CPosixFileSystem::GetModificationTime(std::string_view sName)
 {
     struct stat status {
     };
-    const std::string sPath = gToSystemPath(gMultiByteToWide(sName, gGetSystemCodePage()));
-    return ::stat(sPath.c_str(), &status) == 0 ? status.st_mtime : -1;
+    return ::stat(gToSystemFileName(sName).c_str(), &status) == 0 ? status.st_mtime : -1;
 }
 
 std::u16string CPosixFileSystem::GetProgramFile()

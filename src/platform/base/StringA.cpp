@@ -3,6 +3,7 @@
 #include "platform/base/Ascii.h"
 #include "platform/base/CodePageCase.h"
 #include "platform/base/Exceptions.h"
+#include "platform/base/StringIndex.h"
 
 #include <algorithm>
 #include <type_traits>
@@ -25,16 +26,6 @@ std::string_view CheckedView(const char* pText, int nLength)
     return {pText, static_cast<std::size_t>(nLength)};
 }
 
-std::size_t Clamp(int nValue, std::size_t nMost)
-{
-    return nValue < 0 ? 0 : std::min(static_cast<std::size_t>(nValue), nMost);
-}
-
-int IndexOrNone(std::size_t nFound)
-{
-    return nFound == std::string_view::npos ? -1 : static_cast<int>(nFound);
-}
-
 int Sign(int nValue)
 {
     return (nValue > 0) - (nValue < 0);
@@ -42,7 +33,7 @@ int Sign(int nValue)
 
 } // namespace
 
-CStringA::CStringA(const char* pText) : msBytes(gOperandView(pText)) {}
+CStringA::CStringA(const char* pText) : msBytes(gViewOf(pText)) {}
 
 CStringA::CStringA(std::string_view sText) : msBytes(sText) {}
 
@@ -79,7 +70,7 @@ CStringA& CStringA::operator+=(std::string_view sText)
 
 CStringA& CStringA::operator+=(const char* pText)
 {
-    msBytes += gOperandView(pText);
+    msBytes += gViewOf(pText);
     return *this;
 }
 
@@ -115,43 +106,44 @@ int CStringA::CompareNoCase(std::string_view sOther) const
 
 int CStringA::Find(char chChar, int nStart) const noexcept
 {
-    return nStart < 0 ? -1 : IndexOrNone(msBytes.find(chChar, static_cast<std::size_t>(nStart)));
+    return nStart < 0 ? -1 : gIndexOrNone(msBytes.find(chChar, static_cast<std::size_t>(nStart)));
 }
 
 int CStringA::Find(std::string_view sText, int nStart) const noexcept
 {
-    return nStart < 0 ? -1 : IndexOrNone(msBytes.find(sText, static_cast<std::size_t>(nStart)));
+    return nStart < 0 ? -1 : gIndexOrNone(msBytes.find(sText, static_cast<std::size_t>(nStart)));
 }
 
 int CStringA::ReverseFind(char chChar) const noexcept
 {
-    return IndexOrNone(msBytes.rfind(chChar));
+    return gIndexOrNone(msBytes.rfind(chChar));
 }
 
 int CStringA::FindOneOf(std::string_view sSet) const noexcept
 {
-    return IndexOrNone(msBytes.find_first_of(sSet));
+    return gIndexOrNone(msBytes.find_first_of(sSet));
 }
 
 CStringA CStringA::Left(int nCount) const
 {
-    return {std::string_view(msBytes).substr(0, Clamp(nCount, msBytes.size()))};
+    return {std::string_view(msBytes).substr(0, gClampIndex(nCount, msBytes.size()))};
 }
 
 CStringA CStringA::Right(int nCount) const
 {
-    return {std::string_view(msBytes).substr(msBytes.size() - Clamp(nCount, msBytes.size()))};
+    return {std::string_view(msBytes).substr(msBytes.size() - gClampIndex(nCount, msBytes.size()))};
 }
 
 CStringA CStringA::Mid(int nFirst) const
 {
-    return {std::string_view(msBytes).substr(Clamp(nFirst, msBytes.size()))};
+    return {std::string_view(msBytes).substr(gClampIndex(nFirst, msBytes.size()))};
 }
 
 CStringA CStringA::Mid(int nFirst, int nCount) const
 {
-    const std::string_view sTail = std::string_view(msBytes).substr(Clamp(nFirst, msBytes.size()));
-    return {sTail.substr(0, Clamp(nCount, sTail.size()))};
+    const std::string_view sTail =
+        std::string_view(msBytes).substr(gClampIndex(nFirst, msBytes.size()));
+    return {sTail.substr(0, gClampIndex(nCount, sTail.size()))};
 }
 
 CStringA& CStringA::TrimLeft()
@@ -235,20 +227,20 @@ int CStringA::Remove(char chChar) noexcept
 
 int CStringA::Insert(int nIndex, char chChar)
 {
-    msBytes.insert(Clamp(nIndex, msBytes.size()), 1, chChar);
+    msBytes.insert(gClampIndex(nIndex, msBytes.size()), 1, chChar);
     return GetLength();
 }
 
 int CStringA::Insert(int nIndex, std::string_view sText)
 {
-    msBytes.insert(Clamp(nIndex, msBytes.size()), sText);
+    msBytes.insert(gClampIndex(nIndex, msBytes.size()), sText);
     return GetLength();
 }
 
 int CStringA::Delete(int nIndex, int nCount)
 {
-    const std::size_t nFirst = Clamp(nIndex, msBytes.size());
-    msBytes.erase(nFirst, Clamp(nCount, msBytes.size() - nFirst));
+    const std::size_t nFirst = gClampIndex(nIndex, msBytes.size());
+    msBytes.erase(nFirst, gClampIndex(nCount, msBytes.size() - nFirst));
     return GetLength();
 }
 

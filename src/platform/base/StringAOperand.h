@@ -12,14 +12,23 @@ template <class T>
 concept CStringAOperand = std::same_as<T, CStringA> ||
     (std::convertible_to<const T&, std::string_view> && !std::derived_from<T, CStringA>);
 
+/// A view of a zero-terminated text of any unit.
+/// @param pText null reads as the empty text
+/// @return valid as long as the text is
+template <class TUnit>
+[[nodiscard]] constexpr std::basic_string_view<TUnit> gViewOf(const TUnit* pText) noexcept
+{
+    return pText != nullptr ? std::basic_string_view<TUnit>(pText)
+                            : std::basic_string_view<TUnit>();
+}
+
 /// The bytes of an operand.
 /// @param rText the operand; a null pointer reads as the empty text
 /// @return a view of it, valid as long as the operand is
 template <CStringAOperand T> [[nodiscard]] std::string_view gOperandView(const T& rText) noexcept
 {
     if constexpr (std::convertible_to<const T&, const char*>) {
-        const char* pText = rText;
-        return pText != nullptr ? std::string_view(pText) : std::string_view();
+        return gViewOf<char>(rText);
     } else {
         return rText;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/base/StringA.h"
+
 #include <string>
 #include <string_view>
 
@@ -8,3 +10,8 @@
 /// half of a character.
 /// @param sPath 16-bit text; a unit that is no character becomes "?"
 [[nodiscard]] std::string gToSystemPath(std::u16string_view sPath);
+
+/// The name of a file in the system's code page as the calls of a POSIX system take it: as
+/// gToSystemPath. Where the code page is UTF-8, bytes that are no characters stay as they are.
+/// @param rsName 8-bit text in the system's code page
+[[nodiscard]] std::string gToSystemFileName(const CString& rsName);

@@ -4,7 +4,6 @@
 
 #include <cstdlib>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <unordered_map>
 
@@ -30,12 +29,10 @@ std::string Demangle(const char* pMangled)
 std::string_view gTypeName(const std::type_info& rType)
 {
     // Never destroyed: a window that is destroyed at the very end may still ask for its name.
-    static auto& rMutex = *new std::mutex;
     // By a copy of the compiler's name: a type goes with its library, and another one may come to
     // stand in its place.
     static auto& rNames = *new std::unordered_map<std::string, std::string>;
 
-    const std::lock_guard lock(rMutex);
     const auto [it, bNew] = rNames.try_emplace(rType.name());
     if (bNew) {
         it->second = Demangle(rType.name());

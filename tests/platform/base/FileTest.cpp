@@ -1,5 +1,7 @@
 #include "platform/base/File.h"
 
+#include "platform/base/CodePage.h"
+#include "platform/base/CodePageScope.h"
 #include "platform/base/Exceptions.h"
 #include "platform/base/SystemError.h"
 #include "support/TempFolder.h"
@@ -89,6 +91,65 @@ TEST(FileTest, OpensByItsFlags)
     }
 }
 
+TEST(FileTest, NamesAreInTheCodePageWithEitherSeparator)
+{
+    const CTempFolder folder;
+    const std::string sOnDisk = folder.Write("\xC3\xA9.txt", "abc");
+    const std::string sFolder = folder.Path("");
+    struct Case {
+        unsigned nCodePage;
+        std::string sName;
+    };
+    const Case cases[] = {
+        {kCodePageUtf8, sFolder + "\xC3\xA9.txt"},
+        {kCodePageUtf8, sFolder + "\\\xC3\xA9.txt"},
+        {kCodePageUtf8, R"(\\?\)" + sFolder + "\xC3\xA9.txt"},
+        {kCodePageWindows1252, sFolder + "\xE9.txt"},
+        {kCodePageWindows1252, sFolder + "\\\xE9.txt"},
+    };
+    for (const Case& rCase : cases) {
+        const CCodePageScope scope(rCase.nCodePage);
+        folder.Write("\xC3\xA9.txt", "abc");
+        {
+            CFile file(rCase.sName.c_str(), CFile::modeRead);
+            EXPECT_EQ(ReadAll(file), "abc") << rCase.sName;
+            EXPECT_EQ(file.GetFilePath(), CString(rCase.sName));
+        }
+        CFile::Remove(rCase.sName.c_str());
+        EXPECT_FALSE(std::filesystem::exists(sOnDisk)) << rCase.sName;
+    }
+    // In UTF-8 a name keeps bytes that are no characters.
+    CFile(folder.Path("\xE9").c_str(), CFile::modeWrite | CFile::modeCreate).Close();
+    EXPECT_EQ(folder.Read("\xE9"), "");
+}
+
+TEST(FileTest, TheAccessModeThatIsNoneIsRefused)
+{
+    const CTempFolder folder;
+    const std::string sName = folder.Write("a.txt", "abc");
+    EXPECT_EQ(ErrorOf([&] { const CFile file(sName.c_str(), 3 | CFile::modeCreate); }), EINVAL);
+    EXPECT_EQ(folder.Read("a.txt"), "abc");
+}
+
+TEST(FileTest, OpenClosesTheFileBefore)
+{
+    const CTempFolder folder;
+    CFile file(folder.Write("a.txt", "abc").c_str(), CFile::modeRead);
+    ASSERT_TRUE(file.Open(folder.Write("b.txt", "def").c_str(), CFile::modeRead));
+    EXPECT_EQ(ReadAll(file), "def");
+    EXPECT_FALSE(file.Open(folder.Path("none").c_str(), CFile::modeRead));
+    EXPECT_FALSE(file.HasHandle());
+}
+
+TEST(FileTest, KnowsWhetherItHasPositions)
+{
+    const CTempFolder folder;
+    EXPECT_TRUE(CFile(folder.Write("a.txt", "").c_str(), CFile::modeRead).HasPositions());
+    const std::string sPipe = folder.Path("pipe");
+    ASSERT_EQ(::mkfifo(sPipe.c_str(), 0600), 0);
+    EXPECT_FALSE(CFile(sPipe.c_str(), CFile::modeReadWrite).HasPositions());
+}
+
 TEST(FileTest, TellsWhyItCannotBeOpened)
 {
     const CTempFolder folder;
@@ -148,6 +209,10 @@ TEST(FileTest, KnowsItsName)
     EXPECT_EQ(file.GetFileTitle(), ".rc");
     file.SetFilePath("/tmp/a.b/c");
     EXPECT_EQ(file.GetFileTitle(), "c");
+    file.SetFilePath("z:\\a.b/x\\c.txt");
+    EXPECT_EQ(file.GetFileName(), "c.txt");
+    EXPECT_EQ(file.GetFileTitle(), "c");
+    file.SetFilePath("/tmp/a.b/c");
     EXPECT_THROW(file.SetFilePath(nullptr), CInvalidArgException);
     EXPECT_EQ(file.GetFileName(), "c");
 }
