@@ -60,11 +60,22 @@ std::vector<TComposedLine> ComposedLines()
     return lines;
 }
 
-/// Of each page, how many of its examples are simulated: an example more or less changes a number
-/// here. None of a page all of whose lines are of an unknown form.
+/// Of each page, how many of its examples are simulated; none where all lines are of an unknown
+/// form. An example more or less changes a number here.
 const std::map<std::string, int> kSimulated{
-    {"Current source/Bit", 0},
-}; // FILL
+    // clang-format off
+    {"Current source/Bit", 0}, {"Voltage source/Bit", 0},
+    {"Current source/Bus", 0}, {"Voltage source/Bus", 0},
+    {"Current source/Constant", 2}, {"Voltage source/Constant", 2},
+    {"Current source/Current-controlled", 2}, {"Voltage source/Current-controlled", 2},
+    {"Current source/Exponential", 2}, {"Voltage source/Exponential", 1},
+    {"Current source/FM", 1}, {"Voltage source/FM", 2},
+    {"Current source/Piecewise linear", 1}, {"Voltage source/Piecewise linear", 1},
+    {"Current source/Pulse", 2}, {"Voltage source/Pulse", 2},
+    {"Current source/Sinusoidal", 3}, {"Voltage source/Sinusoidal", 3},
+    {"Current source/Voltage-controlled", 2}, {"Voltage source/Voltage-controlled", 3},
+    // clang-format on
+};
 
 /// What controls the device of this line: voltage sources, or nodes; each with a load.
 std::string ControlOf(char chDevice, std::istringstream& rWords)
