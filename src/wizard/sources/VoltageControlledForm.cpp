@@ -7,6 +7,17 @@
 
 using namespace VoltageControlled;
 
+namespace
+{
+constexpr const char* kMissingFirstControl =
+    "__$$Translatable$$_Missing controlling positive terminal name.";
+
+CString Pair(const CString& rsPositive, const CString& rsNegative)
+{
+    return rsPositive + " " + rsNegative;
+}
+} // namespace
+
 void VoltageControlledForm::Exchange(CDataExchange* pDX)
 {
     DDX_SourceHead(pDX, mFields.mHead);
@@ -98,17 +109,6 @@ CString VoltageControlledForm::Head() const
     gPrefixSourceLetter(sHead, mFields.mHead.msName, mrTwin.chLetter);
     return sHead;
 }
-
-namespace
-{
-constexpr const char* kMissingFirstControl =
-    "__$$Translatable$$_Missing controlling positive terminal name.";
-
-CString Pair(const CString& rsPositive, const CString& rsNegative)
-{
-    return rsPositive + " " + rsNegative;
-}
-} // namespace
 
 bool VoltageControlledForm::BuildLinear(CString& rsCommand)
 {

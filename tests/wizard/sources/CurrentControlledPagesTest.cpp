@@ -358,7 +358,7 @@ TEST_F(CurrentControlledPages, ShowTheirFields)
   controlling-source: C&ontrolling voltage source:
   polynomial-sources: Po&lynomial sources
   gain: C&urrent gain:
-  coefficients: Pol&ynomial coefficients:
+  coefficients: Pol&ynomial coefficients: (lines)
   second-controlling-source: Con&trolling voltage source #2:
   third-controlling-source: Cont&rolling voltage source #3:
 )");
@@ -370,7 +370,7 @@ TEST_F(CurrentControlledPages, ShowTheirFields)
   controlling-source: C&ontrolling voltage source:
   polynomial-sources: Po&lynomial sources
   gain: Tr&ansresistance (in Ohm):
-  coefficients: Pol&ynomial coefficients:
+  coefficients: Pol&ynomial coefficients: (lines)
   second-controlling-source: Con&trolling voltage source #2:
   third-controlling-source: Cont&rolling voltage source #3:
 )");

@@ -190,7 +190,7 @@ TEST_F(PiecewiseLinearSourcePages, ShowTheirFieldsWithTheirUnits)
     dc-value
     '(default is the time=0 value of the transient waveform)'
   'Waveform'
-    corners: C&orners: (t0 i0 t1 i1 t2 i2 ...), t in seconds, i in amps
+    corners: C&orners: (t0 i0 t1 i1 t2 i2 ...), t in seconds, i in amps (lines)
     rounding: Corner &rounding parameter (0): [sec]
   'AC values'
     ac-magnitude: &Magnitude (0): [A]
@@ -206,7 +206,7 @@ TEST_F(PiecewiseLinearSourcePages, ShowTheirFieldsWithTheirUnits)
     dc-value
     '(default is the time=0 value of the transient waveform)'
   'Waveform'
-    corners: &Corners: (t0 v0 t1 v1 t2 v2 ...), t in seconds, v in volts
+    corners: &Corners: (t0 v0 t1 v1 t2 v2 ...), t in seconds, v in volts (lines)
     rounding: Corner &rounding parameter (0): [sec]
   'AC values'
     ac-magnitude: &Magnitude (0): [V]

@@ -75,7 +75,7 @@ std::string ShownBy(const TControlRow& rRow)
 {
     const std::string sKey = rRow.pKey;
     if (gIsInput(rRow.kind))
-        return sKey;
+        return sKey + (rRow.kind == EControl::MultilineEdit ? " (lines)" : "");
     if (rRow.kind == EControl::Label || rRow.kind == EControl::CheckBox)
         return sKey + ": " + rRow.pLabel;
     if (rRow.kind == EControl::RadioButton)
@@ -198,12 +198,15 @@ std::string gShownBy(std::string_view sClass)
     for (const TControlRow& rRow : rows) {
         const bool bTold = fields.contains(rRow.pKey);
         const bool bLabel = rRow.kind == EControl::Label;
-        if (bTold && gIsInput(rRow.kind))
+        const auto append = [&sShown](const std::string& rsText) {
+            sShown.insert(sShown.size() - 1, rsText); // to the line before
+        };
+        if (bTold && rRow.kind == EControl::MultilineEdit)
+            append(rRow.nFlags & kWantReturn ? " (lines)" : " (lines without Return)");
+        if (bTold && bLabel)
+            append(std::string(" [") + rRow.pLabel + ']');
+        if (bTold && (bLabel || gIsInput(rRow.kind)))
             continue;
-        if (bTold && bLabel) { // right behind its field
-            sShown.insert(sShown.size() - 1, std::string(" [") + rRow.pLabel + ']');
-            continue;
-        }
         sShown.append(2 * DepthOf(rRow, rows), ' ');
         if (bLabel)
             fields.insert(rRow.pKey);

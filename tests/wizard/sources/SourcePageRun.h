@@ -54,6 +54,6 @@ void gExpectKeptByBoth(const std::string& rsKind, const TFieldValues& rFields);
 
 /// What the template of this class shows, a line for each, behind an empty one: in its order, two
 /// blanks further right for each group box around it, a group's title or a note in quotes, a field
-/// as `key: label [unit]`, a check box as `key: label`, a button of a radio group as `key, first:
-/// label`, the following with `next`.
+/// as `key: label [unit]`, one of several lines with ` (lines)` behind it, a check box as
+/// `key: label`, a button of a radio group as `key, first: label`, the following with `next`.
 std::string gShownBy(std::string_view sClass);

@@ -229,7 +229,7 @@ TEST_F(VoltageControlledModes, TheTemplateHoldsTheFieldsOfAll)
   first-control-field: &Controlling positive terminal:
   second-control-field: Con&trolling negative terminal (GND):
   gain: T&ransconductance (in 1/Ohm):
-  coefficients
+  coefficients (lines)
   second-positive: Controllin&g positive terminal #2:
   second-negative: Controlling negative ter&minal #2 (GND):
   third-positive: Controlling po&sitive terminal #3:
@@ -247,7 +247,7 @@ TEST_F(VoltageControlledModes, TheTemplateHoldsTheFieldsOfAll)
   first-control-field: &Controlling positive terminal:
   second-control-field: Con&trolling negative terminal (GND):
   gain: Volt&age gain:
-  coefficients
+  coefficients (lines)
   second-positive: Controllin&g positive terminal #2:
   second-negative: Controlling negative ter&minal #2 (GND):
   third-positive: Controlling po&sitive terminal #3:
