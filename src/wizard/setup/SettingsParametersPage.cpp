@@ -163,7 +163,7 @@ public:
         mDistribution.SetCurSel(mFields.mnDistribution);
         UpdateData(false);
         OnDistribution();
-        OnType(); // meant: ends with distribution 0, whichever is remembered
+        OnType(); // Meant: ends with distribution 0, whichever is remembered
         for (const int nField : {kSixth, kFirst, kSecond, kThird, kFourth})
             OnField(nField);
         return true;
@@ -248,8 +248,7 @@ private:
             gReportFailure(*this, pFailure);
             return;
         }
-        CString sMessage;
-        mEditing.Add(sEntry, sMessage);
+        mEditing.Add(sEntry);
     }
 
     void OnDelete() { mEditing.Delete(); }

@@ -108,7 +108,7 @@ public:
         msOption = rRemembered.msOption;
         msValue = rRemembered.msValue;
         UpdateData(false);
-        OnOption(); // meant: ends with the option's default, whichever value is remembered
+        OnOption(); // Meant: ends with the option's default, whichever value is remembered
         return true;
     }
 

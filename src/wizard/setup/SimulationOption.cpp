@@ -39,7 +39,7 @@ CString gOptionCommand(int nOption, int nChoice, const CString& rsText)
 {
     const TSimulationOption* const pOption = FindOption(nOption);
     if (!pOption)
-        return "Internal Error! Unrecognized option selection!"; // meant: not translated
+        return "Internal Error! Unrecognized option selection!"; // Meant: not translated
     return CString(".options ") + pOption->pKey + "=" + ValueOf(pOption->control, nChoice, rsText);
 }
 
