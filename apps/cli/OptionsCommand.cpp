@@ -5,7 +5,7 @@
 #include "cli/Output.h"
 #include "cli/Quote.h"
 #include "platform/base/Ascii.h"
-#include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 #include "platform/ui/Translate.h"
 #include "wizard/setup/SimulationOptionTable.h"
 

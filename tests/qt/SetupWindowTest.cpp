@@ -147,18 +147,18 @@ void ExpectValueIn(CPlayer& rPlayer, bool bEdit)
     });
 }
 
-TEST_F(SetupWindow, AnOptionIsChosenByItsFirstLettersAndItsValueTypedOrChosen)
+TEST_F(SetupWindow, AnOptionIsChosenByKeyboardAndItsValueTypedOrChosen)
 {
     CPlayer player;
     OpenPage(player, "Settings", "Simulation options");
     player.Do({"press Alt+O", "type gmin"});
     ExpectValueIn(player, true);
-    player.Do({"press Alt+V", "type 1e-13", "press Alt+I", "press Alt+O", "type fast"});
+    player.Do({"press Alt+V", "type 1e-13", "press Alt+I", "press Alt+O", "press End", "press Up"});
     ExpectValueIn(player, false);
     player.Do({"press Alt+V", "press Down", "press Alt+I", "press Escape"});
     Play(player);
     EXPECT_EQ(mTarget.mCommands,
-              (std::vector<std::string>{".options gmin=1e-13", ".options fast=1"}));
+              (std::vector<std::string>{".options gmin=1e-13", ".options xref=1"}));
 }
 
 TEST_F(SetupWindow, TheChainOfGuessesIsTypedThroughByKeyboard)

@@ -50,6 +50,7 @@ constexpr auto ValueLine()
     using namespace PageLayout;
     constexpr TRect place{kLeft, 0, kUnitX - 4 - kLeft, kEditHeight};
     auto text = LabelledAt(Row(kValueText, "value-text", EControl::Edit, "", place), "&Value");
+    text.rows[0].row.rect.w = kWidth; // above the unit, too
     text.rows[1].row.nLayers = kTextLayer;
     const auto list = Moved(At(Row(kValueList, "value-list", EControl::DropDownList, "", place,
                                    kHidden | kSharesLabel, kListLayer, kValueEntries)),
