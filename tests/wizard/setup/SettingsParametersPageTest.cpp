@@ -127,6 +127,20 @@ TEST_F(ParametersPage, AChangeOfTypeMovesNoTextAndGoesBackToTheFirstDistribution
                    look::Text("first", "r"), look::Text("fourth", "3"), look::Text("fifth", "2")}));
 }
 
+TEST_F(ParametersPage, TheTypeChosenAgainShowsTheFirstDistributionWhicheverWasChosen)
+{
+    const CBracketTranslation translation;
+    for (int nDistribution = 0; nDistribution < 5; ++nDistribution)
+        gRunWizard(OnPage("[Settings]/[Parameters]")
+                       .Do({Select("parameter-type", kTypeMonteCarlo),
+                            Select("distribution", nDistribution),
+                            Select("parameter-type", kTypeMonteCarlo)})
+                       .Look({look::Selected("distribution", 0)})
+                       .Look(Looks(kDistributionLabels[0]))
+                       .Do({Select("distribution", nDistribution)})
+                       .Look(Looks(kDistributionLabels[nDistribution])));
+}
+
 // --- the button Add
 
 struct TAddCase {
