@@ -29,19 +29,6 @@ std::string EntryOf(const TOptionChoice& rChoice)
     return gToUtf8(xlang::gTranslate(rChoice.pEntry));
 }
 
-const char* KindOf(const TSimulationOption& rOption)
-{
-    switch (rOption.control.kind) {
-    case EOptionKind::Edit:
-        return "edit";
-    case EOptionKind::OnOff:
-        return "on/off";
-    case EOptionKind::List:
-        break;
-    }
-    return "list";
-}
-
 bool Contains(std::string_view sText, std::string_view sWord)
 {
     const auto found = std::ranges::search(
@@ -82,7 +69,7 @@ TJson ToJson(std::size_t nOption)
     return {{"index", nOption},
             {"entry", rOption.pEntry},
             {"key", rOption.pKey},
-            {"kind", KindOf(rOption)},
+            {"kind", gOptionKindName(rOption.control.kind)},
             {"choices", ChoicesToJson(rControl)},
             {"selected", rControl.choices.empty() ? TJson() : TJson(rControl.nDefault)},
             {"default", rOption.pDefault ? TJson(rOption.pDefault) : TJson()},
@@ -120,8 +107,9 @@ std::string ToText(const std::vector<std::size_t>& rFound)
         {"OPTION", "KEY", "KIND", "DEFAULT", "UNIT", "EXPLANATION"}};
     for (const std::size_t nOption : rFound) {
         const TSimulationOption& rOption = kSimulationOptions[nOption];
-        rows.push_back({rOption.pEntry, rOption.pKey, KindOf(rOption), DefaultCell(rOption),
-                        *rOption.pUnit ? rOption.pUnit : "-", ExplanationCell(rOption)});
+        rows.push_back({rOption.pEntry, rOption.pKey, gOptionKindName(rOption.control.kind),
+                        DefaultCell(rOption), *rOption.pUnit ? rOption.pUnit : "-",
+                        ExplanationCell(rOption)});
         if (rOption.control.kind != EOptionKind::List)
             continue;
         for (std::size_t n = 0; n < rOption.control.choices.size(); ++n)

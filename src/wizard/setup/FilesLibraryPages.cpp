@@ -38,7 +38,7 @@ struct TFields {
 Remembered<TFields> sAddRemembered;
 Remembered<TFields> sDeleteRemembered;
 
-/// What both pages do.
+/// What both pages do; they are shells of one line each.
 class LibraryForm
 {
 public:
@@ -54,12 +54,14 @@ public:
         DDX_Text(pDX, kSection, msSection);
     }
 
-    void Restore()
+    bool InitDialog()
     {
+        mrPage.CDialog::OnInitDialog();
         mFile.SetWindowText(mrRemembered.Get().msFile);
         msSection = mrRemembered.Get().msSection;
         mrPage.UpdateData(false);
         mBrowse.SetTarget(mFile);
+        return true;
     }
 
     bool Build(CString& rsCommand)
@@ -95,20 +97,8 @@ public:
     CFilesLibraryPage() : CCommandPage(kAddTemplate), mForm(*this, kAdd, sAddRemembered) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -125,20 +115,8 @@ public:
     }
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

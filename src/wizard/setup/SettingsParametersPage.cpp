@@ -258,8 +258,8 @@ private:
     CComboBox mType;
     CListBox mList;
     CComboBox mDistribution;
-    ListEditing mEditing{*this, mList, kListParts};
     TParameterFields mFields;
+    ListEditing mEditing{*this, mList, kListParts};
 };
 
 template const CRuntimeClass& gRuntimeClass<CSettingsParametersPage>();

@@ -28,6 +28,19 @@ CString ValueOf(const TOptionControl& rControl, int nChoice, const CString& rsTe
 }
 } // namespace
 
+const char* gOptionKindName(EOptionKind kind)
+{
+    switch (kind) {
+    case EOptionKind::Edit:
+        return "edit";
+    case EOptionKind::OnOff:
+        return "on/off";
+    case EOptionKind::List:
+        break;
+    }
+    return "list";
+}
+
 CString gOptionValueLabel(const TSimulationOption& rOption)
 {
     if (!rOption.pDefault)

@@ -11,6 +11,9 @@ enum class EOptionKind {
     List,  ///< chooses one of the option's own entries
 };
 
+/// The name of a kind: "edit", "on/off" or "list".
+const char* gOptionKindName(EOptionKind kind);
+
 /// A value that can be chosen.
 struct TOptionChoice {
     const char* pEntry; ///< as the user sees it, with the translation marker

@@ -109,6 +109,21 @@ std::vector<TListCase> gListStories(const TListPage& rPage)
     };
 }
 
+void gExpectAddIsLeftAlone(const TListPage& rPage)
+{
+    for (const char* const pButton : {"delete", "clear"}) {
+        for (const bool bAdd : {true, false}) {
+            CScript script = rPage.withTwoEntries();
+            if (!bAdd)
+                script.Do({Set(rPage.sNeeded, "")});
+            gRunWizard(script.Look({look::Enabled("add", bAdd)})
+                           .Answer({true})
+                           .Do({Click(pButton)})
+                           .Look({look::Enabled("add", bAdd)}));
+        }
+    }
+}
+
 void gExpectLists(const std::vector<TListCase>& rCases)
 {
     for (const TListCase& rCase : rCases) {

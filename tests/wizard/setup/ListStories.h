@@ -16,6 +16,7 @@ struct TListPage {
     std::string sAlreadyThere;
     std::string sDeleteQuestion;
     std::string sClearQuestion;
+    std::string sNeeded; ///< a field that Add needs a text in
 };
 
 /// What a script leaves of the list.
@@ -30,6 +31,9 @@ struct TListCase {
 
 /// The stories that every such page has.
 std::vector<TListCase> gListStories(const TListPage& rPage);
+
+/// Expects that Delete and Clear leave the button Add as it is, enabled or not.
+void gExpectAddIsLeftAlone(const TListPage& rPage);
 
 /// Runs the scripts and expects what they leave.
 void gExpectLists(const std::vector<TListCase>& rCases);

@@ -12,19 +12,6 @@
 
 namespace
 {
-const char* ControlName(EOptionKind kind)
-{
-    switch (kind) {
-    case EOptionKind::Edit:
-        return "edit";
-    case EOptionKind::OnOff:
-        return "on/off";
-    case EOptionKind::List:
-        break;
-    }
-    return "list";
-}
-
 TEST(SimulationOption, TheTableHoldsTheseOptions)
 {
     const auto rows = optionRows::gOptions();
@@ -36,7 +23,7 @@ TEST(SimulationOption, TheTableHoldsTheseOptions)
         EXPECT_EQ(rows[n].nIndex, static_cast<int>(n));
         EXPECT_STREQ(rOption.pEntry, rows[n].pEntry);
         EXPECT_STREQ(rOption.pKey, rows[n].pKey);
-        EXPECT_STREQ(ControlName(rOption.control.kind), rows[n].pControl);
+        EXPECT_STREQ(gOptionKindName(rOption.control.kind), rows[n].pControl);
         EXPECT_EQ(gOptionValueLabel(rOption), rows[n].pLabel);
         EXPECT_STREQ(rOption.pUnit, rows[n].pUnit);
         EXPECT_EQ(gOptionTakesText(rows[n].nIndex), std::string(rows[n].pControl) == "edit");
