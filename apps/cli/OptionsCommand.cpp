@@ -31,10 +31,9 @@ std::string EntryOf(const TOptionChoice& rChoice)
 
 bool Contains(std::string_view sText, std::string_view sWord)
 {
-    const auto found = std::ranges::search(
-        sText, sWord, {}, [](char c) { return gToLowerAscii(c); },
-        [](char c) { return gToLowerAscii(c); });
-    return sWord.empty() || !found.empty();
+    const auto isSame = [](char a, char b) { return gToLowerAscii(a) == gToLowerAscii(b); };
+    return sWord.empty() || std::search(sText.begin(), sText.end(), sWord.begin(), sWord.end(),
+                                        isSame) != sText.end();
 }
 
 /// The options that have the word, as indexes.
