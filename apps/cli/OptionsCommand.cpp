@@ -5,6 +5,7 @@
 #include "cli/Output.h"
 #include "cli/Quote.h"
 #include "platform/base/Ascii.h"
+#include "platform/base/CodePage.h"
 #include "platform/base/Utf8Text.h"
 #include "platform/ui/Translate.h"
 #include "wizard/setup/SimulationOptionTable.h"
@@ -21,7 +22,9 @@ namespace
 {
 std::string ExplanationOf(const TSimulationOption& rOption)
 {
-    return gToUtf8(rOption.pExplanation);
+    // Whatever the code page of the wizard's texts.
+    return gWideToMultiByte(gMultiByteToWide(rOption.pExplanation, kCodePageWindows1252),
+                            kCodePageUtf8);
 }
 
 std::string EntryOf(const TOptionChoice& rChoice)

@@ -135,6 +135,16 @@ TEST(Options, AWordIsSoughtInNameKeyAndExplanation)
     }
 }
 
+TEST(Options, ExplanationsAreTheSameUnderAnyCodePage)
+{
+    for (const char* const pCodePage : {"1252", "932"}) {
+        const TProgramRun run =
+            gRunQuorvawiz({"options", "system\u2019s", "--json", "--code-page", pCodePage});
+        EXPECT_EQ(run, gRunQuorvawiz({"options", "method of numerical", "--json"})) << pCodePage;
+        EXPECT_EQ(json::parse(run.sOut).at(0)["explanation"], Explanation(50)) << pCodePage;
+    }
+}
+
 TEST(Options, AWordThatNoOptionHasIsSaidAndEndsWithOne)
 {
     const std::string sComplaint =

@@ -67,6 +67,10 @@ const TCase kCases[] = {
      WithTwoEntries().Do(gCurrent("x1", "")),
      {".ic v(a)=1 i(L2)=0"},
      {}},
+    {"one entry wins over an illegal name, and no check runs",
+     OnPage().Do(gVoltage("a", "", "1")).Do({Click("add")}).Do(gCurrent("x1", "")),
+     {".ic v(a)=1"},
+     {}},
     {"after the last entry is deleted the fields count again",
      WithTwoEntries()
          .Answer({true, true})
