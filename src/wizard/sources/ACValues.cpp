@@ -23,8 +23,8 @@ void gAppendACWithBlankBehind(CString& rsLine, const TACValues& rAC)
         return;
     rsLine += " AC ";
     if (!rAC.msMagnitude.IsEmpty())
-        rsLine += rAC.msMagnitude + " "; // meant: even when no phase follows
-    rsLine += rAC.msPhase;               // meant: in the magnitude's place when there is none
+        rsLine += rAC.msMagnitude + " "; // Meant: even when no phase follows
+    rsLine += rAC.msPhase;               // Meant: in the magnitude's place when there is none
 }
 
 void gAppendACWithBlankBefore(CString& rsLine, const TACValues& rAC)
@@ -33,5 +33,5 @@ void gAppendACWithBlankBefore(CString& rsLine, const TACValues& rAC)
         return;
     rsLine += " AC";
     gAppendIfAny(rsLine, " ", rAC.msMagnitude);
-    gAppendIfAny(rsLine, " ", rAC.msPhase); // meant: in the magnitude's place when there is none
+    gAppendIfAny(rsLine, " ", rAC.msPhase); // Meant: in the magnitude's place when there is none
 }

@@ -31,7 +31,7 @@ constexpr TTwin kVoltage{
     .source = kVoltageSource,
     .pattern = {.pWaveform = "Waveform:",
                 .pOnValue = "&ON value (5):",
-                .pHighTime = "Hi&gh time (10):", // meant: without the n of its neighbours
+                .pHighTime = "Hi&gh time (10):", // Meant: without the n of its neighbours
                 .pDelay = "D&elay (0):"},
 };
 

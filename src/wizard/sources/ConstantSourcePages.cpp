@@ -74,7 +74,7 @@ public:
         if (!AreFilled(
                 {{rHead.msName, mrTwin.pMissingName},
                  {rHead.msPositiveTerminal, kMissingPositiveTerminal},
-                 {mFields.msDC, "__$$Translatable$$_Missing DC value"}})) // meant: no full stop
+                 {mFields.msDC, "__$$Translatable$$_Missing DC value"}})) // Meant: no full stop
             return false;
         rsCommand = gSourceHeadText(rHead) + " " + mFields.msDC;
         gPrefixSourceLetter(rsCommand, rHead.msName, mrTwin.source.chLetter);

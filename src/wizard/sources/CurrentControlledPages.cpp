@@ -192,7 +192,7 @@ private:
         rsCommand = gSourceHeadText(mFields.mHead) + " POLY(";
         gPrefixSourceLetter(rsCommand, mFields.mHead.msName, mrTwin.chLetter);
         if (!AreFurtherSourcesLegal())
-            return false; // meant: the line so far stays
+            return false; // Meant: the line so far stays
         AppendSources(rsCommand);
         return true;
     }

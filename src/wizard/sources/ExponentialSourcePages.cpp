@@ -114,7 +114,7 @@ public:
                     mFields.msPeak + " " + mFields.msRiseDelay;
         gPrefixSourceLetter(rsCommand, rHead.msName, mrTwin.source.chLetter);
         if (!AppendRest(rsCommand))
-            return false; // meant: the line so far stays
+            return false; // Meant: the line so far stays
         rsCommand += ")";
         gAppendACWithBlankBehind(rsCommand, mFields.mAC);
         Remember();

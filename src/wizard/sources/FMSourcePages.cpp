@@ -108,7 +108,7 @@ public:
                     mFields.msPeakAmplitude;
         gPrefixSourceLetter(rsCommand, rHead.msName, mrTwin.source.chLetter);
         if (!AppendModulation(rsCommand))
-            return false; // meant: the line so far stays
+            return false; // Meant: the line so far stays
         rsCommand += ")";
         gAppendACWithBlankBehind(rsCommand, mFields.mAC);
         Remember();
@@ -126,7 +126,7 @@ private:
             return false;
         gAppendIfAny(rsCommand, " ", mFields.msCarrierFrequency);
         gAppendIfAny(rsCommand, " ", mFields.msModulationIndex);
-        gAppendIfAny(rsCommand, " ", mFields.msSignalFrequency); // meant: even in the index's place
+        gAppendIfAny(rsCommand, " ", mFields.msSignalFrequency); // Meant: even in the index's place
         return true;
     }
 };

@@ -123,7 +123,7 @@ public:
                     mFields.msPeak;
         gPrefixSourceLetter(rsCommand, rHead.msName, mrTwin.source.chLetter);
         if (!AppendTimes(rsCommand))
-            return false; // meant: the line so far stays
+            return false; // Meant: the line so far stays
         rsCommand += ")";
         gAppendIfAny(rsCommand, " ROUND=", mFields.msRounding);
         gAppendACWithBlankBefore(rsCommand, mFields.mAC);
@@ -155,9 +155,9 @@ private:
         } else if (!mFields.msFallTime.IsEmpty()) {
             if (!AreFilled({rise}))
                 return false;
-            rsCommand += sDelaySlot + sRiseAndFall + " "; // meant: the slot of the empty width
+            rsCommand += sDelaySlot + sRiseAndFall + " "; // Meant: the slot of the empty width
         }
-        return true; // meant: a rise time alone is left out
+        return true; // Meant: a rise time alone is left out
     }
 };
 } // namespace

@@ -133,7 +133,7 @@ public:
         PrefixLetter(rsCommand, rHead.msName);
         rsCommand += mFields.msOffset;
         if (!(IsSimple() ? AppendSimple(rsCommand) : AppendExtended(rsCommand)))
-            return false; // meant: the line so far stays
+            return false; // Meant: the line so far stays
         rsCommand += ")";
         gAppendACWithBlankBefore(rsCommand, mFields.mAC);
         Remember();

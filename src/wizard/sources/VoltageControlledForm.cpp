@@ -128,7 +128,7 @@ bool VoltageControlledForm::BuildPolynomial(CString& rsCommand)
         return false;
     rsCommand = Head() + " POLY(";
     if (!ArePairsWhole())
-        return false; // meant: the line so far stays
+        return false; // Meant: the line so far stays
     AppendPairs(rsCommand);
     return true;
 }
