@@ -37,8 +37,7 @@ TEST(Optimization, ComposeInsertsNothingBeforeTheLastStep)
           "name= ", "continue"},
          "Missing model name.\nMissing model name.\n"},
         {{"measurement=delay"},
-         "quorvawiz: \"measurement\" is hidden; the nearest that can be used is "
-         "\"analysis-name\"\n",
+         "quorvawiz: \"measurement\" is hidden; the nearest that can be used is \"continue\"\n",
          2},
     };
     for (const TRefusal& rCase : cases) {

@@ -171,7 +171,7 @@ constexpr auto LimitsLines()
 constexpr auto AlgorithmLines()
 {
     constexpr TColumns kLeft{.nField = 80};
-    constexpr TColumns kRight{.nField = 44};
+    constexpr TColumns kRight{.nField = 180};
     return Tight(DropDownLine(kLeft, kAlgorithmType, "algorithm-type",
                               TextOf(LabelOf(kAlgorithmType)), kAlgorithmTypes),
                  Edit<kName>("name", kLeft), Beside(140, KeyColumn<0>(kLeft), KeyColumn<5>(kRight)),
