@@ -108,7 +108,7 @@ inline constexpr TStepText kStepTexts[] = {
 };
 
 /// The text that a control has on the first step that gives it one, as a template holds it.
-consteval const char* TextOf(int nControl)
+constexpr const char* TextOf(int nControl)
 {
     for (const TStepText& rText : kStepTexts)
         if (rText.nControl == nControl)
@@ -143,16 +143,16 @@ template <std::size_t First> constexpr auto KeyColumn(const TColumns& rColumns)
 
 constexpr auto SetupLines()
 {
-    return Lines(Edit<kOptimizationName>("optimization-name"),
+    return Lines(Space(0), Edit<kOptimizationName>("optimization-name"),
                  DropDownLine(kColumns, kAnalysisName, "analysis-name",
                               TextOf(LabelOf(kAnalysisName)), {}, EControl::DropDown));
 }
 
 constexpr auto GoalLines()
 {
-    return Lines(Edit<kMeasurement>("measurement"), Edit<kTarget>("target"),
+    return Lines(Space(0), Edit<kMeasurement>("measurement"), Edit<kTarget>("target"),
                  Edit<kMinimumValue>("minimum-value"), Edit<kWeight>("weight"),
-                 LabelledListLines(kGoalList, "goal-list", TextOf(LabelOf(kGoalList)), 89,
+                 LabelledListLines(kGoalList, "goal-list", TextOf(LabelOf(kGoalList)), 85,
                                    {kGoalAdd, "&Add"}, {kGoalDelete, "&Delete"},
                                    {kGoalClear, "&Clear"},
                                    {"goal-add", "goal-delete", "goal-clear"}));
@@ -160,33 +160,38 @@ constexpr auto GoalLines()
 
 constexpr auto LimitsLines()
 {
-    return Lines(Edit<kParameterName>("parameter-name"), Edit<kMinimum>("minimum"),
+    return Lines(Space(0), Edit<kParameterName>("parameter-name"), Edit<kMinimum>("minimum"),
                  Edit<kMaximum>("maximum"), Edit<kDelta>("delta"), Edit<kGuess>("guess"),
                  LabelledListLines(kParameterList, "parameter-list",
-                                   TextOf(LabelOf(kParameterList)), 72, {kParameterAdd, "&Add"},
+                                   TextOf(LabelOf(kParameterList)), 68, {kParameterAdd, "&Add"},
                                    {kParameterDelete, "&Delete"}, {kParameterClear, "&Clear"},
                                    {"parameter-add", "parameter-delete", "parameter-clear"}));
 }
 
 constexpr auto AlgorithmLines()
 {
+    constexpr int kDescriptionHeight = 41; // five lines
     constexpr TColumns kLeft{.nField = 80};
     constexpr TColumns kRight{.nField = 180};
-    return Tight(DropDownLine(kLeft, kAlgorithmType, "algorithm-type",
+    return Tight(Space(2),
+                 DropDownLine(kLeft, kAlgorithmType, "algorithm-type",
                               TextOf(LabelOf(kAlgorithmType)), kAlgorithmTypes),
                  Edit<kName>("name", kLeft), Beside(140, KeyColumn<0>(kLeft), KeyColumn<5>(kRight)),
                  GroupBox(kDescriptionGroup, "description-group", TextOf(kDescriptionGroup),
-                          WithFlags(kUnlabelled, NoteLine(kDescription, "description", "", 5))));
+                          At(Row(kDescription, "description", EControl::Static, "",
+                                 {PageLayout::kLeft, 0, PageLayout::kWidth, kDescriptionHeight},
+                                 kUnlabelled))));
 }
 
 constexpr auto InsertLines()
 {
-    return Lines(NoteLine(kNote, "note",
+    return Lines(Space(0),
+                 NoteLine(kNote, "note",
                           "Optimization Wizard is now complete.  Press the Insert Command button "
                           "to add the following optimization commands.",
-                          3),
+                          2),
                  At(Row(kPreview, "preview", EControl::MultilineEdit, "",
-                        {PageLayout::kLeft, 0, PageLayout::kWidth, 137}, kReadOnly | kUnlabelled)));
+                        {PageLayout::kLeft, 0, PageLayout::kWidth, 142}, kReadOnly | kUnlabelled)));
 }
 
 constexpr TControlRow StepButton(int nId, const char* pKey, const char* pLabel, int nLeft)
