@@ -108,6 +108,30 @@ TEST(Optimization, ASessionWalksTheStepsAndInsertsTheBlock)
     gExpectTranscript(gSpiceWizard(), transcript);
 }
 
+TEST(Optimization, WhatIsMissingIsToldInABoxOfThePageAndQuestionsAreAskedInOneOfTheProgram)
+{
+    gExpectTranscript(
+        gSpiceWizard(),
+        {
+            {kOpenOptimization, R"({"ok":true})"},
+            {R"({"op":"click","field":"continue"})",
+             R"({"ok":true,"boxes":[{"text":"Missing analysis name.","caption":"SPICE","flags":64,
+                 "owner":"COptimizationWizardPage"}]})"},
+            {R"({"op":"set","field":"analysis-name","text":"mysweep"})", R"({"ok":true})"},
+            {R"({"op":"set","field":"optimization-name","text":"o1"})", R"({"ok":true})"},
+            {R"({"op":"click","field":"continue"})", R"({"ok":true,"boxes":[]})"},
+            {R"({"op":"set","field":"measurement","text":"delay"})", R"({"ok":true})"},
+            {R"({"op":"set","field":"target","text":"1n"})", R"({"ok":true})"},
+            {R"({"op":"click","field":"goal-add"})", R"({"ok":true})"},
+            {R"({"op":"answers","answers":["yes"]})", R"({"ok":true})"},
+            {R"({"op":"click","field":"goal-delete"})",
+             R"({"ok":true,"boxes":[{"text":
+                 "Are you sure you want to delete the selected parameter from the list?",
+                 "flags":4,"owner":null}],"fields":{"goal-list":{"items":[]},
+                 "goal-delete":{"enabled":false},"goal-clear":{"enabled":false}}})"},
+        });
+}
+
 TEST(Optimization, AnOpenOfAnotherPageAndBackDisablesInsert)
 {
     std::vector<TExchange> transcript = WayToTheLastStep();
