@@ -127,7 +127,7 @@ TEST(Optimization, WhatIsMissingIsToldInABoxOfThePageAndQuestionsAreAskedInOneOf
             {R"({"op":"click","field":"goal-delete"})",
              R"({"ok":true,"boxes":[{"text":
                  "Are you sure you want to delete the selected parameter from the list?",
-                 "flags":4,"owner":null}],"fields":{"goal-list":{"items":[]},
+                 "caption":"quorvawiz","flags":4,"owner":null}],"fields":{"goal-list":{"items":[]},
                  "goal-delete":{"enabled":false},"goal-clear":{"enabled":false}}})"},
         });
 }
