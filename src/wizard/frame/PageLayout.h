@@ -311,18 +311,25 @@ template <class... TBlocks> constexpr auto Tight(TBlocks... blocks)
     return Lines(blocks...);
 }
 
+/// The keys of a list's buttons, for a page that has more than one list.
+struct TListKeys {
+    const char* pAdd = "add";
+    const char* pDelete = "delete";
+    const char* pClear = "clear";
+};
+
 namespace PageLayout
 {
 /// The buttons beside a list, the last two disabled as an empty list has them.
 constexpr auto ListButtons(const TChoice& rAdd, const TChoice& rDelete, const TChoice& rClear,
-                           unsigned nAddFlags)
+                           unsigned nAddFlags, const TListKeys& rKeys = {})
 {
     const auto button = [](const TChoice& rButton, const char* pKey, unsigned nFlags) {
         return At(Row(rButton.nId, pKey, EControl::PushButton, rButton.pLabel,
                       {kRight - kListButtonWidth, 0, kListButtonWidth, 14}, nFlags));
     };
-    return Lines(button(rAdd, "add", nAddFlags), button(rDelete, "delete", kDisabled),
-                 button(rClear, "clear", kDisabled));
+    return Lines(button(rAdd, rKeys.pAdd, nAddFlags), button(rDelete, rKeys.pDelete, kDisabled),
+                 button(rClear, rKeys.pClear, kDisabled));
 }
 
 constexpr TRect ListRect(int nHeight)
@@ -344,11 +351,12 @@ constexpr auto ListLines(int nList, const char* pKey, int nHeight, const TChoice
 /// The same with a label above the list and all three buttons disabled, for a page that enables
 /// "add" when there is something to be added.
 constexpr auto LabelledListLines(int nList, const char* pKey, const char* pLabel, int nHeight,
-                                 const TChoice& rAdd, const TChoice& rDelete, const TChoice& rClear)
+                                 const TChoice& rAdd, const TChoice& rDelete, const TChoice& rClear,
+                                 const TListKeys& rKeys = {})
 {
     using namespace PageLayout;
     return SameTop(LabelledAt(Row(nList, pKey, EControl::ListBox, "", ListRect(nHeight)), pLabel),
-                   Moved(ListButtons(rAdd, rDelete, rClear, kDisabled), 0, kAboveField, 0));
+                   Moved(ListButtons(rAdd, rDelete, rClear, kDisabled, rKeys), 0, kAboveField, 0));
 }
 
 /// The block with these flags added to all its controls.

@@ -88,7 +88,7 @@ const TTreeRow kTree[] = {
     Page<class CVoltageSourceVoltageControlledPage>(9, "__$$Translatable$$_Voltage-controlled"),
 
     Category<class COptimizationPage>("__$$Translatable$$_Optimization"),
-    NotBuilt(0, "__$$Translatable$$_Wizard", "COptimizationWizardPage"),
+    Page<class COptimizationWizardPage>(0, "__$$Translatable$$_Wizard"),
 };
 // clang-format on
 

@@ -13,7 +13,7 @@ TExampleLines gAllExamples()
     TExampleLines all;
     for (const TExampleLines* pExamples :
          {&gAnalysisExamples(), &gSetupExamples(), &gWaveformExamples(), &gDigitalSourceExamples(),
-          &gControlledSourceExamples()})
+          &gControlledSourceExamples(), &gOptimizationExamples()})
         all.insert(all.end(), pExamples->begin(), pExamples->end());
     return all;
 }

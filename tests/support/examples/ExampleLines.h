@@ -23,6 +23,7 @@ const TExampleLines& gSetupExamples();
 const TExampleLines& gWaveformExamples();
 const TExampleLines& gDigitalSourceExamples();
 const TExampleLines& gControlledSourceExamples();
+const TExampleLines& gOptimizationExamples();
 
 /// All of them.
 TExampleLines gAllExamples();

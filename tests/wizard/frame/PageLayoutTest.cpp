@@ -222,6 +222,16 @@ TEST(PageLayoutTest, AListWithALabelHasAllItsButtonsDisabled)
         EXPECT_EQ(kRows[nButton].nFlags, kDisabled);
 }
 
+TEST(PageLayoutTest, ASecondListHasButtonsWithKeysOfItsOwn)
+{
+    constexpr auto kRows =
+        PageRows(LabelledListLines(1, "list", "&List:", 80, {2, "&Add"}, {3, "&Delete"},
+                                   {4, "&Clear"}, {"l-add", "l-delete", "l-clear"}));
+    EXPECT_STREQ(kRows[2].pKey, "l-add");
+    EXPECT_STREQ(kRows[3].pKey, "l-delete");
+    EXPECT_STREQ(kRows[4].pKey, "l-clear");
+}
+
 TEST(PageLayoutTest, TheFirstOfTheRadioLinesBeginsTheGroup)
 {
     constexpr auto kRows =
