@@ -82,9 +82,9 @@ constexpr TTexts kTransientTexts{.pGroup = "Print transient analysis results",
                                                     "time."};
 
 constexpr auto kEntries = EntriesOf(kTypes);
-constexpr auto kSecondLines = SameTop(SecondLine(), PowerNote());
-constexpr auto kDCRows = Rows(kDCTexts, kEntries, kSecondLines);
-constexpr auto kTransientRows = Rows(kTransientTexts, kEntries, kSecondLines);
+constexpr auto kLines = Lines(FirstLine(), SameTop(SecondLine(), PowerNote()));
+constexpr auto kDCRows = Rows(kDCTexts, kEntries, kLines);
+constexpr auto kTransientRows = Rows(kTransientTexts, kEntries, kLines);
 constexpr DialogTemplate kDCTemplate{"DC results", kPageSize, kDCRows};
 constexpr DialogTemplate kTransientTemplate{"Transient results", kPageSize, kTransientRows};
 

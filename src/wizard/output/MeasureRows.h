@@ -115,7 +115,7 @@ constexpr auto TriggerBox()
 {
     constexpr TColumns kFields{.nField = 70};
     constexpr int kWidth = 44; // up to the edge of the box
-    constexpr int kLabelX = 50;
+    constexpr int kLabelX = 48;
     return GroupBox(
         kTriggerGroup, "trigger-group", "Trigger",
         SameTop(RadioAt(kAt, "trigger-mode", "&At", 14, 33, 0, kFirstOfGroup),
@@ -178,13 +178,15 @@ constexpr auto EventRow(int nEvent, const TEventKeys& rKeys)
     const auto id = [nEvent](EEventField field) { return IdOf(nEvent, field); };
     TControlRow signal = EditAt(id(kSignal), rKeys[kSignal], 52, 44);
     signal.nFlags = kUnlabelled;
-    return Tight(SameTop(At(signal),
-                         Labelled(kEqualsX, EditAt(id(kOther), rKeys[kOther], kOtherX, 33)),
-                         Labelled(181, ListAt(id(kCrossingKind), rKeys[kCrossingKind], 192, 43,
-                                              kCrossingEntries))),
-                 SameTop(Labelled(23, ListAt(id(kCrossingNumber), rKeys[kCrossingNumber], 52, 29,
-                                             kCrossingNumbers)),
-                         Labelled(86, EditAt(id(kDelay), rKeys[kDelay], 203, 32))));
+    auto row = Tight(SameTop(At(signal),
+                             Labelled(kEqualsX, EditAt(id(kOther), rKeys[kOther], kOtherX, 33)),
+                             Labelled(181, ListAt(id(kCrossingKind), rKeys[kCrossingKind], 192, 43,
+                                                  kCrossingEntries))),
+                     SameTop(Labelled(23, ListAt(id(kCrossingNumber), rKeys[kCrossingNumber], 52,
+                                                 29, kCrossingNumbers)),
+                             Labelled(86, EditAt(id(kDelay), rKeys[kDelay], 203, 32))));
+    row.nGap = PageLayout::kLineGap; // rows stand further apart than their lines
+    return row;
 }
 
 constexpr auto WhenBox()
@@ -198,15 +200,23 @@ constexpr auto WhenBox()
                     SameTop(RadioAt(kXRow, "when-row", "x-val&ue", 14, 40, 0, kFirstOfGroup),
                             RadioAt(kValueRow, "when-row", "&Signal", 14, 37, nValueRow),
                             RadioAt(kSignalRow, "when-row", "Signa&l", 14, 37, nSignalRow),
-                            Lines(xRow, Space(0), valueRow, Space(0), signalRow)));
+                            Lines(xRow, valueRow, signalRow)));
+}
+
+// --- Expression evaluation
+
+constexpr TBlock<2> ExpressionLine()
+{
+    TBlock<2> line = WideEdit(kExpression, "expression", TemplateLabel(kExpression), 2);
+    line.rows[0].row.rect.w = 190; // so that its second line has more than a word
+    return line;
 }
 
 inline constexpr auto kRows =
     PageRows(Tight(Header(), OptimizationBox(),
                    SameTop(OnLayers(kDifferenceLayer, Beside(kTargetX, TriggerBox(), TargetBox())),
                            RangeLines(), OnLayers(kFindWhenLayer, Tight(FindBox(), WhenBox())),
-                           OnLayers(kExpressionLayer, WideEdit(kExpression, "expression",
-                                                               TemplateLabel(kExpression), 2)))));
+                           OnLayers(kExpressionLayer, ExpressionLine()))));
 
 // Meant: the letters of the signal row and of the header are given.
 inline constexpr DialogTemplate kTemplate{"Measure", kPageSize, kRows, "uy"};

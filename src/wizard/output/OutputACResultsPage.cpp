@@ -50,7 +50,7 @@ constexpr TTexts kTexts{
     .pExpressionNote =
         "Expression may involve AC voltages, currents, charges, parameters, and frequency."};
 constexpr auto kEntries = EntriesOf(kTypes);
-constexpr auto kRows = Rows(kTexts, kEntries, SecondLine(), FormatLine());
+constexpr auto kRows = Rows(kTexts, kEntries, FormatLine(), FirstLine(), SecondLine());
 constexpr DialogTemplate kTemplate{"AC results", kPageSize, kRows};
 
 Remembered<TPlotFields> sRemembered;

@@ -108,7 +108,7 @@ constexpr TTexts kTexts{.pGroup = "Print noise analysis results",
                         .pExpressionNote = "Expression may involve AC voltages, currents, inoise, "
                                            "onoise, transfer parameters, and frequency."};
 constexpr auto kEntries = EntriesOf(kTypes);
-constexpr auto kRows = Rows(kTexts, kEntries, SecondLine(), FormatLine());
+constexpr auto kRows = Rows(kTexts, kEntries, FormatLine(), FirstLine(), SecondLine());
 constexpr DialogTemplate kTemplate{"Noise results", kPageSize, kRows};
 
 Remembered<TPlotFields> sRemembered;

@@ -21,6 +21,11 @@ struct TTexts {
 
 inline constexpr TColumns kColumns{.nField = 126};
 
+constexpr auto FirstLine()
+{
+    return OnLayers(kFirstLayer, EditLine(kColumns, kFirstName, "first-name", "&Node name:"));
+}
+
 /// The second name, and the terminal in its place; one label stands for whichever is shown.
 constexpr auto SecondLine()
 {
@@ -40,11 +45,12 @@ constexpr auto FormatLine()
                     DropDownLine(kColumns, kFormat, "format", "&Format:", kComplexEntries));
 }
 
+/// The note in the place of the second name.
 constexpr auto PowerNote()
 {
-    return WithFlags(kHidden, OnLayers(kPowerLayer, NoteLine(kPowerNote, "power-note",
-                                                             "Voltage source name must begin with "
-                                                             "'V'.")));
+    constexpr TRect kPlace{PageLayout::kLeft, 2, PageLayout::kWidth, kLabelHeight};
+    return At(Row(kPowerNote, "power-note", EControl::Static,
+                  "Voltage source name must begin with 'V'.", kPlace, kHidden, kPowerLayer));
 }
 
 constexpr auto ExpressionLines(const TTexts& rTexts)
@@ -55,18 +61,14 @@ constexpr auto ExpressionLines(const TTexts& rTexts)
                                     NoteLine(kExpressionNote, "note", rTexts.pExpressionNote, 2))));
 }
 
-/// The rows of a page. `rMore`: the lines below the first name that plot types show which aren't
-/// expressions.
+/// The rows of a page. `rLines`: what its plot types show that aren't expressions.
 template <std::size_t N, class... TBlocks>
 constexpr auto Rows(const TTexts& rTexts, const std::array<const char*, N>& rTypes,
-                    const TBlocks&... rMore)
+                    const TBlocks&... rLines)
 {
-    const auto names =
-        Lines(OnLayers(kFirstLayer, EditLine(kColumns, kFirstName, "first-name", "&Node name:")),
-              rMore...);
     return PageRows(GroupBox(kResultsGroup, "results-group", rTexts.pGroup,
                              DropDownLine(kColumns, kPlotType, "plot-type", "&Plot type:", rTypes),
-                             SameTop(names, ExpressionLines(rTexts))),
+                             SameTop(Lines(rLines...), ExpressionLines(rTexts))),
                     GroupBox(kOptionalGroup, "optional-group", "Optional",
                              EditLine(kColumns, kItemName, "item-name", rTexts.pNameLabel),
                              EditLine(kColumns, kItemUnit, "item-unit", rTexts.pUnitLabel)),
