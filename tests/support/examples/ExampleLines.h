@@ -15,6 +15,7 @@ using TExampleLines = std::vector<TExampleLine>;
 
 /// The examples of the pages of a category, or of a family of sources.
 const TExampleLines& gAnalysisExamples();
+const TExampleLines& gOutputExamples();
 const TExampleLines& gSetupExamples();
 const TExampleLines& gWaveformExamples();
 const TExampleLines& gDigitalSourceExamples();
