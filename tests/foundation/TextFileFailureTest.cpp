@@ -161,7 +161,9 @@ TEST(TextFileFailureTest, AfterADirectWriteCutShortThePositionIsTheFiles)
     }
     file.Write("end", 3);
     file.Close();
-    EXPECT_TRUE(folder.Read("a.bin") == std::string(2 * kBuffer + 5, 'x') + "end");
+    std::string sExpected(2 * kBuffer + 5, 'x');
+    sExpected += "end";
+    EXPECT_TRUE(folder.Read("a.bin") == sExpected);
 }
 
 TEST(TextFileFailureTest, AReadCutShortGivesWhatThereWas)
