@@ -194,7 +194,7 @@ const TLine kMeasures[] = {
      nullptr, 0.5},
 
     {kAC, "Output/Measure",
-     Measured("Find-when", {"analysis-type=AC", "find-signal=vm(b)", "when-x-value=1k"}), nullptr,
+     Measured("Find-when", {"analysis-type=AC", "find-signal=v(b)", "when-x-value=1k"}), nullptr,
      0.5},
 
     {kTransient, "Output/Measure", InTime("Expression evaluation", {"expression=1+2"}), nullptr,
