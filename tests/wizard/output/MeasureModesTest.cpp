@@ -1,13 +1,8 @@
-// What the types of the page of measurements show, what its radio buttons enable, and what comes
-// back in the next run.
+// What the types of the page of measurements show, and what its radio buttons enable.
 
-#include "platform/ui/Button.h"
-#include "platform/ui/FieldView.h"
-#include "support/Look.h"
 #include "support/PageTest.h"
-#include "support/Steps.h"
 #include "support/TranslationScope.h"
-#include "wizard/sources/SourcePageRun.h"
+#include "wizard/output/MeasureLooks.h"
 
 #include <gtest/gtest.h>
 
@@ -16,15 +11,9 @@
 namespace
 {
 using namespace steps;
+using namespace measureLooks;
 
 using MeasureModes = PageTest;
-
-constexpr const char* kPath = "Output/Measure";
-constexpr const char* kTypes[] = {"Difference", "Signal statistics", "Find-when",
-                                  "Expression evaluation", "Error function"};
-enum { kDifference, kStatistics, kFindWhen, kExpression, kErrorFunction };
-
-using TKeys = std::vector<std::string>;
 
 /// The labels of a type's fields by key; null for a field without one.
 using TLabels = std::map<std::string, const char*>;
@@ -251,24 +240,6 @@ TEST_F(MeasureModes, AReportedSignalIsIgnoredByAnAverageAndRememberedAllTheSame)
 
 // --- what the radio buttons enable
 
-const TKeys kTriggerFields{"trigger-signal", "trigger-value", "trigger-crossing-kind",
-                           "trigger-crossing-number", "trigger-delay"};
-const TKeys kTargetFields{"target-signal", "target-value", "target-crossing-kind",
-                          "target-crossing-number", "target-delay"};
-const TKeys kValueFields{"when-signal", "when-value", "value-row-crossing-kind",
-                         "value-row-crossing-number", "value-row-delay"};
-const TKeys kSignalFields{"signal-row-first-signal", "signal-row-second-signal",
-                          "signal-row-crossing-kind", "signal-row-crossing-number",
-                          "signal-row-delay"};
-
-std::vector<CScript::TAction> Enabled(const TKeys& rKeys, bool bEnabled)
-{
-    std::vector<CScript::TAction> looks;
-    for (const std::string& rsKey : rKeys)
-        looks.push_back(look::Enabled(rsKey, bEnabled));
-    return looks;
-}
-
 TEST_F(MeasureModes, TheTriggerIsAtAValueOrWhenASignalCrossesOne)
 {
     CScript script;
@@ -293,14 +264,6 @@ TEST_F(MeasureModes, ThePageOpensWithAValueFoundAtAPoint)
                           look::Enabled("find-signal"), look::Enabled("when-x-value")})
                    .Look(Enabled(kValueFields, false))
                    .Look(Enabled(kSignalFields, false)));
-}
-
-/// The radio button of a point to be found.
-CScript::TAction FindXEnabled(bool bEnabled)
-{
-    return [bEnabled](CDialog& rDialog) {
-        EXPECT_EQ(gFindField(rDialog, "find-choice").radios[0]->IsUsable(), bEnabled);
-    };
 }
 
 TEST_F(MeasureModes, EachRowOfWhenEnablesItsFieldsAlone)
@@ -362,163 +325,6 @@ TEST_F(MeasureModes, TextsInHiddenAndDisabledFieldsHaveNoEffectAndAreRemembered)
                    .Do({Open(kPath)})
                    .Look({look::Text("at-value", "1"), look::Text("target-signal", "s"),
                           look::Text("signal-row-first-signal", "v(b)")}));
-}
-
-// --- what comes back
-
-const TFieldValues kEverything{
-    "analysis-type=AC",
-    "result-name= r ",
-    "suppress-printing=on",
-    "goal= 1 ",
-    "minimum-value= 2 ",
-    "weight= 3 ",
-    "at-value= 4 ",
-    "trigger-mode=When",
-    "trigger-signal=a",
-    "trigger-value=b",
-    "trigger-crossing-kind=rise",
-    "trigger-crossing-number=2",
-    "trigger-delay=c",
-    "target-signal=d",
-    "target-value=e",
-    "target-crossing-kind=fall",
-    "target-crossing-number=3",
-    "target-delay=f",
-    "measurement-type=Error function",
-    "first-signal=g",
-    "second-signal=h",
-    "from=i",
-    "to=j",
-    "kind=err2",
-    "measurement-type=Expression evaluation",
-    "expression= k ",
-    "measurement-type=Find-when",
-    "find-signal=l",
-    "when-x-value=m",
-    "when-row=#2",
-    "signal-row-first-signal=n",
-    "signal-row-second-signal=o",
-    "signal-row-crossing-kind=rise",
-    "signal-row-crossing-number=4",
-    "signal-row-delay=p",
-    "when-row=#1",
-    "find-choice=#0",
-    "when-signal=q",
-    "when-value=r",
-    "value-row-crossing-kind=fall",
-    "value-row-crossing-number=last",
-    "value-row-delay=s",
-};
-
-/// What the next run shows of it.
-const std::vector<std::pair<const char*, const char*>> kShown{
-    {"analysis-type", "AC"},
-    {"result-name", "r "},
-    {"measurement-type", "Find-when"},
-    {"goal", "1 "},
-    {"minimum-value", "2 "},
-    {"weight", "3 "},
-    {"at-value", " 4 "},
-    {"trigger-signal", "a"},
-    {"trigger-value", "b"},
-    {"trigger-crossing-kind", "rise"},
-    {"trigger-crossing-number", "2"},
-    {"trigger-delay", "c"},
-    {"target-signal", "d"},
-    {"target-value", "e"},
-    {"target-crossing-kind", "fall"},
-    {"target-crossing-number", "3"},
-    {"target-delay", "f"},
-    {"first-signal", "g"},
-    {"second-signal", "h"},
-    {"from", "i"},
-    {"to", "j"},
-    {"expression", " k "},
-    {"find-signal", "l"},
-    {"when-x-value", "m"},
-    {"signal-row-first-signal", "n"},
-    {"signal-row-second-signal", "o"},
-    {"signal-row-crossing-kind", "rise"},
-    {"signal-row-crossing-number", "4"},
-    {"signal-row-delay", "p"},
-    {"when-signal", "q"},
-    {"when-value", "r"},
-    {"value-row-crossing-kind", "fall"},
-    {"value-row-crossing-number", "last"},
-    {"value-row-delay", "s"},
-};
-
-std::vector<CScript::TAction> ShownTexts()
-{
-    std::vector<CScript::TAction> looks;
-    for (const auto& [pKey, pText] : kShown)
-        looks.push_back(look::Text(pKey, pText));
-    return looks;
-}
-
-TEST_F(MeasureModes, ASuccessRemembersEveryFieldOfEveryType)
-{
-    const auto outcome = gRunWizard(CScript().Do({Open(kPath)}).Fill(kEverything).Do({Insert()}));
-    EXPECT_EQ(outcome.inserted,
-              std::vector<std::string>{".measure ac r  when q=r td=s fall=last goal=1  minval=2  "
-                                       "weight=3  off"});
-    gRunWizard(CScript()
-                   .Do({Open(kPath)})
-                   .Look(ShownTexts())
-                   .Look({look::Checked("suppress-printing", 1), look::Checked("find-choice", 0),
-                          look::Checked("when-row", 1), look::Shown("find-group"),
-                          look::Enabled("find-signal", false), FindXEnabled(true),
-                          look::Enabled("when-x-value", false)})
-                   .Look(Enabled(kValueFields, true))
-                   .Look(Enabled(kSignalFields, false))
-                   .Do({Select("measurement-type", kDifference)})
-                   .Look({look::Checked("trigger-mode", 1), look::Enabled("at-value", false)})
-                   .Look(Enabled(kTriggerFields, true)));
-}
-
-TEST_F(MeasureModes, AFailureRemembersNothingAndLeavesTheControlsAsTheyAre)
-{
-    gRunWizard(CScript()
-                   .Do({Open(kPath)})
-                   .Fill(kEverything)
-                   .Do({Insert(), Set("result-name", "other"), Set("when-value", ""),
-                        Choose("when-row", 2), Set("signal-row-second-signal", ""), Insert()})
-                   .Look({look::Text("result-name", "other")}));
-    gRunWizard(CScript().Do({Open(kPath)}).Look(ShownTexts()).Look({look::Checked("when-row", 1)}));
-}
-
-TEST_F(MeasureModes, AnExpressionIsRememberedTrimmedWhenItIsUsed)
-{
-    gRunWizard(
-        CScript()
-            .Do({Open(kPath), Set("result-name", " e"), Select("measurement-type", kExpression),
-                 Set("expression", " a "), Insert()})
-            .Look({look::Text("expression", " a "), look::Text("result-name", " e")}));
-    gRunWizard(CScript()
-                   .Do({Open(kPath)})
-                   .Look({look::Text("expression", "a"), look::Text("result-name", "e"),
-                          look::Text("measurement-type", "Expression evaluation"),
-                          look::Shown("expression")}));
-}
-
-TEST_F(MeasureModes, TheKindComesBackAsTheFirst)
-{
-    for (const auto& [nType, pFirst] :
-         {std::pair{kStatistics, "x at maximum"}, {kErrorFunction, "err"}}) {
-        CRememberedBase::ResetAll();
-        gRunWizard(CScript()
-                       .Do({Open(kPath), Set("result-name", "e"), Select("measurement-type", nType),
-                            Select("kind", 3)})
-                       .Fill(nType == kStatistics
-                                 ? TFieldValues{"output-signal=a"}
-                                 : TFieldValues{"first-signal=a", "second-signal=b"})
-                       .Do({Insert()}));
-        gRunWizard(
-            CScript()
-                .Do({Open(kPath)})
-                .Look({look::Text("measurement-type", kTypes[nType]), look::Text("kind", pFirst)}));
-    }
 }
 
 // --- letters

@@ -199,10 +199,10 @@ TEST_F(PlotList, ASuccessIsRememberedForTheNextRunOfThisPageAlone)
     for (const TPage& rPage : kPages) {
         SCOPED_TRACE(rPage.pLabel);
         CRememberedBase::ResetAll();
-        gRunWizard(
-            CScript().Do({Open(std::string("Output/") + rPage.pLabel), Select("plot-type", 1),
-                          Select("terminal-selection", "Gate"), Set("first-name", "m1"),
-                          Set("item-name", "n"), Set("item-unit", " u "), Insert()}));
+        gRunWizard(CScript().Do(
+            {Open(std::string("Output/") + rPage.pLabel), Select("plot-type", "Expression"),
+             Set("expression", " e "), Select("plot-type", 1), Select("terminal-selection", "Gate"),
+             Set("first-name", "m1"), Set("item-name", "n"), Set("item-unit", " u "), Insert()}));
         for (const TPage& rOther : kPages) {
             const bool bSame = &rOther == &rPage;
             gRunWizard(CScript()
@@ -210,6 +210,7 @@ TEST_F(PlotList, ASuccessIsRememberedForTheNextRunOfThisPageAlone)
                            .Look({look::Selected("plot-type", bSame ? 1 : 0),
                                   look::Selected("terminal-selection", bSame ? 5 : 0),
                                   look::Text("first-name", bSame ? "m1" : ""),
+                                  look::Text("expression", bSame ? "e" : ""),
                                   look::Text("item-name", bSame ? "n" : ""),
                                   look::Text("item-unit", bSame ? " u " : "")}));
         }
