@@ -19,6 +19,7 @@ TExampleLine gNamed(std::string sName, TExampleLine example);
 
 /// The examples of the pages of a category, or of a family of sources.
 const TExampleLines& gAnalysisExamples();
+const TExampleLines& gOutputExamples();
 const TExampleLines& gSetupExamples();
 const TExampleLines& gWaveformExamples();
 const TExampleLines& gDigitalSourceExamples();

@@ -55,6 +55,20 @@ TEST(PageLayoutTest, WideFieldsHaveTheirLabelAbove)
                   {4, {7, 144, 235, 18}}});
 }
 
+TEST(PageLayoutTest, AWideFieldHasRoomForALabelOfSeveralLines)
+{
+    ExpectPlaces(PageRows(WideEdit(1, "a", "A:", 2), WideEdit(2, "b", "B:")),
+                 {{LabelOf(1), {7, 7, 235, 18}},
+                  {1, {7, 27, 235, 13}},
+                  {LabelOf(2), {7, 44, 235, 9}},
+                  {2, {7, 55, 235, 13}}});
+}
+
+TEST(PageLayoutTest, ALabelIsALiteralWithoutItsMarker)
+{
+    EXPECT_EQ(std::string_view(Unmarked("__$$Translatable$$_&Time:")), "&Time:");
+}
+
 TEST(PageLayoutTest, AUnitStandsBehindAFieldBelowItsLabelToo)
 {
     ExpectPlaces(PageRows(GroupBox(1, "g", "G",
