@@ -17,6 +17,9 @@
 #include <QApplication>
 #include <algorithm>
 #include <deque>
+#include <functional>
+#include <set>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -63,60 +66,106 @@ private:
     std::deque<CPlayer::TTurn> mTurns;
 };
 
-/// The drop-down lists that the user sees in the dialog in front.
-std::vector<CComboBox*> ShownCombos()
+/// What the user can choose from in the dialog in front: drop-down lists, and radio groups without
+/// the buttons that take no click now.
+std::vector<TFieldView> UsableChoices()
 {
-    std::vector<CComboBox*> combos;
-    for (const TFieldView& rField : gCollectFields(gCurrentPane(gFrontDialog())))
-        if (auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl);
-            pCombo && pCombo->IsWindowVisible())
-            combos.push_back(pCombo);
-    return combos;
+    std::vector<TFieldView> choices;
+    for (TFieldView field : gCollectFields(gCurrentPane(gFrontDialog()))) {
+        std::erase_if(field.radios, [](const CButton* pRadio) { return !pRadio->IsUsable(); });
+        const bool bCombo = dynamic_cast<CComboBox*>(field.pControl) && field.pControl->IsUsable();
+        if (bCombo || !field.radios.empty())
+            choices.push_back(std::move(field));
+    }
+    return choices;
 }
 
-/// Looks at a drop-down list's window with each of its entries, and with those of the lists that an
-/// entry brings forth.
+/// What is usable now and wasn't before.
+std::vector<TFieldView> NewChoices(const std::vector<TFieldView>& rBefore)
+{
+    const auto wasRadio = [&rBefore](const CButton* pRadio) {
+        return std::ranges::any_of(rBefore, [pRadio](const TFieldView& rField) {
+            return std::ranges::find(rField.radios, pRadio) != rField.radios.end();
+        });
+    };
+    std::vector<TFieldView> choices = UsableChoices();
+    std::erase_if(choices, [&](TFieldView& rField) {
+        if (rField.kind != EControl::RadioButton)
+            return std::ranges::find(rBefore, rField.pControl, &TFieldView::pControl) !=
+                   rBefore.end();
+        std::erase_if(rField.radios, wasRadio);
+        return rField.radios.empty();
+    });
+    return choices;
+}
+
+void AddChoice(CVisit& rVisit, const std::string& rsName, const TFieldView& rChoice);
+
+/// Makes a choice and looks at the window, after looks at what the choice lets the user choose.
+void AddState(CVisit& rVisit, const std::string& rsName, const std::function<void()>& rChoose)
+{
+    rVisit.Add([&rVisit, rsName, rChoose] {
+        const auto before = UsableChoices();
+        rChoose();
+        rVisit.Insert([&] {
+            for (const TFieldView& rChoice : NewChoices(before))
+                AddChoice(rVisit, rsName, rChoice);
+        });
+    });
+    rVisit.AddLook(rsName);
+}
+
+/// Looks at a drop-down list's window with each of its entries.
 void AddEntries(CVisit& rVisit, const std::string& rsName, CComboBox& rCombo)
 {
-    for (int i = 0; i < rCombo.GetCount(); ++i) {
-        const std::string sName = rsName + "-" + rCombo.GetLBText(i).GetString();
-        rVisit.Add([&rVisit, sName, &rCombo, i] {
-            const auto before = ShownCombos();
-            rCombo.UserSelect(i);
-            rVisit.Insert([&] {
-                for (CComboBox* const pCombo : ShownCombos())
-                    if (std::ranges::find(before, pCombo) == before.end())
-                        AddEntries(rVisit, sName, *pCombo);
-            });
-        });
-        rVisit.AddLook(sName);
-    }
+    for (int i = 0; i < rCombo.GetCount(); ++i)
+        AddState(rVisit, rsName + "-" + rCombo.GetLBText(i).GetString(),
+                 [&rCombo, i] { rCombo.UserSelect(i); });
     rVisit.Add([&rCombo] { rCombo.UserSelect(0); });
+}
+
+/// Looks at the window with each of these radio buttons, and goes back to the one that was checked.
+void AddRadios(CVisit& rVisit, const std::string& rsName, const TFieldView& rGroup)
+{
+    const auto all = gFindField(gFrontDialog(), rGroup.sKey).radios;
+    std::set<std::string> names;
+    for (CButton* const pRadio : rGroup.radios) {
+        CString sLabel = pRadio->GetWindowText();
+        sLabel.Remove('&');
+        std::string sName = rsName + "-" + sLabel.GetString();
+        if (!names.insert(sName).second) // some texts differ by the letter alone
+            sName += " 2";
+        AddState(rVisit, sName, [pRadio] { pRadio->UserClick(); });
+    }
+    const auto checked = std::ranges::find_if(all, &CButton::GetCheck);
+    if (checked != all.end())
+        rVisit.Add([pChecked = *checked] { pChecked->UserClick(); });
+}
+
+void AddChoice(CVisit& rVisit, const std::string& rsName, const TFieldView& rChoice)
+{
+    if (auto* const pCombo = dynamic_cast<CComboBox*>(rChoice.pControl))
+        AddEntries(rVisit, rsName, *pCombo);
+    else
+        AddRadios(rVisit, rsName, rChoice);
 }
 
 /// Looks at every state that a choice on the page in front brings about.
 void AddChoices(CVisit& rVisit, const std::string& rsName)
 {
+    for (const TFieldView& rChoice : UsableChoices())
+        AddChoice(rVisit, rsName, rChoice);
     for (const TFieldView& rField : gCollectFields(gCurrentPane(gFrontDialog()))) {
-        auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl);
-        if (pCombo && pCombo->IsWindowVisible())
-            AddEntries(rVisit, rsName, *pCombo);
-        if (rField.kind == EControl::CheckBox) {
-            rVisit.Add([&rVisit, rsName, rField] {
-                auto& rBox = dynamic_cast<CButton&>(*rField.pControl);
-                rBox.UserClick();
-                const char* const pState = rBox.GetCheck() ? "-on" : "-off";
-                rVisit.Insert(
-                    [&] { rVisit.AddLook(rsName + "-" + std::string(rField.sKey) + pState); });
-            });
-            rVisit.Add([rField] { dynamic_cast<CButton&>(*rField.pControl).UserClick(); });
-        }
-        for (CButton* const pRadio : rField.radios) {
-            rVisit.Add([pRadio] { pRadio->UserClick(); });
-            CString sLabel = pRadio->GetWindowText();
-            sLabel.Remove('&');
-            rVisit.AddLook(rsName + "-" + sLabel.GetString());
-        }
+        if (rField.kind != EControl::CheckBox || !rField.pControl->IsUsable())
+            continue;
+        rVisit.Add([&rVisit, rsName, rField] {
+            auto& rBox = dynamic_cast<CButton&>(*rField.pControl);
+            rBox.UserClick();
+            const char* const pState = rBox.GetCheck() ? "-on" : "-off";
+            rVisit.Insert(
+                [&] { rVisit.AddLook(rsName + "-" + std::string(rField.sKey) + pState); });
+        });
+        rVisit.Add([rField] { dynamic_cast<CButton&>(*rField.pControl).UserClick(); });
     }
 }
 

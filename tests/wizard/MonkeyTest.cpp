@@ -1,14 +1,18 @@
 #include "exports/Quorvawiz.h"
+#include "platform/ui/ComboBox.h"
 #include "platform/ui/FieldView.h"
 #include "support/SharedMnemonics.h"
 #include "support/Steps.h"
 #include "support/WizardRun.h"
 #include "wizard/frame/Remembered.h"
+#include "wizard/frame/WizardPages.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
+#include <set>
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -24,7 +28,7 @@ public:
     {
         if (mnLeft-- <= 0)
             return false;
-        if (Below(100) == 0)
+        if (Below(50) == 0)
             FillIn(rDialog);
         else
             gRunStep(rDialog, RandomStep(rDialog));
@@ -35,15 +39,66 @@ public:
 
     bool IsDone() const { return mnLeft <= 0; }
     int CountActions() const { return mnActions; }
+    /// The classes of the pages that were on display.
+    const std::set<std::string>& GetVisited() const { return mVisited; }
 
 private:
-    /// Wild fingers alone seldom complete a page.
-    static void FillIn(CDialog& rDialog)
+    /// Wild fingers alone seldom complete a page, and seldom come to its last step.
+    void FillIn(CDialog& rDialog)
+    {
+        FillInStep(rDialog);
+        constexpr int kMostSteps = 5;
+        for (int n = 0; n < kMostSteps; ++n) {
+            const TFieldView next = gFindField(rDialog, "continue");
+            if (!next.pControl || !next.pControl->IsUsable())
+                break;
+            gRunStep(rDialog, steps::Click("continue"));
+            LookAt();
+            FillInStep(rDialog);
+        }
+        gRunStep(rDialog, steps::Insert());
+    }
+
+    /// Chooses among what there is, then types into every field that the choices left usable, and
+    /// now and then adds that to a list.
+    void FillInStep(CDialog& rDialog)
     {
         for (const TFieldView& rField : gCollectFields(gCurrentPane(rDialog)))
-            if (rField.kind == EControl::Edit || rField.kind == EControl::MultilineEdit)
-                gRunStep(rDialog, steps::Set(std::string(rField.sKey), "v1 v2"));
-        gRunStep(rDialog, steps::Click("insert"));
+            if (IsUsable(rField))
+                ChooseIn(rDialog, rField);
+        for (const TFieldView& rField : gCollectFields(gCurrentPane(rDialog)))
+            if (IsUsable(rField))
+                TypeInto(rDialog, rField);
+        for (const TFieldView& rField : gCollectFields(gCurrentPane(rDialog)))
+            if (rField.sKey.ends_with("add") && IsUsable(rField) && Below(2) == 0)
+                gRunStep(rDialog, steps::Click(std::string(rField.sKey)));
+    }
+
+    /// A radio group's first button may be disabled alone.
+    static bool IsUsable(const TFieldView& rField)
+    {
+        return rField.pControl->IsUsable() || !rField.radios.empty();
+    }
+
+    void ChooseIn(CDialog& rDialog, const TFieldView& rField)
+    {
+        const std::string sKey(rField.sKey);
+        if (rField.kind == EControl::RadioButton)
+            gRunStep(rDialog, steps::Choose(sKey, Below(static_cast<int>(rField.radios.size()))));
+        if (rField.kind == EControl::CheckBox)
+            gRunStep(rDialog, steps::Check(sKey, Below(2) == 0));
+        auto* const pCombo = dynamic_cast<CComboBox*>(rField.pControl);
+        if (pCombo && pCombo->GetCount() > 0)
+            gRunStep(rDialog, steps::Select(sKey, Below(pCombo->GetCount())));
+    }
+
+    void TypeInto(CDialog& rDialog, const TFieldView& rField)
+    {
+        const bool bTyped = rField.kind == EControl::Edit ||
+                            rField.kind == EControl::MultilineEdit ||
+                            (rField.kind == EControl::DropDown && Below(2) == 0);
+        if (bTyped)
+            gRunStep(rDialog, steps::Set(std::string(rField.sKey), "v1 v2"));
     }
 
     int Below(int n) { return std::uniform_int_distribution<int>(0, n - 1)(mRandom); }
@@ -98,7 +153,7 @@ private:
         return step;
     }
 
-    void LookAt() const
+    void LookAt()
     {
         CDialog* const pInnermost = gInnermostDialog();
         const CWnd* const pFocus = CWnd::GetFocus();
@@ -107,6 +162,7 @@ private:
         const CTreeDlg& rWizard = gOpenWizard();
         CWnd* const pPane = rWizard.GetLayers().GetCurrentWindow();
         ASSERT_TRUE(pPane && pPane->IsShown());
+        mVisited.emplace(gClassName(*pPane));
         const CTreeCtrl& rTree = rWizard.GetTree();
         ASSERT_NE(rTree.GetSelectedItem(), nullptr);
 
@@ -116,6 +172,20 @@ private:
     std::mt19937 mRandom;
     int mnLeft = kActions;
     int mnActions = 0;
+    std::set<std::string> mVisited;
+};
+
+/// Keeps from which pages there was an insertion, too.
+class CPagesTarget : public CRecordingTarget
+{
+public:
+    void InsertCommand(CString sCommand) override
+    {
+        mPages.emplace(gClassName(*gOpenWizard().GetLayers().GetCurrentWindow()));
+        CRecordingTarget::InsertCommand(std::move(sCommand));
+    }
+
+    std::set<std::string> mPages; ///< by their classes
 };
 
 TEST(Monkey, ManyRandomActionsLeaveTheWizardWhole)
@@ -123,7 +193,7 @@ TEST(Monkey, ManyRandomActionsLeaveTheWizardWhole)
     CRememberedBase::ResetAll();
     CMonkey monkey(20261120);
     HeadlessDesktop desktop([&monkey](CDialog& rDialog) { return monkey.Act(rDialog); });
-    CRecordingTarget target;
+    CPagesTarget target;
     int nRuns = 0;
     while (!monkey.IsDone() && !HasFailure()) {
         quorvawiz::gInvokeSpiceCommandWizard(nullptr, &target);
@@ -134,6 +204,11 @@ TEST(Monkey, ManyRandomActionsLeaveTheWizardWhole)
     EXPECT_EQ(monkey.CountActions(), kActions);
     EXPECT_GT(nRuns, 10) << "the wizard was closed and opened again";
     EXPECT_GT(target.mCommands.size(), 100U);
+    for (const TTreeRow& rRow : gWizardTree()) {
+        const std::string sClass(rRow.sClass);
+        EXPECT_TRUE(monkey.GetVisited().contains(sClass)) << sClass;
+        EXPECT_EQ(target.mPages.contains(sClass), !rRow.bCategory) << sClass;
+    }
     CRememberedBase::ResetAll();
 }
 } // namespace

@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-// Every node of the tree that is built, as its user comes to it.
+// Every node of the tree, as its user comes to it.
 
 namespace
 {
@@ -25,7 +25,7 @@ struct TNode {
 };
 
 /// The nodes from top to bottom.
-std::vector<TNode> BuiltNodes()
+std::vector<TNode> Nodes()
 {
     std::vector<TNode> nodes;
     std::string sCategory;
@@ -33,16 +33,23 @@ std::vector<TNode> BuiltNodes()
         const std::string sLabel = xlang::gTranslate(rRow.pLabel).GetString();
         if (rRow.bCategory)
             sCategory = sLabel;
-        if (rRow.pClass)
-            nodes.push_back({rRow.bCategory ? sLabel : sCategory + '/' + sLabel, &rRow});
+        nodes.push_back({rRow.bCategory ? sLabel : sCategory + '/' + sLabel, &rRow});
     }
     return nodes;
+}
+
+TEST_F(WholeTree, EachOfItsNodesHasAPage)
+{
+    const auto nodes = Nodes();
+    EXPECT_EQ(nodes.size(), 55U);
+    for (const TNode& rNode : nodes)
+        EXPECT_NE(rNode.pRow->pClass, nullptr) << rNode.sPath;
 }
 
 TEST_F(WholeTree, ArrowKeysLeadThroughAllNodesFromTopToBottom)
 {
     CScript script;
-    for (const TNode& rNode : BuiltNodes()) {
+    for (const TNode& rNode : Nodes()) {
         script.Then([rNode](CDialog& rDialog) {
             const CTreeCtrl& rTree = gOpenWizard().GetTree();
             EXPECT_EQ(gTreePathOf(rTree, rTree.GetSelectedItem()), rNode.sPath);
@@ -50,7 +57,7 @@ TEST_F(WholeTree, ArrowKeysLeadThroughAllNodesFromTopToBottom)
         });
         if (rNode.pRow->bCategory)
             script.Do({Key("right")}); // opens it
-        if (rNode.sPath != BuiltNodes().back().sPath)
+        if (rNode.sPath != Nodes().back().sPath)
             script.Do({Key("down")});
     }
     gRunWizard(std::move(script));
@@ -58,7 +65,7 @@ TEST_F(WholeTree, ArrowKeysLeadThroughAllNodesFromTopToBottom)
 
 TEST_F(WholeTree, EveryPageHasAnExampleThatInsertsSomethingAndNoCategoryHasOne)
 {
-    for (const TNode& rNode : BuiltNodes()) {
+    for (const TNode& rNode : Nodes()) {
         const auto examples = gAllExamples();
         const bool bInserts = std::ranges::any_of(examples, [&rNode](const TExampleLine& rExample) {
             return rExample.sPage == rNode.sPath && !rExample.sLine.empty();

@@ -17,7 +17,7 @@ QWidget& CWizardUser::Control(const QWidget& rWindow, const char* pKey)
 
 void CWizardUser::OpenPage(const QWidget& rWizard, const QString& rsCategory, const QString& rsPage)
 {
-    Click(Control(rWizard, "tree"));
+    TabTo(Control(rWizard, "tree"));
     Press(QKeySequence(Qt::Key_Home));
     WalkDownTo(rWizard, rsCategory);
     Press(QKeySequence(Qt::Key_Plus));
@@ -37,6 +37,17 @@ void CWizardUser::InsertTemperature(const QWidget& rWizard, const QString& rsTem
     OpenPage(rWizard, QStringLiteral("Settings"), QStringLiteral("Temperature"));
     Fill(rWizard, "temperature-list", rsTemperatures);
     Press(QKeySequence(Qt::ALT | Qt::Key_I));
+}
+
+void CWizardUser::TabTo(const QWidget& rControl)
+{
+    constexpr int kMostControls = 100;
+    for (int i = 0; i < kMostControls; ++i) {
+        if (rControl.hasFocus())
+            return;
+        Press(QKeySequence(Qt::Key_Tab));
+    }
+    throw CUserError("Tab doesn't lead to " + rControl.objectName().toStdString());
 }
 
 void CWizardUser::WalkDownTo(const QWidget& rWizard, const QString& rsNode)

@@ -18,8 +18,8 @@ public:
     /// @throws CUserError if there is none
     static QWidget& Control(const QWidget& rWindow, const char* pKey);
 
-    /// Goes to a page through the tree, by keys.
-    /// @throws CUserError if the tree has no such page
+    /// Goes to a page through the tree, by keys alone: with Tab into the tree, with arrows in it.
+    /// @throws CUserError if the tree has no such page, or Tab doesn't lead to it
     void OpenPage(const QWidget& rWizard, const QString& rsCategory, const QString& rsPage);
 
     /// Clicks into a field and types, in the place of what is there.
@@ -29,6 +29,7 @@ public:
     void InsertTemperature(const QWidget& rWizard, const QString& rsTemperatures);
 
 private:
+    void TabTo(const QWidget& rControl);
     void WalkDownTo(const QWidget& rWizard, const QString& rsNode);
 };
 

@@ -258,6 +258,24 @@ TEST_F(OptimizationCommand, NameAndKeysAreTrimmedOnTheLeftAloneAndTheRestNotAtAl
               ".model m1  opt cut=3 ");
 }
 
+TEST_F(OptimizationCommand, EachKeyIsTrimmedOnTheLeftAlone)
+{
+    const char* const kKeys[] = {"cendif", "close", "cut",    "difsiz", "grad",
+                                 "itropt", "max",   "parmin", "relin",  "relout"};
+    for (const std::string sKey : kKeys) {
+        const auto outcome =
+            gRunWizard(gAtStep(3)
+                           .Fill(gJoin({gBlankKeys(), {sKey + "=  7 "}, kAlgorithm}))
+                           .Look({look::Text(sKey, "7 ")})
+                           .Do({Insert()}));
+        const std::string& rsBlock = outcome.inserted.at(0);
+        EXPECT_EQ(rsBlock.substr(rsBlock.find(".model")), ".model m1 opt " + sKey + "=7 ");
+        const std::string sBlank =
+            Block(gJoin({kSetup, kGoal, kLimits, gBlankKeys(), {sKey + "=  "}, kAlgorithm}));
+        EXPECT_EQ(sBlank.substr(sBlank.find(".model")), ".model m1 opt") << sKey;
+    }
+}
+
 TEST_F(OptimizationCommand, NoLevelIsWritten)
 {
     EXPECT_EQ(Block(gJoin({kSetup, kGoal, kLimits, {"algorithm-type=#0"}, kAlgorithm})),

@@ -265,6 +265,7 @@ const TRefusal kRefusals[] = {
     {"goals: a measurement alone", 1, {"measurement=delay"}, "[Missing target value.]"},
     {"limits: nothing", 2, {}, "[Missing parameter name.]"},
     {"limits: all but the name", 2, {"minimum=1", "maximum=2"}, "[Missing parameter name.]"},
+    {"limits: a name alone", 2, {"parameter-name=w"}, "[Missing minimum value.]"},
     {"limits: all but the minimum",
      2,
      {"parameter-name=w", "maximum=2"},

@@ -87,6 +87,11 @@ void LookAtType(CScript& rScript, int nType)
             rScript.Look({look::Label(rsKey, field->second)});
         }
     }
+    rScript.Then([nType](CDialog& rDialog) {
+        const CWnd* const pAnd = gFindField(rDialog, "first-signal").pUnit;
+        ASSERT_TRUE(pAnd);
+        EXPECT_EQ(pAnd->IsWindowVisible(), nType == kErrorFunction);
+    });
     for (const char* const pFrame :
          {"trigger-group", "target-group", "optional-group", "find-group", "when-group"}) {
         const auto frame = kFrames[nType].find(pFrame);
