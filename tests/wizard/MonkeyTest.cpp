@@ -28,7 +28,7 @@ public:
     {
         if (mnLeft-- <= 0)
             return false;
-        if (Below(50) == 0)
+        if (Below(IsInner(rDialog) ? 10 : 50) == 0)
             FillIn(rDialog);
         else
             gRunStep(rDialog, RandomStep(rDialog));
@@ -56,11 +56,11 @@ private:
             LookAt();
             FillInStep(rDialog);
         }
-        gRunStep(rDialog, steps::Insert());
+        gRunStep(rDialog, IsInner(rDialog) ? steps::Click("accept") : steps::Insert());
     }
 
     /// Chooses among what there is, then types into every field that the choices left usable, and
-    /// now and then adds that to a list.
+    /// presses some of the buttons: they add to a list, or open a dialog that is soon closed again.
     void FillInStep(CDialog& rDialog)
     {
         for (const TFieldView& rField : gCollectFields(gCurrentPane(rDialog)))
@@ -69,10 +69,16 @@ private:
         for (const TFieldView& rField : gCollectFields(gCurrentPane(rDialog)))
             if (IsUsable(rField))
                 TypeInto(rDialog, rField);
+        if (IsInner(rDialog))
+            return;
         for (const TFieldView& rField : gCollectFields(gCurrentPane(rDialog)))
-            if (rField.sKey.ends_with("add") && IsUsable(rField) && Below(2) == 0)
+            if (rField.kind == EControl::PushButton && rField.sKey != "continue" &&
+                rField.sKey != "back" && IsUsable(rField) && Below(2) == 0)
                 gRunStep(rDialog, steps::Click(std::string(rField.sKey)));
     }
+
+    /// True for a dialog that a page has opened.
+    static bool IsInner(const CDialog& rDialog) { return &rDialog != &gOpenWizard(); }
 
     /// A radio group's first button may be disabled alone.
     static bool IsUsable(const TFieldView& rField)
