@@ -66,14 +66,20 @@ private:
     std::deque<CPlayer::TTurn> mTurns;
 };
 
+bool TakesClicks(const CWnd& rControl)
+{
+    return rControl.IsWindowVisible() && rControl.IsUsable();
+}
+
 /// What the user can choose from in the dialog in front: drop-down lists, and radio groups without
 /// the buttons that take no click now.
 std::vector<TFieldView> UsableChoices()
 {
     std::vector<TFieldView> choices;
     for (TFieldView field : gCollectFields(gCurrentPane(gFrontDialog()))) {
-        std::erase_if(field.radios, [](const CButton* pRadio) { return !pRadio->IsUsable(); });
-        const bool bCombo = dynamic_cast<CComboBox*>(field.pControl) && field.pControl->IsUsable();
+        std::erase_if(field.radios, [](const CButton* pRadio) { return !TakesClicks(*pRadio); });
+        const bool bCombo =
+            dynamic_cast<CComboBox*>(field.pControl) && TakesClicks(*field.pControl);
         if (bCombo || !field.radios.empty())
             choices.push_back(std::move(field));
     }
@@ -156,7 +162,7 @@ void AddChoices(CVisit& rVisit, const std::string& rsName)
     for (const TFieldView& rChoice : UsableChoices())
         AddChoice(rVisit, rsName, rChoice);
     for (const TFieldView& rField : gCollectFields(gCurrentPane(gFrontDialog()))) {
-        if (rField.kind != EControl::CheckBox || !rField.pControl->IsUsable())
+        if (rField.kind != EControl::CheckBox || !TakesClicks(*rField.pControl))
             continue;
         rVisit.Add([&rVisit, rsName, rField] {
             auto& rBox = dynamic_cast<CButton&>(*rField.pControl);
