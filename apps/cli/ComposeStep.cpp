@@ -6,6 +6,7 @@
 #include "cli/StepError.h"
 #include "cli/Suggest.h"
 #include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 
 #include <algorithm>
 #include <charconv>

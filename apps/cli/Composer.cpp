@@ -6,7 +6,7 @@
 #include "cli/Quote.h"
 #include "cli/ShownFields.h"
 #include "cli/StepError.h"
-#include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "cli/FieldJson.h"
 
 #include "cli/ShownFields.h"
-#include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 #include "platform/headless/TreePath.h"
 #include "platform/ui/Button.h"
 #include "platform/ui/ListCtrl.h"

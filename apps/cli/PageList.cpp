@@ -3,7 +3,7 @@
 #include "cli/Failure.h"
 #include "cli/Quote.h"
 #include "cli/Suggest.h"
-#include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 #include "platform/ui/Translate.h"
 
 #include <algorithm>

@@ -4,6 +4,7 @@
 #include "cli/RequestError.h"
 #include "cli/Suggest.h"
 #include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 
 #include <algorithm>
 #include <limits>
@@ -27,7 +28,7 @@ const TJson& CRequestMembers::Value(const char* pName) const
     return *found;
 }
 
-std::string CRequestMembers::Utf8(const char* pName) const
+std::string CRequestMembers::Utf8Of(const char* pName) const
 {
     const TJson& rValue = Value(pName);
     if (!rValue.is_string())
@@ -37,7 +38,7 @@ std::string CRequestMembers::Utf8(const char* pName) const
 
 CString CRequestMembers::Text(const char* pName) const
 {
-    std::optional<CString> text = gFromUtf8(Utf8(pName));
+    std::optional<CString> text = gFromUtf8(Utf8Of(pName));
     if (!text)
         throw CRequestError("the member " + gQuoted(pName) + " doesn't fit in code page " +
                             std::to_string(gGetSystemCodePage()));

@@ -21,7 +21,7 @@ public:
 
     bool Has(const char* pName) const { return mrObject.contains(pName); }
     /// A text in UTF-8.
-    std::string Utf8(const char* pName) const;
+    std::string Utf8Of(const char* pName) const;
     /// A text in the system's code page; one that doesn't fit is an error, too.
     CString Text(const char* pName) const;
     /// A whole number in the range of int.

@@ -2,7 +2,7 @@
 
 #include "cli/PageRun.h"
 #include "cli/ShownFields.h"
-#include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 #include "platform/ui/Desktop.h"
 #include "wizard/frame/TreeDlg.h"
 

@@ -33,20 +33,20 @@ TRequest OnFrame(TStep step)
 
 TRequest ReadOpen(const TMembers& rMembers)
 {
-    return TOpenRequest{rMembers.Utf8("page")};
+    return TOpenRequest{rMembers.Utf8Of("page")};
 }
 
 TRequest ReadSet(const TMembers& rMembers)
 {
     return OnField(
-        {.op = EStep::Set, .sKey = rMembers.Utf8("field"), .sText = rMembers.Text("text")});
+        {.op = EStep::Set, .sKey = rMembers.Utf8Of("field"), .sText = rMembers.Text("text")});
 }
 
 TRequest ReadSelect(const TMembers& rMembers)
 {
     if (rMembers.Has("index") == rMembers.Has("entry"))
         throw CRequestError("one of the members \"index\" and \"entry\" is wanted");
-    TStep step{.op = EStep::Select, .sKey = rMembers.Utf8("field")};
+    TStep step{.op = EStep::Select, .sKey = rMembers.Utf8Of("field")};
     if (rMembers.Has("entry")) {
         step.op = EStep::SelectEntry;
         step.sText = rMembers.Text("entry");
@@ -59,24 +59,24 @@ TRequest ReadSelect(const TMembers& rMembers)
 TRequest ReadCheck(const TMembers& rMembers)
 {
     return OnField({.op = EStep::Check,
-                    .sKey = rMembers.Utf8("field"),
+                    .sKey = rMembers.Utf8Of("field"),
                     .nIndex = rMembers.Flag("on") ? 1 : 0});
 }
 
 TRequest ReadChoose(const TMembers& rMembers)
 {
     return OnField(
-        {.op = EStep::Choose, .sKey = rMembers.Utf8("field"), .nIndex = rMembers.Index("index")});
+        {.op = EStep::Choose, .sKey = rMembers.Utf8Of("field"), .nIndex = rMembers.Index("index")});
 }
 
 template <EStep Op> TRequest ReadFieldOnly(const TMembers& rMembers)
 {
-    return OnField({.op = Op, .sKey = rMembers.Utf8("field")});
+    return OnField({.op = Op, .sKey = rMembers.Utf8Of("field")});
 }
 
 TRequest ReadKey(const TMembers& rMembers)
 {
-    const std::string sName = rMembers.Utf8("key");
+    const std::string sName = rMembers.Utf8Of("key");
     TStep step{.op = EStep::Key};
     if (!gParseKeyName(sName, step.key)) {
         throw CRequestError("there is no key " + gQuoted(sName) +
@@ -189,7 +189,7 @@ TRequest gParseRequest(std::string_view sLine)
 {
     const TJson object = gParseJsonLine(sLine);
     const TMembers members(object);
-    const TOperation& rOperation = FindOperation(members.Utf8("op"));
+    const TOperation& rOperation = FindOperation(members.Utf8Of("op"));
     members.AllowOnly(rOperation.members);
     return rOperation.pRead(members);
 }

@@ -1,6 +1,6 @@
 #include "cli/ShownFields.h"
 
-#include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 #include "platform/headless/TreePath.h"
 #include "platform/ui/Button.h"
 #include "platform/ui/ComboBox.h"

@@ -3,7 +3,7 @@
 #include "cli/Quote.h"
 #include "cli/ShownFields.h"
 #include "cli/Suggest.h"
-#include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 #include "platform/ui/Button.h"
 
 #include <algorithm>

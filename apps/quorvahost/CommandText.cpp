@@ -1,6 +1,6 @@
 #include "quorvahost/CommandText.h"
 
-#include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 
 namespace quorvawiz::host
 {

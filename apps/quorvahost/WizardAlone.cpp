@@ -1,6 +1,6 @@
 #include "quorvahost/WizardAlone.h"
 
-#include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 #include "platform/qt/QtDesktop.h"
 #include "quorvahost/ClipboardKeeper.h"
 #include "quorvahost/CommandSinks.h"

@@ -1,20 +1,30 @@
 #include "foundation/CharIterator.h"
 
-#include "foundation/StringU.h"
+#include "foundation/MarkerRule.h"
 #include "foundation/Utf8Units.h"
+#include "platform/base/StringA.h"
 
 #include <algorithm>
 
-TCharIterator::TCharIterator(const CStringU& rText, int nIndex) noexcept
-    : mpText(&rText),
-      mnIndex(static_cast<std::size_t>(std::clamp(nIndex, 0, rText.GetByteLength())))
+namespace
+{
+
+int LengthOf(const CStringA& rText) noexcept
+{
+    return static_cast<int>(gBehindMarker(rText).size());
+}
+
+} // namespace
+
+TCharIterator::TCharIterator(const CStringA& rText, int nIndex) noexcept
+    : mpText(&rText), mnIndex(static_cast<std::size_t>(std::clamp(nIndex, 0, LengthOf(rText))))
 {
 }
 
 char16_t TCharIterator::operator*() const noexcept
 {
-    const std::string_view sText = mpText->Text();
-    if (!mpText->IsUtf8()) {
+    const std::string_view sText = gBehindMarker(*mpText);
+    if (!gIsStoredUtf8(*mpText)) {
         return mnIndex < sText.size() ? static_cast<unsigned char>(sText[mnIndex]) : u'\0';
     }
     std::size_t nIndex = mnIndex;
@@ -23,17 +33,17 @@ char16_t TCharIterator::operator*() const noexcept
 
 TCharIterator& TCharIterator::operator++() noexcept
 {
-    const std::string_view sText = mpText->Text();
-    mnIndex =
-        mpText->IsUtf8() ? gNextCharacter(sText, mnIndex) : std::min(mnIndex + 1, sText.size());
+    const std::string_view sText = gBehindMarker(*mpText);
+    mnIndex = gIsStoredUtf8(*mpText) ? gNextCharacter(sText, mnIndex)
+                                     : std::min(mnIndex + 1, sText.size());
     return *this;
 }
 
 TCharIterator& TCharIterator::operator--() noexcept
 {
-    const std::string_view sText = mpText->Text();
+    const std::string_view sText = gBehindMarker(*mpText);
     mnIndex = std::min(mnIndex, sText.size());
-    if (mpText->IsUtf8()) {
+    if (gIsStoredUtf8(*mpText)) {
         mnIndex = gPreviousCharacter(sText, mnIndex);
     } else if (mnIndex > 0) {
         --mnIndex;
@@ -65,10 +75,10 @@ TCharIterator& TCharIterator::operator-=(int nCount) noexcept
 
 int TCharIterator::GetIndex() const noexcept
 {
-    return std::min(static_cast<int>(mnIndex), mpText->GetByteLength());
+    return std::min(static_cast<int>(mnIndex), LengthOf(*mpText));
 }
 
 bool TCharIterator::IsEnd() const noexcept
 {
-    return mnIndex >= mpText->Text().size();
+    return mnIndex >= gBehindMarker(*mpText).size();
 }

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-class CStringU;
+class CStringA;
 
 /// A place between two characters of a CStringU: a reference to the string and a byte index behind
 /// its marker, from 0 to GetByteLength, which is the end. It follows the string: when that gets
@@ -10,9 +10,9 @@ class CStringU;
 class TCharIterator
 {
 public:
-    /// @param rText the string, which is referred to and not copied
+    /// @param rText the CStringU, by its stored bytes, which are referred to and not copied
     /// @param nIndex in bytes behind the marker; below 0 is the beginning, past the end is the end
-    TCharIterator(const CStringU& rText, int nIndex) noexcept;
+    TCharIterator(const CStringA& rText, int nIndex) noexcept;
 
     /// The 16-bit character here, or 0 at the end. In a text that isn't UTF-8 it is the byte.
     [[nodiscard]] char16_t operator*() const noexcept;
@@ -52,6 +52,6 @@ public:
     }
 
 private:
-    const CStringU* mpText;
+    const CStringA* mpText;
     std::size_t mnIndex;
 };

@@ -1,6 +1,5 @@
 #include "foundation/ExpandEnvironment.h"
 
-#include "foundation/CanonicalForm.h"
 #include "foundation/PathText.h"
 #include "platform/base/CodePage.h"
 #include "platform/base/Environment.h"
@@ -95,27 +94,29 @@ bool MayExpand(std::u16string_view sName, TExpandedNames& rNames)
 }
 
 /// Looks whether the value of a variable is an absolute path.
-bool TestValue(const std::u16string& rsName, std::u16string_view sValue, TExpandedNames& rNames)
+bool TestValue(const std::u16string& rsName, std::u16string_view sValue, TExpandedNames& rNames,
+               TIsAbsolute pIsAbsolute)
 {
     rNames.mNames.push_back(rsName);
-    const bool bAbsolute = gIsAbsoluteText(sValue, rNames);
+    const bool bAbsolute = pIsAbsolute(sValue, rNames);
     rNames.mNames.pop_back();
     return bAbsolute;
 }
 
 /// Whether the value of a variable is an absolute path. Only in the path itself the answer is the
 /// same each time: inside a value it depends on the variables around it.
-bool IsAbsoluteValue(std::u16string_view sName, std::u16string_view sValue, TExpandedNames& rNames)
+bool IsAbsoluteValue(std::u16string_view sName, std::u16string_view sValue, TExpandedNames& rNames,
+                     TIsAbsolute pIsAbsolute)
 {
     const std::u16string sKey(sName);
     if (!rNames.mNames.empty()) {
-        return TestValue(sKey, sValue, rNames);
+        return TestValue(sKey, sValue, rNames, pIsAbsolute);
     }
     const auto known = rNames.mAbsolute.find(sKey);
     if (known != rNames.mAbsolute.end()) {
         return known->second;
     }
-    return rNames.mAbsolute[sKey] = TestValue(sKey, sValue, rNames);
+    return rNames.mAbsolute[sKey] = TestValue(sKey, sValue, rNames, pIsAbsolute);
 }
 
 /// The place of the next character that may begin a reference; the text's length without one.
@@ -129,7 +130,8 @@ std::size_t NextReference(std::u16string_view sText, std::size_t nFrom)
 
 } // namespace
 
-std::u16string gExpandEnvironment(std::u16string sPath, TExpandedNames& rNames)
+std::u16string gExpandEnvironment(std::u16string sPath, TExpandedNames& rNames,
+                                  TIsAbsolute pIsAbsolute)
 {
     const std::u16string_view sText = sPath;
     std::size_t nAt = NextReference(sText, 0);
@@ -147,7 +149,7 @@ std::u16string gExpandEnvironment(std::u16string sPath, TExpandedNames& rNames)
         if (!value) {
             sExpanded += sText.substr(nAt, nEnd - nAt);
         } else {
-            if (IsAbsoluteValue(reference->msName, *value, rNames)) {
+            if (IsAbsoluteValue(reference->msName, *value, rNames, pIsAbsolute)) {
                 sExpanded.clear();
             }
             sExpanded += *value;

@@ -20,6 +20,9 @@ struct TExpandedNames {
     std::map<std::u16string, bool> mAbsolute; ///< by name: whether a value in the path is absolute
 };
 
+/// Tells whether a value is an absolute path, which may take its own references filled in.
+using TIsAbsolute = bool (*)(std::u16string_view sValue, TExpandedNames& rNames);
+
 /// Fills in the environment variables of a path: ${NAME}, $NAME with letters, digits and "_" of
 /// ASCII, and %NAME%. A reference to a variable that isn't set stays. An absolute value takes the
 /// place of everything before it. A value that was filled in is not scanned again, but to tell
@@ -28,4 +31,6 @@ struct TExpandedNames {
 /// after kMostNestedTests of them. A variable that comes again in the path is judged as at first.
 /// @param sPath the path; one of less than two characters has no references
 /// @param rNames the variables being expanded; new ones for a path of a caller
-[[nodiscard]] std::u16string gExpandEnvironment(std::u16string sPath, TExpandedNames& rNames);
+/// @param pIsAbsolute the test of a value
+[[nodiscard]] std::u16string gExpandEnvironment(std::u16string sPath, TExpandedNames& rNames,
+                                                TIsAbsolute pIsAbsolute);

@@ -232,6 +232,8 @@ TEST(StringUStoreTest, ConcatenationKeepsTheMarkerInFront)
     sChars += u'\0';
     EXPECT_EQ(sChars.Stored(), "\x80"
                                "ab\xC3\xA9");
+    sChars += "\xC3\xA9z"; // in the system's code page, UTF-8
+    EXPECT_EQ(sChars.ToWide(), u"ab\u00e9\u00e9z");
 }
 
 TEST(StringUStoreTest, FormatTakesTheTextBehindTheMarker)

@@ -92,7 +92,7 @@ template <> TBytes gReadArgument<TBytes>(const TJson& rValue)
     return {rValue.get<std::string>()};
 }
 
-template <> TUnit gReadArgument<TUnit>(const TJson& rValue)
+template <> TUnitArgument gReadArgument<TUnitArgument>(const TJson& rValue)
 {
     const std::string sWanted = "a unit: a number from 0 to 65535, or a string of one character";
     if (!rValue.is_string())

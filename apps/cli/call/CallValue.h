@@ -22,7 +22,7 @@ struct TBytes {
 };
 
 /// One 16-bit unit.
-struct TUnit {
+struct TUnitArgument {
     char16_t mchUnit = 0;
 };
 
@@ -31,7 +31,7 @@ template <class T> inline constexpr std::string_view kArgumentName = {};
 template <> inline constexpr std::string_view kArgumentName<CStringU> = "text";
 template <> inline constexpr std::string_view kArgumentName<TBytes> = "bytes";
 template <> inline constexpr std::string_view kArgumentName<std::u16string> = "units";
-template <> inline constexpr std::string_view kArgumentName<TUnit> = "unit";
+template <> inline constexpr std::string_view kArgumentName<TUnitArgument> = "unit";
 template <> inline constexpr std::string_view kArgumentName<bool> = "flag";
 template <> inline constexpr std::string_view kArgumentName<int> = "integer";
 template <> inline constexpr std::string_view kArgumentName<unsigned> = "count";
@@ -49,7 +49,7 @@ template <class T> T gReadArgument(const TJson& rValue);
 template <> CStringU gReadArgument<CStringU>(const TJson& rValue);
 template <> TBytes gReadArgument<TBytes>(const TJson& rValue);
 template <> std::u16string gReadArgument<std::u16string>(const TJson& rValue);
-template <> TUnit gReadArgument<TUnit>(const TJson& rValue);
+template <> TUnitArgument gReadArgument<TUnitArgument>(const TJson& rValue);
 template <> bool gReadArgument<bool>(const TJson& rValue);
 template <> int gReadArgument<int>(const TJson& rValue);
 template <> unsigned gReadArgument<unsigned>(const TJson& rValue);

@@ -30,7 +30,7 @@ std::vector<TCallFunction> Constructions()
         gCallable(
             "CStringU.FromWideBigEndian",
             [](const std::u16string& rsUnits) { return CStringU::FromWideBigEndian(rsUnits); }),
-        gCallable("CStringU.FromChar", [](TUnit unit) { return CStringU(unit.mchUnit); }),
+        gCallable("CStringU.FromChar", [](TUnitArgument unit) { return CStringU(unit.mchUnit); }),
     };
 }
 
@@ -161,7 +161,7 @@ std::vector<TCallFunction> Pieces()
         gCallable("CStringU.operator+=",
                   [](CStringU sLeft, const CStringU& rRight) { return sLeft += rRight; }),
         gCallable("CStringU.operator+=.unit",
-                  [](CStringU sLeft, TUnit right) { return sLeft += right.mchUnit; }),
+                  [](CStringU sLeft, TUnitArgument right) { return sLeft += right.mchUnit; }),
     };
 }
 
@@ -202,11 +202,11 @@ std::vector<TCallFunction> Searches()
                       return rText.ReverseFind(rWanted);
                   }),
         gCallable("CStringU.FindCharacter",
-                  [](const CStringU& rText, TUnit wanted) {
+                  [](const CStringU& rText, TUnitArgument wanted) {
                       return rText.Find(wanted.mchUnit).GetIndex();
                   }),
         gCallable("CStringU.FindNoCase",
-                  [](const CStringU& rText, TUnit wanted) {
+                  [](const CStringU& rText, TUnitArgument wanted) {
                       return rText.FindNoCase(wanted.mchUnit).GetIndex();
                   }),
         gCallable("CStringU.FindOneOf",
@@ -231,12 +231,12 @@ std::vector<TCallFunction> Changes()
         gCallable("CStringU.MakeLower", [](CStringU sText) { return sText.MakeLower(); }),
         gCallable("CStringU.MakeUpper", [](CStringU sText) { return sText.MakeUpper(); }),
         gCallable("CStringU.Replace",
-                  [](CStringU sText, TUnit oldUnit, TUnit newUnit) {
+                  [](CStringU sText, TUnitArgument oldUnit, TUnitArgument newUnit) {
                       const int nCount = sText.Replace(oldUnit.mchUnit, newUnit.mchUnit);
                       return Changed(sText, nCount);
                   }),
         gCallable("CStringU.ReplaceNoCase",
-                  [](CStringU sText, TUnit oldUnit, TUnit newUnit) {
+                  [](CStringU sText, TUnitArgument oldUnit, TUnitArgument newUnit) {
                       const int nCount = sText.ReplaceNoCase(oldUnit.mchUnit, newUnit.mchUnit);
                       return Changed(sText, nCount);
                   }),
@@ -259,8 +259,8 @@ std::vector<TCallFunction> Characters()
 {
     return {
         gCallable("gDecodeUnit", DecodeUnit),
-        gCallable("gIsWhiteSpace", [](TUnit unit) { return gIsWhiteSpace(unit.mchUnit); }),
-        gCallable("gIsQuote", [](TUnit unit) { return gIsQuote(unit.mchUnit); }),
+        gCallable("gIsWhiteSpace", [](TUnitArgument unit) { return gIsWhiteSpace(unit.mchUnit); }),
+        gCallable("gIsQuote", [](TUnitArgument unit) { return gIsQuote(unit.mchUnit); }),
     };
 }
 } // namespace

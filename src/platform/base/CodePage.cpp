@@ -3,12 +3,12 @@
 #include "platform/base/Ascii.h"
 #include "platform/base/AsciiRuns.h"
 #include "platform/base/Codec.h"
+#include "platform/base/Decode.h"
 #include "platform/base/Exceptions.h"
 
 #include <unicode/uchar.h>
 
 #include <cstddef>
-#include <utility>
 
 namespace
 {
@@ -22,23 +22,6 @@ const ICodec& CodecOf(unsigned nCodePage)
         gThrowInvalidArg("unknown code page");
     }
     return *pCodec;
-}
-
-// Decodes with rOnMisfit(ill-formed bytes, rsOut) for each part that isn't valid.
-template <class TOnMisfit>
-std::u16string Decode(std::string_view sText, const ICodec& rCodec, const TOnMisfit& rOnMisfit)
-{
-    std::u16string sOut;
-    sOut.reserve(sText.size());
-    gForEachRun(
-        sText, [&sOut](std::string_view sAscii) { gAppendWidened(sAscii, sOut); },
-        [&](std::string_view& rsRest) {
-            const std::string_view sBefore = rsRest;
-            if (!rCodec.DecodeNext(rsRest, sOut)) {
-                rOnMisfit(sBefore.substr(0, sBefore.size() - rsRest.size()), sOut);
-            }
-        });
-    return sOut;
 }
 
 } // namespace
@@ -61,7 +44,7 @@ bool gIsCodePageKnown(unsigned nCodePage)
 
 std::u16string gMultiByteToWide(std::string_view sText, unsigned nCodePage)
 {
-    return Decode(
+    return gDecode(
         sText, CodecOf(nCodePage),
         [](std::string_view /*sBytes*/, std::u16string& rsOut) { rsOut.push_back(kReplacement); });
 }
@@ -91,38 +74,6 @@ std::string gWideToMultiByte(std::u16string_view sText, unsigned nCodePage, char
         *pbReplaced = bReplaced;
     }
     return sOut;
-}
-
-std::string gToUtf8(const CString& rsText)
-{
-    const std::string_view sText = rsText;
-    if (gIsAscii(sText)) {
-        return std::string(sText);
-    }
-    const std::u16string sWide = Decode(sText, CodecOf(gGetSystemCodePage()),
-                                        [](std::string_view sBytes, std::u16string& rsOut) {
-                                            rsOut += gMultiByteToWide(sBytes, kCodePageWindows1252);
-                                        });
-    return gWideToMultiByte(sWide, kCodePageUtf8);
-}
-
-std::optional<CString> gFromUtf8(std::string_view sUtf8)
-{
-    if (gIsAscii(sUtf8)) {
-        return CString(sUtf8);
-    }
-    bool bIllFormed = false;
-    const std::u16string sWide =
-        Decode(sUtf8, CodecOf(kCodePageUtf8),
-               [&bIllFormed](std::string_view /*sBytes*/, std::u16string& /*rsOut*/) {
-                   bIllFormed = true;
-               });
-    bool bReplaced = false;
-    std::string sText = gWideToMultiByte(sWide, gGetSystemCodePage(), '?', &bReplaced);
-    if (bIllFormed || bReplaced) {
-        return std::nullopt;
-    }
-    return CString(std::move(sText));
 }
 
 char16_t gToLowerWide(char16_t chChar) noexcept

@@ -1,16 +1,9 @@
 #pragma once
 
-#include "platform/base/StringA.h"
+#include "platform/base/CodePageNumbers.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
-
-/// The code page number of UTF-8.
-inline constexpr unsigned kCodePageUtf8 = 65001;
-
-/// The code page number of Windows-1252, Western European.
-inline constexpr unsigned kCodePageWindows1252 = 1252;
 
 /// The system's code page, in which CString holds its text (the platform's GetACP).
 /// @return a known code page; UTF-8 until gSetSystemCodePage says otherwise
@@ -45,18 +38,6 @@ void gSetSystemCodePage(unsigned nCodePage);
 /// @throws CInvalidArgException for an unknown code page
 [[nodiscard]] std::string gWideToMultiByte(std::u16string_view sText, unsigned nCodePage,
                                            char chDefault = '?', bool* pbReplaced = nullptr);
-
-/// A text of the system's code page as UTF-8, to be shown or written to JSON. Always well-formed.
-/// @param rsText the text
-/// @return its characters; a byte that is not valid in the system's code page reads as its
-///         Windows-1252 character, and one that Windows-1252 leaves undefined (0x81, 0x8D, 0x8F,
-///         0x90, 0x9D) as the control character of the same number
-[[nodiscard]] std::string gToUtf8(const CString& rsText);
-
-/// A text in the system's code page from UTF-8.
-/// @param sUtf8 the text in UTF-8
-/// @return nullopt if a character has no place in the system's code page or the UTF-8 is ill-formed
-[[nodiscard]] std::optional<CString> gFromUtf8(std::string_view sUtf8);
 
 /// Lowers one 16-bit character by the simple mapping of Unicode, whatever the locale.
 /// @param chChar a 16-bit unit; a surrogate stays as it is

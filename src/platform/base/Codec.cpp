@@ -1,6 +1,6 @@
 #include "platform/base/Codec.h"
 
-#include "platform/base/CodePage.h"
+#include "platform/base/CodePageNumbers.h"
 #include "platform/base/IcuCodec.h"
 #include "platform/base/SingleByteCodec.h"
 #include "platform/base/Utf8Codec.h"
@@ -35,13 +35,12 @@ const ICodec* gFindCodec(unsigned nCodePage)
     }
 
     static auto& rCodecs = *new std::map<unsigned, std::unique_ptr<const ICodec>>;
-    auto it = rCodecs.find(nCodePage);
-    if (it == rCodecs.end()) {
+    if (!rCodecs.contains(nCodePage)) {
         auto pCodec = MakeCodec(nCodePage);
         if (!pCodec) {
             return nullptr; // not kept, so that asking for many numbers doesn't grow the map
         }
-        it = rCodecs.emplace(nCodePage, std::move(pCodec)).first;
+        rCodecs.emplace(nCodePage, std::move(pCodec));
     }
-    return it->second.get();
+    return rCodecs.at(nCodePage).get();
 }

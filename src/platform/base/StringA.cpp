@@ -247,7 +247,9 @@ int CStringA::Delete(int nIndex, int nCount)
 CStringA& CStringA::MakeLower()
 {
     if (gIsAscii(msBytes)) {
-        std::transform(msBytes.begin(), msBytes.end(), msBytes.begin(), gToLowerAscii);
+        for (char& rChar : msBytes) {
+            rChar = gToLowerAscii(rChar);
+        }
     } else {
         msBytes = gToLowerInCodePage(msBytes);
     }
@@ -257,7 +259,9 @@ CStringA& CStringA::MakeLower()
 CStringA& CStringA::MakeUpper()
 {
     if (gIsAscii(msBytes)) {
-        std::transform(msBytes.begin(), msBytes.end(), msBytes.begin(), gToUpperAscii);
+        for (char& rChar : msBytes) {
+            rChar = gToUpperAscii(rChar);
+        }
     } else {
         msBytes = gToUpperInCodePage(msBytes);
     }

@@ -1,6 +1,6 @@
 #include "platform/qt/QtText.h"
 
-#include "platform/base/CodePage.h"
+#include "platform/base/Utf8Text.h"
 
 QString gToQString(const CString& rsText)
 {

@@ -2,6 +2,7 @@
 
 #include "CodePageScope.h"
 #include "platform/base/Exceptions.h"
+#include "platform/base/Utf8Text.h"
 
 #include <gtest/gtest.h>
 #include <unicode/uchar.h>
