@@ -19,7 +19,8 @@ public:
     explicit CRandomStore(unsigned nSeed) : mEngine(nSeed) {}
 
     /// Fills an empty store.
-    /// @param bOnlyNumbers without NaN in the values of models, and without infinities
+    /// @param bOnlyNumbers without NaN in the values of models, and without infinities; but with
+    ///        texts that another save would change
     void Fill(TCircuitParams& rStore, bool bOnlyNumbers)
     {
         mbOnlyNumbers = bOnlyNumbers;
@@ -69,7 +70,10 @@ public:
                     : kBytes[static_cast<std::size_t>(Number(static_cast<int>(kBytes.size()) - 1))];
         }
         const auto kind = Number(3) == 0 ? TTextKind::Plain : TTextKind::Utf8IfNeeded;
-        return {sText, kind};
+        const CStringU text(sText, kind);
+        // A stray 0x80 in front reads back as a marker, one further with each time.
+        const bool bStable = CStringU(text.Text(), TTextKind::Utf8IfNeeded).Text() == text.Text();
+        return bStable || mbOnlyNumbers ? text : CStringU("stray");
     }
 
     /// Any int.
