@@ -4,6 +4,8 @@
 #include "cli/DescribeCommand.h"
 #include "cli/PagesCommand.h"
 #include "cli/call/CallCommand.h"
+#include "cli/example/MakeExampleCommand.h"
+#include "cli/params/ParamsCommand.h"
 #include "platform/base/CodePage.h"
 
 #include <string>
@@ -20,7 +22,8 @@ struct TSessionOptions {
 struct TCommandLine {
     unsigned nCodePage = kCodePageUtf8; ///< known
     bool bUnixRules = false;            ///< path rules of the Unix side
-    std::variant<TPagesOptions, TDescribeOptions, TComposeOptions, TSessionOptions, TCallOptions>
+    std::variant<TPagesOptions, TDescribeOptions, TComposeOptions, TSessionOptions, TCallOptions,
+                 TParamsOptions, TMakeExampleOptions>
         command;
 };
 

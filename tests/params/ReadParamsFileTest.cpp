@@ -64,7 +64,7 @@ TEST(ReadCircuitParametersTest, ADamagedFileGivesTheFixedMessageAndTheStoreSoFar
     EXPECT_EQ(pStore->mModelClasses.size(), 1U);
     const TReadParamsFile read = gReadParamsFile(sPath);
     EXPECT_EQ(read.msMessage, message);
-    EXPECT_EQ(read.msDetail, "byte " + std::to_string(sFile.size()) + ": the file ends here");
+    EXPECT_EQ(read.msDetail, "byte 551: more elements than the file has room for");
 }
 
 TEST(ReadCircuitParametersTest, EveryDamagedFormGivesTheMessage)
