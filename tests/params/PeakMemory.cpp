@@ -47,6 +47,11 @@ std::size_t CPeakMemory::GetPeak() const noexcept
     return gnPeak - mnBefore;
 }
 
+std::size_t CPeakMemory::GetNow() const noexcept
+{
+    return gnNow - mnBefore;
+}
+
 // In the place of the library's, for all of the program. Each form that allocates by malloc has its
 // counterpart here, so that no block goes back another way than it came.
 

@@ -13,6 +13,9 @@ public:
     /// The most bytes so far.
     [[nodiscard]] std::size_t GetPeak() const noexcept;
 
+    /// The bytes that are held now.
+    [[nodiscard]] std::size_t GetNow() const noexcept;
+
 private:
     std::size_t mnBefore;
 };
