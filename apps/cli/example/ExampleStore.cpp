@@ -41,10 +41,10 @@ private:
 };
 
 /// A value around the default, or anywhere in the usual range of a state.
-TParamValue DrawValue(CDraw& rDraw, const TExampleParam& rParam)
+TParamValue DrawValue(CDraw& rDraw, const TExampleParam& rParam, bool bMayBeUnset)
 {
     if (std::isnan(rParam.dDefault)) {
-        if (rDraw.Below(20) == 0)
+        if (bMayBeUnset && rDraw.Below(20) == 0)
             return kUninitializedParamValue;
         return std::ldexp(rDraw.Fraction() - 0.5, -rDraw.Below(30));
     }
@@ -54,12 +54,13 @@ TParamValue DrawValue(CDraw& rDraw, const TExampleParam& rParam)
     return dBase * (0.5 + rDraw.Fraction());
 }
 
+/// Those of models are always set: in them the file has NaN as it is, which not every reader takes.
 void DrawValues(CDraw& rDraw, std::span<const TExampleParam> params, int nOutOfTen,
-                TParamValues& rValues)
+                bool bMayBeUnset, TParamValues& rValues)
 {
     for (const TExampleParam& rParam : params)
         if (rDraw.Below(10) < nOutOfTen)
-            rValues[rParam.pName] = DrawValue(rDraw, rParam);
+            rValues[rParam.pName] = DrawValue(rDraw, rParam, bMayBeUnset);
 }
 
 CStringU SubcktName(int nSubckt)
@@ -78,7 +79,7 @@ void AddModels(TCircuitParams& rStore, CDraw& rDraw, int nSubckt,
         TModelData model;
         model.mModelHeader = {nSubckt, std::string(rClass.pType) + "_typ", rClass.pName,
                               rClass.pType};
-        DrawValues(rDraw, rClass.model, 7, model.mModelParamValues);
+        DrawValues(rDraw, rClass.model, 7, false, model.mModelParamValues);
         if (rDraw.Below(4) == 0)
             model.mModelParamValues["corner"] =
                 CStringU("typ\u00AD\u2013slow", TTextKind::Utf8IfNeeded);
@@ -100,8 +101,8 @@ TDeviceData MakeDevice(CDraw& rDraw, int nSubckt, int nNumber,
     // Resistors and capacitors do without a model card now and then.
     if (nClass > 2 && rDraw.Below(2) == 0)
         device.mModelHeader.msName.Empty();
-    DrawValues(rDraw, rClass.device, 8, device.mDeviceParamValues);
-    DrawValues(rDraw, rClass.state, 10, device.mStateParamValues);
+    DrawValues(rDraw, rClass.device, 8, true, device.mDeviceParamValues);
+    DrawValues(rDraw, rClass.state, 10, true, device.mStateParamValues);
     device.mDeviceParamValues["off"] = rDraw.Below(9) == 0;
     return device;
 }
