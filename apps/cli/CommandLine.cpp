@@ -33,6 +33,8 @@ constexpr const char* kRulesHere = "unix";
 
 constexpr const char* kPageHelp = "Tree path in any letter case, or class name";
 
+constexpr const char* kWordHelp = "Only those that have it in their name or explanation";
+
 constexpr const char* kCommonFooter =
     "--code-page and --rules may be given, too; quorvawiz --help tells them.";
 
@@ -215,12 +217,14 @@ private:
     TPagesOptions mPages;
     TDescribeOptions mDescribe;
     TComposeOptions mCompose;
+    TOptionsOptions mOptions;
     TCallArguments mCall;
     TParamsOptions mParams;
     TExampleArguments mExample;
     CLI::App* mpPages;
     CLI::App* mpDescribe;
     CLI::App* mpCompose;
+    CLI::App* mpOptions;
     CLI::App* mpSession;
     CLI::App* mpCall = nullptr;
     CLI::App* mpParams = nullptr;
@@ -255,6 +259,10 @@ CParser::CParser()
             ->type_name("");
     AddJsonFlag(*mpCompose, mCompose.bJson);
     mpCompose->footer(std::string(kComposeFooter) + "\n" + kCommonFooter);
+
+    mpOptions = AddCommand("options", "List the options of the simulator");
+    mpOptions->add_option("WORD", mOptions.sWord, kWordHelp)->type_name("");
+    AddJsonFlag(*mpOptions, mOptions.bJson);
 
     mpSession = AddCommand("session", "Drive the wizard by lines of JSON");
     mpSession->footer(std::string(kSessionFooter) + "\n" + kCommonFooter);
@@ -344,8 +352,8 @@ std::variant<TCommandLine, TInformation> CParser::Read(int nArguments,
 /// Where a command is missing, the parser doesn't say what stands in its place.
 void CParser::ThrowLeftOver() const
 {
-    static const std::vector<std::string> sCommands{"pages", "describe", "compose",     "session",
-                                                    "call",  "params",   "make-example"};
+    static const std::vector<std::string> sCommands{
+        "pages", "describe", "compose", "options", "session", "call", "params", "make-example"};
     const std::vector<std::string> rest = mApp.remaining();
     if (!mApp.get_subcommands().empty() || rest.empty())
         return;
@@ -370,6 +378,8 @@ TCommandLine CParser::Collect()
         // As they were written: the parser's own conversion gives some texts a meaning.
         mCompose.arguments = mpActions->results();
         line.command = mCompose;
+    } else if (mpOptions->parsed()) {
+        line.command = mOptions;
     } else if (mpCall->parsed()) {
         mCall.variables = mpVariables->results();
         line.command = ReadCallOptions(mCall);

@@ -2,6 +2,7 @@
 
 #include "cli/ComposeCommand.h"
 #include "cli/DescribeCommand.h"
+#include "cli/OptionsCommand.h"
 #include "cli/PagesCommand.h"
 #include "cli/call/CallCommand.h"
 #include "cli/example/MakeExampleCommand.h"
@@ -22,8 +23,8 @@ struct TSessionOptions {
 struct TCommandLine {
     unsigned nCodePage = kCodePageUtf8; ///< known
     bool bUnixRules = false;            ///< path rules of the Unix side
-    std::variant<TPagesOptions, TDescribeOptions, TComposeOptions, TSessionOptions, TCallOptions,
-                 TParamsOptions, TMakeExampleOptions>
+    std::variant<TPagesOptions, TDescribeOptions, TComposeOptions, TOptionsOptions, TSessionOptions,
+                 TCallOptions, TParamsOptions, TMakeExampleOptions>
         command;
 };
 

@@ -8,7 +8,7 @@ namespace quorvawiz::cli
 /// What the program returns to the shell.
 enum EExitCode : int {
     kDone = 0,           ///< all went well
-    kNothingDone = 1,    ///< the wizard inserted nothing
+    kNothingDone = 1,    ///< the wizard inserted nothing, or nothing was found
     kWronglyAsked = 2,   ///< the arguments name something that isn't there or can't be used
     kProgramFailure = 3, ///< the program or its surroundings failed
 };

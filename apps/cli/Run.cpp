@@ -19,6 +19,7 @@ struct TRunCommand {
     {
         return gRunCompose(gSpiceWizard(), rOptions);
     }
+    int operator()(const TOptionsOptions& rOptions) const { return gRunOptions(rOptions); }
     int operator()(const TSessionOptions&) const { return gRunSession(); }
     int operator()(const TCallOptions& rOptions) const { return gRunCall(rOptions); }
     int operator()(const TParamsOptions& rOptions) const { return gRunParams(rOptions); }

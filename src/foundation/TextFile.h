@@ -27,10 +27,14 @@
 /// bytes are there.
 ///
 /// The forms of Open that CFile has are reached through a CFile alone. They open the bytes of a
-/// file: the encoding, the name in messages and the error text stay those from before.
+/// file: the open flags with CFile::typeBinary in them, the encoding, the name in messages and the
+/// error text stay those from before, also for a SetLength, which may detect an encoding by them.
 class TTextFile : public CFile, private TNonCopyable
 {
 public:
+    /// How the constructor for writing opens: made or emptied, and nobody else reads it.
+    static constexpr unsigned kExportFlags = modeCreate | modeWrite | shareDenyRead;
+
     /// A closed file.
     TTextFile() = default;
     /// Opens a file for reading or writing and detects its encoding, EncodingAnsi if unknown. On
@@ -38,7 +42,7 @@ public:
     /// @param rsFileName the name
     /// @param nOpenFlags of CFile::OpenFlags
     TTextFile(const CStringU& rsFileName, unsigned nOpenFlags);
-    /// Makes or empties a file and opens it for writing in the system's code page.
+    /// Makes or empties a file and opens it for writing in the system's code page: kExportFlags.
     explicit TTextFile(const CStringU& rsFileName);
     /// A text in memory, which starts as a copy of a text and is gone with the object. An empty one
     /// gets the encoding's mark.

@@ -138,7 +138,8 @@ bool TTextFile::Put(std::string_view sBytes)
     }
     if (mnValid == 0) {
         AllocateBuffer();
-        mnBufferPosition = RawPosition();
+        // In memory a place past the end is the end.
+        mnBufferPosition = IsInMemory() ? std::min(RawPosition(), RawLength()) : RawPosition();
     }
     const std::size_t nBuffered = std::min<std::size_t>(sBytes.size(), kBufferSize - mnIndex);
     std::memcpy(mpBuffer.get() + mnIndex, sBytes.data(), nBuffered);

@@ -11,7 +11,6 @@ namespace
 {
 
 constexpr unsigned kModeMask = 3;
-constexpr unsigned kExportFlags = CFile::modeCreate | CFile::modeWrite | CFile::shareDenyRead;
 
 } // namespace
 

@@ -1,4 +1,5 @@
 #include "foundation/LineEnds.h"
+#include "foundation/MarkerRule.h"
 #include "foundation/TextFile.h"
 #include "foundation/Utf8Units.h"
 
@@ -12,6 +13,16 @@ namespace
 
 constexpr std::size_t kFirstLineCapacity = 1024;
 constexpr std::size_t kUnit = sizeof(char16_t);
+
+void SetText(CStringU& rsLine, std::string_view sBytes, TTextKind kind)
+{
+    const bool bUtf8 = kind == TTextKind::Utf8 || kind == TTextKind::Utf8IfNeeded;
+    if (bUtf8 && sBytes.starts_with(kUtf8Marker)) {
+        rsLine.AppendUtf8(sBytes); // the line is empty; a stray byte of its own is no marker
+    } else {
+        rsLine.Assign(sBytes, kind);
+    }
+}
 
 } // namespace
 
@@ -43,7 +54,7 @@ bool TTextFile::ReadLineOfBytes(CStringU& rsLine)
     }
     const std::string_view sBehind = sBuffered.substr(nEnd, 2);
     if (sBehind.starts_with('\n') || sBehind == "\r\n") {
-        rsLine.Assign(sBuffered.substr(0, nEnd), kind);
+        SetText(rsLine, sBuffered.substr(0, nEnd), kind);
         mnIndex += nEnd + (sBehind.front() == '\n' ? 1 : 2);
         return true;
     }
@@ -71,11 +82,11 @@ void TTextFile::SetLine(CStringU& rsLine, std::string_view sBytes) const
         sBytes.remove_suffix(1);
     }
     if (sBytes.find('\r') == std::string_view::npos) {
-        rsLine.Assign(sBytes, kind);
+        SetText(rsLine, sBytes, kind);
     } else {
         std::string sKept(sBytes);
         std::erase(sKept, '\r');
-        rsLine.Assign(sKept, kind);
+        SetText(rsLine, sKept, kind);
     }
 }
 

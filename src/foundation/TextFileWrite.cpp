@@ -12,6 +12,29 @@
 
 static_assert(std::endian::native == std::endian::little);
 
+namespace
+{
+
+// All units of a text, also those behind a zero, at which ToWide of UTF-8 ends.
+std::u16string AllUnits(const CStringU& rsText)
+{
+    std::u16string sUnits = rsText.ToWide();
+    if (!rsText.IsUtf8()) {
+        return sUnits;
+    }
+    std::string_view sRest = rsText.Text();
+    std::size_t nZero = sRest.find('\0');
+    while (nZero != std::string_view::npos) {
+        sRest.remove_prefix(nZero + 1);
+        nZero = sRest.find('\0');
+        sUnits += u'\0';
+        sUnits += gDecodeUnits(sRest.substr(0, nZero));
+    }
+    return sUnits;
+}
+
+} // namespace
+
 template <class TWrite> bool TTextFile::CatchWriteError(const TWrite& rWrite)
 {
     try {
@@ -50,10 +73,10 @@ bool TTextFile::WriteUnits(std::u16string_view sUnits)
 bool TTextFile::WriteText(const CStringU& rsText)
 {
     if (gHasTwoByteUnits(mEncoding)) {
-        return WriteUnits(rsText.ToWide());
+        return WriteUnits(AllUnits(rsText));
     }
     if (mEncoding == EncodingAnsi && rsText.IsUtf8()) {
-        return WriteBytes(std::string_view(rsText.ToAnsi()));
+        return WriteBytes(gWideToMultiByte(AllUnits(rsText), gGetSystemCodePage()));
     }
     return WriteBytes(rsText.Text());
 }

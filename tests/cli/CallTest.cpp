@@ -192,6 +192,7 @@ TEST(Call, Texts)
             Gives("CStringU.ToWideBigEndian", R"("a")", "[24832]"),
             Gives("CStringU.IsUtf8", R"("a")", "false"),
             Gives("CStringU.GetByteLength", R"("aé")", "3"),
+            Gives("CStringU.GetByteLength", R"("a\u0000z")", "3"),
             Gives("CStringU.GetCharCount", R"("aé")", "2"),
             Gives("CStringU.Characters", R"({"hex":"f861"})", "[63,97]"),
             Gives("CStringU.CharactersBack", R"("aéb")", "[98,233,97]"),

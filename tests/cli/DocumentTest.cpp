@@ -1,5 +1,6 @@
 #include "cli/Shell.h"
 #include "support/RunProgram.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -66,6 +67,20 @@ TEST(Documents, EveryFunctionThatCanBeCalledIsTold)
             sTold += sLine.substr(3, nEnd - 2) + '\n';
     }
     EXPECT_EQ(gRunQuorvawiz({"call", "--list"}), (TProgramRun{sTold, "", 0}));
+}
+
+TEST(Documents, TheTableOfOptionsIsTheProgramsAndAnOldOneIsFound)
+{
+    const std::string sScript =
+        "'" QUORVAWIZ_SOURCE_DIR "/scripts/option-docs' --check --program quorvawiz";
+    EXPECT_EQ(gRunShell(sScript + " && echo true"), "true\n")
+        << "scripts/option-docs writes it anew";
+
+    const CTempFolder folder;
+    const std::string sFile = "'" + folder.Path("options.md") + "'";
+    gRunShell("sed s/volts/amps/ '" QUORVAWIZ_SOURCE_DIR "/docs/options.md' >" + sFile);
+    EXPECT_EQ(gRunShell(sScript + " --file " + sFile + " || echo $?"),
+              "option-docs: options.md is out of date\n1\n");
 }
 
 TEST(Documents, TheCommandLinesExamplesAreRun)

@@ -27,6 +27,7 @@ Subcommands:
   pages                       List the pages of the wizard
   describe                    Tell every control of a page
   compose                     Fill in a page and print its command
+  options                     List the options of the simulator
   session                     Drive the wizard by lines of JSON
   call                        Call functions of the foundation by lines of JSON
   params                      Look into a params file, or write it anew
@@ -89,6 +90,22 @@ Example:
   quorvawiz compose Settings/Temperature "temperature-list=0 27 85"
 
 Exit code: 0 a command was inserted, 1 none was, 2 an argument is wrong.
+--code-page and --rules may be given, too; quorvawiz --help tells them.
+)");
+}
+
+TEST(Help, Options)
+{
+    ExpectHelp({"options", "--help"}, R"(List the options of the simulator
+Usage: quorvawiz options [OPTIONS] [WORD]
+
+Positionals:
+  WORD                        Only those that have it in their name or explanation
+
+Options:
+  -h,--help                   Print this help and exit
+  --json                      One line of JSON instead of text
+
 --code-page and --rules may be given, too; quorvawiz --help tells them.
 )");
 }

@@ -1,7 +1,11 @@
 #include "cli/Shell.h"
+#include "platform/base/Ascii.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -75,6 +79,23 @@ std::vector<TExample> ExamplesOf(const std::string& rsSection)
     return examples;
 }
 
+/// A copy of all documents, to be changed.
+class CCopiedDocuments
+{
+public:
+    CCopiedDocuments() { fs::copy(kDocuments, Path("")); }
+
+    fs::path Path(const char* pName) const { return mFolder.Path(pName); }
+    /// What the check of the copies says, and its exit code if it isn't content.
+    std::string Check() const
+    {
+        return ::Check("--folder '" + Path("").string() + "'", " || echo $?");
+    }
+
+private:
+    CTempFolder mFolder;
+};
+
 /// The sections of a document, each with its title as the first line.
 std::vector<std::string> SectionsOf(const std::string& rsDocument)
 {
@@ -94,20 +115,44 @@ TEST(PageDocs, TheTablesOfFieldsAreThoseOfTheProgram)
 
 TEST(PageDocs, ATableThatIsOutOfDateIsFound)
 {
-    const fs::path folder = fs::path(testing::TempDir()) / "page-docs";
-    fs::remove_all(folder);
-    fs::create_directories(folder);
+    const CCopiedDocuments copies;
+    EXPECT_EQ(copies.Check(), "");
     const std::string sText = TextOf(kDocuments / "current-source.md");
     const std::size_t nAt = sText.find("`bit-stream`");
     ASSERT_NE(nAt, std::string::npos);
-    std::ofstream(folder / "current-source.md") << std::string(sText).replace(nAt, 12, "`stream`");
-    const std::string sFolder = "--folder '" + folder.string() + "'";
-    EXPECT_EQ(Check(sFolder, " || echo $?"), "page-docs: current-source.md is out of date\n1\n");
+    std::ofstream(copies.Path("current-source.md"))
+        << std::string(sText).replace(nAt, 12, "`stream`");
+    EXPECT_EQ(copies.Check(), "page-docs: current-source.md is out of date\n1\n");
 
     // A page that is built and has no section is missed, too.
-    std::ofstream(folder / "current-source.md") << sText.substr(0, sText.find("## Bus"));
-    EXPECT_EQ(Check(sFolder, " || echo $?"), "page-docs: current-source.md is out of date\n1\n");
-    fs::remove_all(folder);
+    std::ofstream(copies.Path("current-source.md")) << sText.substr(0, sText.find("## Bus"));
+    EXPECT_EQ(copies.Check(), "page-docs: current-source.md is out of date\n1\n");
+}
+
+TEST(PageDocs, ACategoryWithoutADocumentIsMissed)
+{
+    const CCopiedDocuments copies;
+    fs::remove(copies.Path("initialization.md"));
+    EXPECT_EQ(copies.Check(), "page-docs: initialization.md is missing\n1\n");
+}
+
+TEST(PageDocs, EveryBuiltPageHasASectionInTheDocumentOfItsCategory)
+{
+    int nPages = 0;
+    for (const auto& rPage : nlohmann::json::parse(gRunShell("quorvawiz pages --json"))) {
+        const std::string sPath = rPage["path"].is_string() ? rPage["path"] : nlohmann::json("");
+        const std::size_t nSlash = sPath.find('/');
+        if (!rPage["built"] || nSlash == std::string::npos)
+            continue;
+        ++nPages;
+        std::string sFile = sPath.substr(0, nSlash) + ".md";
+        std::ranges::transform(sFile, sFile.begin(),
+                               [](char c) { return c == ' ' ? '-' : gToLowerAscii(c); });
+        const std::string sDocument = TextOf(kDocuments / sFile);
+        EXPECT_NE(sDocument.find("\n## " + sPath.substr(nSlash + 1) + '\n'), std::string::npos)
+            << sPath;
+    }
+    EXPECT_GT(nPages, 0);
 }
 
 TEST(PageDocs, EverySectionHasAnExampleThatRuns)

@@ -1,5 +1,6 @@
 #include "foundation/PathScopes.h"
 #include "foundation/Paths.h"
+#include "platform/base/CodePageScope.h"
 
 #include <gtest/gtest.h>
 
@@ -92,6 +93,13 @@ TEST(ExpandEnvironment, References)
     for (const Case& rCase : cases) {
         EXPECT_EQ(gCanonicalizePath(rCase.pPath), CStringU(rCase.pPlain)) << rCase.pPath;
     }
+}
+
+TEST(ExpandEnvironment, NamesAndValuesAreUtf8WhateverTheCodePage)
+{
+    const CEnvironmentScope environment(CMapEnvironment::TVariables{{"\xD0\xB9", "\xC3\xA9"}});
+    const CCodePageScope scope(kCodePageWindows1252);
+    EXPECT_EQ(gCanonicalizePath(u"a/${\u0439}"), u"a\\\u00e9");
 }
 
 TEST(ExpandEnvironment, OnTheUnixSideValuesGetSlashesToo)

@@ -57,6 +57,13 @@ TEST(FormatDistinct, TrailingZerosOfEqualNumbersAreTheSettingsMatter)
     EXPECT_EQ(gFormatDistinct(1.5, 2, Spice), "1.5");
 }
 
+TEST(FormatDistinct, ZeroExponentsAreTheSettingsMatter)
+{
+    const CFormatSettingsScope scope;
+    gGetEngineeringFormatSettings().SetDefaultEngineeringFormatRemoveZeroExponents(false);
+    EXPECT_EQ(gFormatDistinct(15, 2, Engineering), "15e000");
+}
+
 TEST(FormatPlain, EighteenDigitsWithoutAnExponent)
 {
     struct Case {

@@ -1,5 +1,8 @@
+#include "foundation/CountAllocations.h"
+#include "foundation/PathLog.h"
 #include "foundation/PathScopes.h"
 #include "foundation/Paths.h"
+#include "platform/base/CodePageScope.h"
 
 #include <gtest/gtest.h>
 
@@ -100,6 +103,23 @@ TEST_F(PathLogger, CanBeSetClearedAndAsked)
     EXPECT_TRUE(mLines.empty());
     gSetPathLogger(TPathLogger());
     EXPECT_FALSE(gIsPathLoggerSet());
+}
+
+TEST_F(PathLogger, WithoutOneNothingIsFormatted)
+{
+    const CStringU sLong(std::string(1000, 'a'));
+    gClearPathLogger();
+    const std::size_t nBefore = gCountAllocations();
+    gLogPathCall("gSome", {{"Path", sLong}}, sLong);
+    EXPECT_EQ(gCountAllocations(), nBefore);
+}
+
+TEST_F(PathLogger, LinesAreUtf8WhateverTheCodePage)
+{
+    const CCodePageScope scope(kCodePageWindows1252);
+    std::ignore = gIsAbsolutePath(u"a\u20ac\u0439");
+    ASSERT_EQ(mLines.size(), 1U);
+    EXPECT_EQ(mLines.front().ToWide(), u"gIsAbsolutePath(Path=a\u20ac\u0439) returns false");
 }
 
 TEST_F(PathLogger, ThatThrowsHasNoInfluence)

@@ -2,7 +2,9 @@
 
 #include "foundation/CountAllocations.h"
 #include "foundation/StringU.h"
+#include "foundation/TextFile.h"
 #include "support/PrintStringU.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -76,6 +78,37 @@ TEST(StringUAllocationTest, PlainAsciiTakesNoMoreThanTheResult)
         const std::size_t nTaken = gCountAllocations() - nBefore;
         EXPECT_EQ(nTaken, rCase.nAllocations) << rCase.sName;
         EXPECT_TRUE(bHolds) << rCase.sName;
+    }
+}
+
+TEST(StringUAllocationTest, TheLineBufferHasRoomGrowsAndIsFreedByClose)
+{
+    const CStringU sLong(std::string(1000, 'x'));
+    for (const TTextEncoding encoding : {EncodingUtf8, EncodingUtf16}) {
+        const CTempFolder folder;
+        TTextFile file;
+        ASSERT_TRUE(file.Open(folder.Path("a"), encoding,
+                              CFile::modeCreate | CFile::modeWrite | CFile::typeBinary, nullptr));
+        // Returns inside, so that lines of bytes go through the buffer, too.
+        file << "a\r\r\n" << sLong << "\r\r\n" << sLong << "\r\r\n";
+        file.Close();
+        CStringU sLine;
+        std::vector<std::size_t> taken; // by each line
+        const auto readLine = [&] {
+            const std::size_t nBefore = gCountAllocations();
+            ASSERT_TRUE(file.ReadLine(sLine));
+            taken.push_back(gCountAllocations() - nBefore);
+        };
+        for (int nTime = 0; nTime < 2; ++nTime) {
+            ASSERT_TRUE(file.Open(folder.Path("a"), encoding, CFile::modeRead, nullptr));
+            taken.clear();
+            for (int nLine = 0; nLine < 3; ++nLine) {
+                readLine();
+            }
+            file.Close();
+        }
+        EXPECT_GT(taken[0], 0U) << encoding; // made anew after Close
+        EXPECT_EQ(taken[1], taken[2]) << encoding;
     }
 }
 

@@ -172,6 +172,8 @@ TEST(StringUSearchTest, Replaces)
         {"absent", "abAb", u'z', u'x', 0, "abAb", 0, "abAb"},
         {"by itself: counted", "abAb", u'b', u'b', 2, "abAb", 2, "abAb"},
         {"zero for the old one", "ab", 0, u'x', 0, "ab", 0, "ab"},
+        {"zero for the old one where there is one", CStringU("a\0b"sv), 0, u'x', 0, "a\0b"sv, 0,
+         "a\0b"sv},
         {"zero for the new one", "ab", u'a', 0, 0, "ab", 0, "ab"},
         {"plain text, only the old one isn't ASCII", "kK", 0x212A, u'x', 0, "kK", 0, "kK"},
         {"plain text gets a marker", "aba", u'b', 0xE9, 1, "\x80\x61\xC3\xA9\x61", 1,

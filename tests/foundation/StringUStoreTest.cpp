@@ -247,6 +247,9 @@ TEST(StringUStoreTest, FormatTakesTheTextBehindTheMarker)
     EXPECT_EQ(sText.GetByteLength(), 5002);
     sText.Format("%s", "");
     EXPECT_EQ(sText.Stored(), "");
+    const CCodePageScope scope(1252); // which the result isn't read in
+    sText.Format("%s", CStringU(u"a\u20ac\U0001F600").Data());
+    EXPECT_EQ(sText.ToWide(), u"a\u20ac\U0001F600");
 }
 
 TEST(StringUStoreTest, AssignIsConstructionInPlace)

@@ -1,6 +1,9 @@
 // What happens when the disk doesn't take what is written.
 
+#include "foundation/SystemErrorText.h"
 #include "foundation/TextFile.h"
+#include "platform/base/CodePageScope.h"
+#include "platform/base/MessagesScope.h"
 #include "platform/base/SystemError.h"
 #include "support/PrintStringU.h"
 #include "support/TempFolder.h"
@@ -54,19 +57,25 @@ private:
     void (*mOldHandler)(int) = nullptr;
 };
 
+// Closes the system's handle of a file behind the back of the object that has it open.
+void CloseHandleOf(const std::string& rsName)
+{
+    for (const auto& rEntry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code ignored;
+        if (std::filesystem::read_symlink(rEntry.path(), ignored) == rsName) {
+            ::close(std::stoi(rEntry.path().filename().string()));
+            break;
+        }
+    }
+}
+
 TEST(TextFileFailureTest, AnErrorThatTheSystemTellsWhenClosingIsKept)
 {
     const CTempFolder folder;
     const std::string sName = folder.Write("file", "abc\n");
     TTextFile file;
     ASSERT_TRUE(file.Open(CStringU(sName), CFile::modeRead, nullptr));
-    for (const auto& rEntry : std::filesystem::directory_iterator("/proc/self/fd")) {
-        std::error_code ignored;
-        if (std::filesystem::read_symlink(rEntry.path(), ignored) == sName) {
-            ::close(std::stoi(rEntry.path().filename().string()));
-            break;
-        }
-    }
+    CloseHandleOf(sName);
     file.Close();
     EXPECT_EQ(file.GetLastErrorText(), WriteError(sName, EBADF));
     EXPECT_FALSE(file.IsOpen());
@@ -141,11 +150,72 @@ TEST(TextFileFailureTest, AnInterruptedWriteLosesNothingThatWasFlushed)
         EXPECT_EQ(folder.Read("a.txt"), "flushed\r\ncut");
     }
     EXPECT_TRUE(file.IsOpen());
+    EXPECT_EQ(file.GetPosition(), 26U); // behind all that was to be written
     file.Seek(0, CFile::end);
     file << "on\n";
     file.Close();
     EXPECT_EQ(folder.Read("a.txt").substr(0, 9), "flushed\r\n");
     EXPECT_TRUE(folder.Read("a.txt").ends_with("on\r\n"));
+}
+
+TEST(TextFileFailureTest, MessagesHaveTheMarkerOfAllTheirParts)
+{
+    const CMessagesScope messages("Kein Platz: \xC3\xA9\xD0\xB9", "No space left on device");
+    const CCodePageScope scope(kCodePageWindows1252);
+    EXPECT_EQ(gGetSystemErrorText(ENOSPC), u"Kein Platz: \u00e9\u0439");
+    const CTempFolder folder;
+    const std::string sFull = folder.Path("a\xC3\xA9");
+    ASSERT_EQ(::symlink("/dev/full", sFull.c_str()), 0);
+    TTextFile file{CStringU(sFull, TTextKind::Utf8)};
+    file << "a";
+    file.Close();
+    const CStringU& sError = file.GetLastErrorText();
+    EXPECT_EQ(sError.ToWide(), u"Error writing to file \"" +
+                                   CStringU(sFull, TTextKind::Utf8).ToWide() +
+                                   u"\": Kein Platz: \u00e9\u0439");
+    EXPECT_EQ(sError.Stored(), CStringU(sError.ToWide()).Stored());
+}
+
+TEST(TextFileFailureTest, WhyAFileCannotBeOpenedIsReadFromTheCodePage)
+{
+    const CMessagesScope messages("Fehlt: \xC3\xA9\xD0\xB9");
+    const CCodePageScope scope(kCodePageWindows1252);
+    const CTempFolder folder;
+    TTextFile file;
+    CFileException exception;
+    EXPECT_FALSE(file.Open(CStringU(folder.Path("a")), CFile::modeRead, &exception));
+    EXPECT_TRUE(file.GetLastErrorText().ToWide().ends_with(u"\u00e9?"))
+        << file.GetLastErrorText().Text();
+}
+
+TEST(TextFileFailureTest, WhyAFolderCannotBeMadeHasItsMarker)
+{
+    const CMessagesScope messages("Name zu lang: \xC3\xA9", "File name too long");
+    const CTempFolder folder;
+    const std::string sLong(256, 'x'); // of what a file system takes one less
+    TTextFile file{CStringU(folder.Path("a\xC3\xA9" + sLong + "/b"), TTextKind::Utf8)};
+    const CStringU& sError = file.GetLastErrorText();
+    EXPECT_TRUE(sError.ToWide().find(u"a\u00e9") != std::u16string::npos) << sError.Text();
+    EXPECT_TRUE(sError.ToWide().find(u"Name zu lang: \u00e9") != std::u16string::npos)
+        << sError.Text();
+    EXPECT_EQ(sError.Stored(), CStringU(sError.ToWide()).Stored());
+}
+
+TEST(TextFileFailureTest, FlushAndSetLengthHaveTheSystemWriteToTheDisk)
+{
+    const CTempFolder folder;
+    for (const bool bFlush : {true, false}) {
+        const std::string sName = folder.Write("file", "abc\n");
+        TTextFile file;
+        ASSERT_TRUE(file.Open(CStringU(sName), EncodingUtf8, CFile::modeReadWrite, nullptr));
+        CloseHandleOf(sName);
+        try {
+            bFlush ? file.Flush() : file.SetLength(1);
+            ADD_FAILURE() << "no error";
+        } catch (const CFileException& rException) {
+            EXPECT_EQ(rException.GetOsError(), EBADF);
+        }
+    }
 }
 
 TEST(TextFileFailureTest, AfterADirectWriteCutShortThePositionIsTheFiles)
@@ -161,7 +231,9 @@ TEST(TextFileFailureTest, AfterADirectWriteCutShortThePositionIsTheFiles)
     }
     file.Write("end", 3);
     file.Close();
-    EXPECT_TRUE(folder.Read("a.bin") == std::string(2 * kBuffer + 5, 'x') + "end");
+    std::string sExpected(2 * kBuffer + 5, 'x');
+    sExpected += "end";
+    EXPECT_TRUE(folder.Read("a.bin") == sExpected);
 }
 
 TEST(TextFileFailureTest, AReadCutShortGivesWhatThereWas)

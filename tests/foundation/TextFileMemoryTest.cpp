@@ -137,8 +137,12 @@ TEST(TextFileMemoryTest, WritesInTheMiddleReplaceAsManyBytes)
         TTextFile file(EncodingUtf8, &sText, "");
         file.Seek(rCase.nPosition, CFile::begin);
         file << rCase.sWritten;
+        const std::uint64_t nPosition = file.GetPosition();
+        const std::uint64_t nLength = file.GetLength();
         file.Flush();
         EXPECT_EQ(sText.Stored(), rCase.sStored) << rCase.sName;
+        EXPECT_EQ(file.GetPosition(), nPosition) << rCase.sName;
+        EXPECT_EQ(file.GetLength(), nLength) << rCase.sName;
     }
 }
 

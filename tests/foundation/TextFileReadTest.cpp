@@ -52,6 +52,18 @@ TEST(TextFileReadTest, ReadsLines)
          EncodingUtf8,
          "\xE9x",
          {CStringU("\xE9x", TTextKind::Plain)}},
+        {"a stray byte at the front is no marker",
+         EncodingUtf8,
+         "\x80\x80z\n\x80"
+         "a\n\x80\xC3\xA9\n\x80\ra",
+         {CStringU("\x80\x80\x80z", TTextKind::Plain),
+          CStringU("\x80\x80"
+                   "a",
+                   TTextKind::Plain),
+          CStringU("\x80\x80\xC3\xA9", TTextKind::Plain),
+          CStringU("\x80\x80"
+                   "a",
+                   TTextKind::Plain)}},
         {"the code page", EncodingAnsi, "a\xE9\n\x80\nb", {u"a\u00e9", u"\u20ac", "b"}},
         {"UTF-16", EncodingUtf16, "a\0\n\0\xE9\0\xAC\x20"sv, {"a", u"\u00e9\u20ac"}},
         {"UTF-16, odd last byte", EncodingUtf16, "a\0\n\0b\0c"sv, {"a", "b"}},

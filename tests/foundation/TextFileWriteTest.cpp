@@ -109,6 +109,29 @@ TEST(TextFileWriteTest, LineEndsFollowTheRuleUnlessBinary)
     EXPECT_EQ(Write(EncodingUtf16BigEndian, wide, CFile::typeBinary).sBytes, "\0a\0\n\0\0\0b"sv);
 }
 
+TEST(TextFileWriteTest, ZerosInUtf8GoOutInEveryEncodingWhenBinary)
+{
+    const CCodePageScope scope(1252);
+    const auto write = [](TTextFile& rFile) {
+        rFile << CStringU("\xC3\xA9\0\0z\0"sv, TTextKind::Plain);
+    };
+    struct Case {
+        TTextEncoding encoding;
+        std::string_view sBytes;
+        std::string_view sText; // without the binary bit the first zero ends it
+    };
+    const Case cases[] = {
+        {EncodingAnsi, "\xE9\0\0z\0"sv, "\xE9"},
+        {EncodingUtf8, "\xC3\xA9\0\0z\0"sv, "\xC3\xA9"},
+        {EncodingUtf16, "\xE9\0\0\0\0\0z\0\0\0"sv, "\xE9\0"sv},
+        {EncodingUtf16BigEndian, "\0\xE9\0\0\0\0\0z\0\0"sv, "\0\xE9"sv},
+    };
+    for (const Case& rCase : cases) {
+        EXPECT_EQ(Write(rCase.encoding, write, CFile::typeBinary).sBytes, rCase.sBytes);
+        EXPECT_EQ(Write(rCase.encoding, write).sBytes, rCase.sText);
+    }
+}
+
 TEST(TextFileWriteTest, NumbersGoOutAsText)
 {
     constexpr auto least = std::numeric_limits<std::int64_t>::min();

@@ -1,6 +1,7 @@
 #include "foundation/FakeFileSystem.h"
 #include "foundation/PathScopes.h"
 #include "foundation/Paths.h"
+#include "platform/base/CodePageScope.h"
 
 #include <gtest/gtest.h>
 
@@ -58,7 +59,9 @@ std::string Utf8(const char16_t* pText)
 char16_t* GetDosFileName(const char* pName)
 {
     CFakeExports::sAsked = pName;
-    return pName[1] == '\0' ? nullptr : CFakeExports::Allocate(u"Z:" + CStringU(pName).ToWide());
+    return pName[1] == '\0'
+               ? nullptr
+               : CFakeExports::Allocate(u"Z:" + CStringU(pName, TTextKind::Utf8IfNeeded).ToWide());
 }
 
 char* GetUnixStrippedFileName(const char16_t* pName)
@@ -144,6 +147,16 @@ TEST_F(UnixSide, ToUnixPath)
     EXPECT_EQ(gToUnixPath("\\a"), "/a");
     EXPECT_EQ(gToUnixPath(""), "");
     EXPECT_EQ(Asked(), "");
+}
+
+TEST_F(UnixSide, NamesOfTheUnixSideAreUtf8WhateverTheCodePage)
+{
+    const CCodePageScope scope(kCodePageWindows1252);
+    EXPECT_EQ(gToDosPath(u"/\u0439"), u"Z:/\u0439");
+    EXPECT_EQ(Asked(), "/\xD0\xB9");
+    EXPECT_EQ(gToUnixPath(u"C:\\\u0439"), u"/unix/C:\\\u0439");
+    EXPECT_EQ(gGetUnixEnv("SET"), u"a\u00E9");
+    Asked();
 }
 
 TEST_F(UnixSide, Environment)

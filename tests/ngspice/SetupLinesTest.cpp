@@ -50,6 +50,9 @@ const TLine kLines[] = {
      {"parameter-type=Optimization", "first=w", "sixth=r1", "second=1", "third=0", "fourth=2",
       "fifth=0.1"},
      "it knows no parameters of an optimization"},
+    {"Settings/Simulation options", {"option-list=gmin", "value-text=1e-11"}},
+    {"Settings/Simulation options", {"option-list=method", "value-list=gear"}},
+    {"Settings/Simulation options", {"option-list=acct", "value-list=On"}},
     {"Settings/Temperature", {"temperature-list=27"}},
 };
 

@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <stdexcept>
 
 namespace
 {
@@ -119,6 +120,45 @@ TEST_F(SetupWindow, ATextThatIsNoFileNameOpensTheDialogWithAnEmptyName)
     ExpectFile(player, "a<b>?");
     player.Do({"press Escape"});
     Play(player);
+}
+
+TEST_F(SetupWindow, AFileDialogThatFailsIsLikeOneThatIsCancelled)
+{
+    CPlayer player;
+    OpenPage(player, "Files", "Library file");
+    player.Do({"press Alt+L", "type a.lib", "press Alt+B"});
+    player.Then("let it fail", [this] {
+        EXPECT_EQ(FrontFileDialog().acceptMode(), QFileDialog::AcceptOpen);
+        mDesktop.Get().EnterModel([] { throw std::runtime_error("no file dialog"); });
+    });
+    ExpectFile(player, "a.lib");
+    player.Do({"press Alt+I", "press Escape"});
+    Play(player);
+    EXPECT_EQ(mTarget.mCommands, std::vector<std::string>{".lib \"a.lib\""});
+    EXPECT_EQ(mDesktop.Get().ReadProfile("", "MRPATH"), std::nullopt);
+}
+
+/// The edit of an option's value, or the list in its place.
+void ExpectValueIn(CPlayer& rPlayer, bool bEdit)
+{
+    rPlayer.Then("look at the value", [bEdit] {
+        EXPECT_EQ(gFrontWidget("value-text")->isVisible(), bEdit);
+        EXPECT_EQ(gFrontWidget("value-list")->isVisible(), !bEdit);
+    });
+}
+
+TEST_F(SetupWindow, AnOptionIsChosenByKeyboardAndItsValueTypedOrChosen)
+{
+    CPlayer player;
+    OpenPage(player, "Settings", "Simulation options");
+    player.Do({"press Alt+O", "type gmin"});
+    ExpectValueIn(player, true);
+    player.Do({"press Alt+V", "type 1e-13", "press Alt+I", "press Alt+O", "press End", "press Up"});
+    ExpectValueIn(player, false);
+    player.Do({"press Alt+V", "press Down", "press Alt+I", "press Escape"});
+    Play(player);
+    EXPECT_EQ(mTarget.mCommands,
+              (std::vector<std::string>{".options gmin=1e-13", ".options xref=1"}));
 }
 
 TEST_F(SetupWindow, TheChainOfGuessesIsTypedThroughByKeyboard)

@@ -1,14 +1,13 @@
 // The examples for the command line hold for the pages themselves.
 
-#include "support/examples/ExampleLines.h"
-
 #include "support/WizardRun.h"
+#include "support/examples/ExampleTest.h"
 #include "wizard/frame/Remembered.h"
-
-#include <gtest/gtest.h>
 
 namespace
 {
+INSTANTIATE_TEST_SUITE_P(All, ExampleTest, testing::ValuesIn(gAllExamples()), gExampleName);
+
 std::vector<std::string> OneOrNone(const std::string& rsText)
 {
     CString sText(rsText);
@@ -17,14 +16,11 @@ std::vector<std::string> OneOrNone(const std::string& rsText)
                           : std::vector<std::string>{sText.GetString()};
 }
 
-TEST(ExampleLines, EveryPageBuildsTheLinesOfItsExamples)
+TEST_P(ExampleTest, IsWhatThePageBuilds)
 {
-    for (const TExampleLine& rExample : gAllExamples()) {
-        SCOPED_TRACE(rExample.sPage + ": " + rExample.sLine + rExample.sMessage);
-        CRememberedBase::ResetAll();
-        const auto outcome = gCompose(rExample.sPage, rExample.arguments);
-        EXPECT_EQ(outcome.inserted, OneOrNone(rExample.sLine));
-        EXPECT_EQ(outcome.messages, OneOrNone(rExample.sMessage));
-    }
+    CRememberedBase::ResetAll();
+    const auto outcome = gCompose(GetParam().sPage, GetParam().arguments);
+    EXPECT_EQ(outcome.inserted, OneOrNone(GetParam().sLine));
+    EXPECT_EQ(outcome.messages, OneOrNone(GetParam().sMessage));
 }
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "cli/Quote.h"
 #include "cli/RequestError.h"
+#include "foundation/MarkerRule.h"
 #include "platform/base/CodePage.h"
 
 #include <charconv>
@@ -82,7 +83,7 @@ template <> CStringU gReadArgument<CStringU>(const TJson& rValue)
 {
     if (const auto stored = HexOf(rValue, "a text: a string, or {\"hex\": ...}"))
         return {*stored, TTextKind::Plain};
-    return FromUtf8(rValue.get<std::string>());
+    return {gStoreUnits(FromUtf8(rValue.get<std::string>())), TTextKind::Plain}; // with its zeros
 }
 
 template <> TBytes gReadArgument<TBytes>(const TJson& rValue)

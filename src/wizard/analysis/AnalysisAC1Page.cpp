@@ -141,7 +141,7 @@ public:
         mFields.mnSamplingType = mSamplingType.GetCurSel();
         gTrimLeft(mFields.msNumberOfSamples, mFields.msStartFrequency, mFields.msListOfValues,
                   mFields.msFinalFrequency, mFields.msCountOfListedValues);
-        rsCommand = ".ac "; // meant: before the checks, so that a failed one leaves it there
+        rsCommand = ".ac "; // Meant: before the checks, so that a failed one leaves it there
         if (!AppendFrequencies(rsCommand))
             return false;
         if (mSweep.IsUsed())

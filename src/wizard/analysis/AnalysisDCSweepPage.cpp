@@ -51,7 +51,7 @@ struct TDirection {
     CString msIncrement;
 };
 
-// Meant as they are: the last one, and the messages of the names, are never translated.
+// Meant: the last one, and the messages of the names, are never translated.
 constexpr const char* kIncomplete[] = {
     "__$$Translatable$$_Incomplete specification for sweep direction 1.",
     "__$$Translatable$$_Incomplete specification for sweep direction 2.",

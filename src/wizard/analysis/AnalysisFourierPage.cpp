@@ -58,7 +58,7 @@ public:
     {
         CDialog::OnInitDialog();
         mFields = sRemembered.Get();
-        mFields.mnInterpolate = 1; // meant: the box comes up checked, whatever it was
+        mFields.mnInterpolate = 1; // Meant: the box comes up checked, whatever it was
         sRemembered.Set(mFields);
         UpdateData(false);
         return true;

@@ -103,7 +103,7 @@ void CStepSweepPage::OnParameterType()
 {
     const ESweepParameter parameter = Parameter();
     gSetFieldLabel(*this, kParameterName, "");
-    gSetFieldLabel(*this, kModelName, ""); // meant: never written again, the box has no label
+    gSetFieldLabel(*this, kModelName, ""); // Meant: never written again, the box has no label
     if (!gVariesParameter(Type()))
         return;
     gSetFieldLabel(*this, kParameterName, gShownText(ParameterLabel(parameter)));
@@ -205,7 +205,7 @@ void CStepSweepPage::OnAccept()
 
     const TSweepEntries entries{Type(), Parameter(), mFields};
     if (gVariesParameter(entries.type) && Reports(gMissingSweepParameter(entries))) {
-        mResultType = ESweepType::NotUsed; // meant: the only way back to no sweep
+        mResultType = ESweepType::NotUsed; // Meant: the only way back to no sweep
         return;
     }
     if (Reports(gMissingSweepValue(entries)))

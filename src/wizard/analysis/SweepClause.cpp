@@ -33,14 +33,14 @@ CString ParameterClause(const TSweepEntries& rEntries)
     return {};
 }
 
-// Meant as it is: only a plain parameter has a blank in front of it here.
+// Meant: only a plain parameter has a blank in front of it here.
 CString ParameterClauseOfPoi(const TSweepEntries& rEntries)
 {
     const bool bPlain = rEntries.parameter == ESweepParameter::Parameter;
     return (bPlain ? " " : "") + ParameterClause(rEntries);
 }
 
-// Meant as it is: the parameter stands behind "lin" with an increment and before it without one.
+// Meant: the parameter stands behind "lin" with an increment and before it without one.
 CString LinearClause(const TSweepEntries& rEntries)
 {
     const TSweepFields& rFields = rEntries.fields;

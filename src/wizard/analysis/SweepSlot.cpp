@@ -2,7 +2,7 @@
 
 namespace
 {
-// Meant as they are: in English in every language, and not the entries of the dialog's lists.
+// Meant: in English in every language, and not the entries of the dialog's lists.
 
 const char* SummaryOf(ESweepType type)
 {

@@ -18,8 +18,8 @@ inline constexpr const char* kCodeLibrariesFilter =
 /// The button that fills an edit with the path of a file, which the user picks in a file dialog.
 ///
 /// The dialog starts in the folder of the last browse, which the application's profile keeps, or in
-/// the current one; for programs and libraries of code, in that of the host's program. A page needs
-/// no handler for it.
+/// the current one; for programs and libraries of code, in that of the host's program. A dialog
+/// that fails is one that the user has cancelled. A page needs no handler for it.
 class CBrowseButton : public CButton
 {
 public:

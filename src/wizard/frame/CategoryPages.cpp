@@ -18,7 +18,7 @@ enum ECategory : int {
     kOptimization = 7,
 };
 
-// A button's place is the place of the page that it selects. Meant as they are: on the files page
+// A button's place is the place of the page that it selects. Meant: on the files page
 // "Table" leads to the page "Delete library file" and the button of that name to none; on the
 // settings page "Partition" leads to none; the hyphen of the voltage page's "Piecewise-linear".
 constexpr auto kAnalysisRows = CategoryRows(

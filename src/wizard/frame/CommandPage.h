@@ -20,5 +20,6 @@ public:
     virtual bool BuildCommand(CString& rsCommand) = 0;
 
 protected:
+    /// Exchanges nothing: a page may call it or not.
     void DoDataExchange(CDataExchange* pDX) override;
 };

@@ -20,12 +20,20 @@ ListEditing::ListEditing(CWnd& rPage, CListBox& rList, const TListEditingParts& 
 
 bool ListEditing::Add(const CString& rsEntry, CString& rsMessage)
 {
+    return Insert(rsEntry) || gReportFailure(mrPage, rsMessage, mrParts.pAlreadyThere);
+}
+
+bool ListEditing::Add(const CString& rsEntry)
+{
+    return Insert(rsEntry) || gReportFailure(mrPage, mrParts.pAlreadyThere);
+}
+
+bool ListEditing::Insert(const CString& rsEntry)
+{
     if (mrList.GetParent() != &mrPage)
         gThrowInvalidArg("list editing: the list isn't bound to a control of the page");
-    if (mrList.FindStringExact(-1, rsEntry) >= 0) {
-        rsMessage = gShownText(mrParts.pAlreadyThere);
-        return gReportMessage(mrPage, rsMessage);
-    }
+    if (mrList.FindStringExact(-1, rsEntry) >= 0)
+        return false;
     mrList.InsertString(0, rsEntry);
     mrList.SetCurSel(0);
     EnableButtons(true);

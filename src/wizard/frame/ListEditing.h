@@ -25,8 +25,10 @@ public:
     /// Puts an entry on top, selects it, and enables Delete and Clear. An entry that is there
     /// already, letter case put aside, is refused with a message; then nothing changes.
     /// Result: whether it was added. `rsMessage`: the page's message string, takes the message
-    /// first.
+    /// first; it may be the string that the entry was put together in.
     bool Add(const CString& rsEntry, CString& rsMessage);
+    /// The same for a page without a message string.
+    bool Add(const CString& rsEntry);
     /// Asks, and on yes removes the selected entry and selects the one on top; without entries left
     /// Delete and Clear are disabled. Nothing happens without a selection.
     void Delete();
@@ -38,6 +40,8 @@ public:
     CString OldestFirst(const CString& rsSeparator) const;
 
 private:
+    /// Puts the entry on top, unless it is there already. Result: whether it did.
+    bool Insert(const CString& rsEntry);
     void EnableButtons(bool bEnable);
 
     CWnd& mrPage;

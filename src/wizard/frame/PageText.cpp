@@ -20,7 +20,7 @@ bool gBeginsWithLetter(const CString& rsName, char chCapital)
 
 CString gJoinLines(const CString& rsText)
 {
-    // Meant to stay as they are: a lone LF is dropped; a lone CR is kept; what follows a run of CR
+    // Meant: a lone LF is dropped; a lone CR is kept; what follows a run of CR
     // LF pairs is copied unseen, so that a lone LF survives there while a lone CR is dropped.
     const int nLength = rsText.GetLength();
     CString sJoined;

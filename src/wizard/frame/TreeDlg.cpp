@@ -126,7 +126,7 @@ void CTreeDlg::OnTreeSelectionChanged()
         return;
     const std::int32_t nData = mTree.GetItemData(hSelected);
     if (nData == kNoPane) {
-        EnableInsert(false); // meant: the pane on display stays
+        EnableInsert(false); // Meant: the pane on display stays
     } else if (IsCategory(nData)) {
         mLayers.ShowLayer(nData & kIndexMask);
         EnableInsert(false);

@@ -72,7 +72,7 @@ const TTreeRow kTree[] = {
     Page<class CSettingsBusDefinitionPage>(0, "__$$Translatable$$_Bus definition"),
     Page<class CSettingsGlobalNodesPage>(1, "__$$Translatable$$_Global nodes"),
     Page<class CSettingsParametersPage>(2, "__$$Translatable$$_Parameters"),
-    NotBuilt(3, "__$$Translatable$$_Simulation options", "CSettingsSimulationOptionsPage"),
+    Page<class CSettingsSimulationOptionsPage>(3, "__$$Translatable$$_Simulation options"),
     Page<class CSettingsTemperaturePage>(4, "__$$Translatable$$_Temperature"),
 
     Category<class CVoltageSourcePage>("__$$Translatable$$_Voltage source"),

@@ -50,7 +50,7 @@ public:
         if (sFile.IsEmpty())
             return gReportFailure(*this, "__$$Translatable$$_Missing include file name.");
         rsCommand = ".include \"" + sFile + "\"";
-        sRemembered.Set(mFile.GetWindowText()); // meant: as it was typed
+        sRemembered.Set(mFile.GetWindowText()); // Meant: as it was typed
         return true;
     }
 

@@ -165,7 +165,7 @@ public:
         UpdateData(true);
         for (int nSet = 1; nSet <= kSets; ++nSet)
             gTrimLeft(mFields.Node(nSet), mFields.Reference(nSet), mFields.Value(nSet));
-        rsCommand = ".nodeset"; // meant: before the checks, so that a failed one leaves it there
+        rsCommand = ".nodeset"; // Meant: before the checks, so that a failed one leaves it there
         if (mFields.mnSetCount == 0)
             return gReportFailure(*this, msMessage,
                                   "__$$Translatable$$_No initial guesses specified.");

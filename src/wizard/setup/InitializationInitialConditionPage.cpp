@@ -42,14 +42,14 @@ constexpr TListEditingParts kListParts{
     "list?",
     "__$$Translatable$$_Are you sure you want to delete all initial conditions in the list?"};
 
-struct TFields {
+struct TRemembered {
     int mnMode = kNodeVoltage;
-    CString msValue;
-    CString msSecond; ///< the reference node, or the inductor's current
     CString msName;
+    CString msSecond;
+    CString msValue;
 };
 
-Remembered<TFields> sRemembered;
+Remembered<TRemembered> sRemembered;
 } // namespace
 
 /// Builds ".ic" and the voltages of nodes, in volts, and the currents of inductors, in amperes,
@@ -79,16 +79,20 @@ public:
     {
         CCommandPage::DoDataExchange(pDX);
         DDX_Control(pDX, kList, mList);
-        DDX_Text(pDX, kValue, mFields.msValue);
-        DDX_Text(pDX, kSecond, mFields.msSecond);
-        DDX_Text(pDX, kName, mFields.msName);
+        DDX_Text(pDX, kValue, msValue);
+        DDX_Text(pDX, kSecond, msSecond);
+        DDX_Text(pDX, kName, msName);
     }
 
     bool OnInitDialog() override
     {
         CDialog::OnInitDialog();
-        mFields = sRemembered.Get();
-        CheckRadioButton(kNodeVoltage, kInductorCurrent, mFields.mnMode);
+        const TRemembered& rRemembered = sRemembered.Get();
+        mnMode = rRemembered.mnMode;
+        msName = rRemembered.msName;
+        msSecond = rRemembered.msSecond;
+        msValue = rRemembered.msValue;
+        CheckRadioButton(kNodeVoltage, kInductorCurrent, mnMode);
         UpdateData(false);
         OnMode();
         return true;
@@ -101,17 +105,17 @@ public:
             rsCommand = ".ic" + mEditing.OldestFirst(" ");
         else if (!(IsCurrent() ? BuildFromCurrent(rsCommand) : BuildFromVoltage(rsCommand)))
             return false;
-        sRemembered.Set(mFields);
+        sRemembered.Set({mnMode, msName, msSecond, msValue});
         return true;
     }
 
 private:
-    bool IsCurrent() const { return mFields.mnMode == kInductorCurrent; }
+    bool IsCurrent() const { return mnMode == kInductorCurrent; }
 
     void ReadFields()
     {
         UpdateData(true);
-        mFields.mnMode = GetCheckedRadioButton(kNodeVoltage, kInductorCurrent);
+        mnMode = GetCheckedRadioButton(kNodeVoltage, kInductorCurrent);
     }
 
     void OnMode()
@@ -169,17 +173,18 @@ private:
     /// Meant: a blank is a text here.
     void EnableAdd()
     {
-        const CString& rsNeeded = IsCurrent() ? mFields.msSecond : mFields.msValue;
-        GetDlgItem(kAdd)->EnableWindow(!mFields.msName.IsEmpty() && !rsNeeded.IsEmpty());
+        const CString& rsNeeded = IsCurrent() ? msSecond : msValue;
+        GetDlgItem(kAdd)->EnableWindow(!msName.IsEmpty() && !rsNeeded.IsEmpty());
     }
 
     void OnAdd()
     {
         ReadFields();
-        gTrimLeft(mFields.msName, mFields.msSecond, mFields.msValue);
+        gTrimLeft(msName, msSecond, msValue);
         if (IsCurrent() && !CheckInductor())
             return;
-        mEditing.Add(IsCurrent() ? Current() : Voltage(), msMessage);
+        msMessage = IsCurrent() ? Current() : Voltage();
+        mEditing.Add(msMessage, msMessage);
     }
 
     void OnDelete() { mEditing.Delete(); }
@@ -192,49 +197,52 @@ private:
 
     bool BuildFromVoltage(CString& rsCommand)
     {
-        if (mFields.msName.IsEmpty())
+        if (msName.IsEmpty())
             return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing node name.");
-        if (mFields.msValue.IsEmpty())
+        if (msValue.IsEmpty())
             return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing initial voltage.");
-        gTrim(mFields.msName, mFields.msValue);
+        gTrim(msName, msValue);
         rsCommand = ".ic " + Voltage();
         return true;
     }
 
     bool BuildFromCurrent(CString& rsCommand)
     {
-        if (mFields.msName.IsEmpty())
+        if (msName.IsEmpty())
             return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing inductor name.");
         if (!CheckInductor())
             return false;
-        if (mFields.msSecond.IsEmpty())
+        if (msSecond.IsEmpty())
             return gReportFailure(*this, msMessage,
                                   "__$$Translatable$$_Missing initial inductor current.");
-        gTrim(mFields.msName, mFields.msSecond);
+        gTrim(msName, msSecond);
         rsCommand = ".ic " + Current();
         return true;
     }
 
     bool CheckInductor()
     {
-        return gBeginsWithLetter(mFields.msName, 'L') ||
+        return gBeginsWithLetter(msName, 'L') ||
                gReportFailure(*this, msMessage,
                               "__$$Translatable$$_Illegal inductor name (Must begin with 'L').");
     }
 
     CString Voltage() const
     {
-        CString sEntry = "v(" + mFields.msName;
-        gAppendIfAny(sEntry, ",", mFields.msSecond);
-        return sEntry + ")=" + mFields.msValue;
+        CString sEntry = "v(" + msName;
+        gAppendIfAny(sEntry, ",", msSecond);
+        return sEntry + ")=" + msValue;
     }
 
-    CString Current() const { return "i(" + mFields.msName + ")=" + mFields.msSecond; }
+    CString Current() const { return "i(" + msName + ")=" + msSecond; }
 
-    CString msMessage;
+    int mnMode = kNodeVoltage; ///< the radio button that is checked
+    CString msMessage;         ///< the last message; an entry is put together in it, too
     CListBox mList;
+    CString msValue;
+    CString msSecond; ///< the reference node, or the inductor's current
+    CString msName;
     ListEditing mEditing{*this, mList, kListParts};
-    TFields mFields;
 };
 
 template const CRuntimeClass& gRuntimeClass<CInitializationInitialConditionPage>();

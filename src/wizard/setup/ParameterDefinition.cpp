@@ -33,7 +33,7 @@ const char* DefineMonteCarlo(const TParameterFields& rFields, const TDefinitionW
     const TDistribution& rDistribution = DistributionOf(rFields);
     if (rsName.IsEmpty())
         return kMissingName;
-    rsText = rWriter.pBefore + rsName; // meant: a check that fails from here on leaves it there
+    rsText = rWriter.pBefore + rsName; // Meant: a check that fails from here on leaves it there
     if (rsNominal.IsEmpty())
         return "__$$Translatable$$_Missing nominal value.";
     if (rsVariation.IsEmpty())

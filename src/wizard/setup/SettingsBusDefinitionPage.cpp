@@ -51,7 +51,7 @@ public:
     bool BuildCommand(CString& rsCommand) override
     {
         UpdateData(true);
-        gTrim(mFields.msBusName); // meant: the list isn't, a blank is a list
+        gTrim(mFields.msBusName); // Meant: the list isn't, a blank is a list
         if (mFields.msBusName.IsEmpty())
             return gReportFailure(*this, msMessage, "__$$Translatable$$_Missing bus name.");
         if (mFields.msNodeList.IsEmpty())

@@ -163,7 +163,7 @@ public:
         mDistribution.SetCurSel(mFields.mnDistribution);
         UpdateData(false);
         OnDistribution();
-        OnType(); // meant: ends with distribution 0, whichever is remembered
+        OnType(); // Meant: ends with distribution 0, whichever is remembered
         for (const int nField : {kSixth, kFirst, kSecond, kThird, kFourth})
             OnField(nField);
         return true;
@@ -248,8 +248,7 @@ private:
             gReportFailure(*this, pFailure);
             return;
         }
-        CString sMessage;
-        mEditing.Add(sEntry, sMessage);
+        mEditing.Add(sEntry);
     }
 
     void OnDelete() { mEditing.Delete(); }
@@ -259,8 +258,8 @@ private:
     CComboBox mType;
     CListBox mList;
     CComboBox mDistribution;
-    ListEditing mEditing{*this, mList, kListParts};
     TParameterFields mFields;
+    ListEditing mEditing{*this, mList, kListParts};
 };
 
 template const CRuntimeClass& gRuntimeClass<CSettingsParametersPage>();

@@ -20,7 +20,8 @@ void DDX_BitPattern(CDataExchange* pDX, TBitPattern& rPattern)
 
 void gAppendBitPattern(CString& rsLine, const char* pKeyword, const TBitPattern& rPattern)
 {
-    rsLine += pKeyword + ("({" + rPattern.msBitStream) + "}";
+    rsLine += pKeyword;
+    rsLine += "({" + rPattern.msBitStream + "}";
     // Named parameters: the order is the line's, not that of the controls.
     gAppendIfAny(rsLine, " pw=", rPattern.msPulseWidth);
     gAppendIfAny(rsLine, " lt=", rPattern.msLowTime);

@@ -4,30 +4,36 @@
 #include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
+#include "wizard/sources/ACValues.h"
 #include "wizard/sources/BitPattern.h"
 #include "wizard/sources/SourceForm.h"
 #include "wizard/sources/SourceHead.h"
+#include "wizard/sources/SourceTwin.h"
 #include "wizard/sources/WaveformSource.h"
 
 // The pages of a current and a voltage source between two terminals that follows a pattern of bits.
 
 namespace
 {
-enum EControlId { kSourceGroup = kFirstSourceField };
-
 struct TTwin {
     const TSourceTwin& source;
-    const char* pMissingName;
     BitPattern::TTexts pattern;
 };
 
-constexpr TTwin kCurrent{kCurrentSource,
-                         kMissingCurrentSourceName,
-                         {"Waveform:", "&ON value (1e-3):", "Hi&gh time (10n):", "D&elay (0):"}};
-constexpr TTwin kVoltage{kVoltageSource,
-                         kMissingVoltageSourceName,
-                         // Meant: 10 without the n of its neighbours.
-                         {"Waveform:", "&ON value (5):", "Hi&gh time (10):", "D&elay (0):"}};
+constexpr TTwin kCurrent{
+    .source = kCurrentSource,
+    .pattern = {.pWaveform = "Waveform:",
+                .pOnValue = "&ON value (1e-3):",
+                .pHighTime = "Hi&gh time (10n):",
+                .pDelay = "D&elay (0):"},
+};
+constexpr TTwin kVoltage{
+    .source = kVoltageSource,
+    .pattern = {.pWaveform = "Waveform:",
+                .pOnValue = "&ON value (5):",
+                .pHighTime = "Hi&gh time (10):", // Meant: without the n of its neighbours
+                .pDelay = "D&elay (0):"},
+};
 
 constexpr auto Rows(const TTwin& rTwin)
 {
@@ -35,27 +41,19 @@ constexpr auto Rows(const TTwin& rTwin)
     constexpr TColumns kSecondTerminal{.nField = 196};
     constexpr TColumns kAC{.nField = 62, .nUnit = 96};
     return PageRows(Tight(
-        GroupBox(kSourceGroup, "bit-source-group", "BIT source",
+        GroupBox(kWholeGroup, "bit-source-group", "BIT source",
                  Tight(EditLine(kHead, kSourceName, "name", rTwin.source.pNameLabel),
                        Beside(132,
                               EditLine(kHead, kPositiveTerminal, "positive-terminal",
                                        "&Positive terminal:"),
                               EditLine(kSecondTerminal, kNegativeTerminal, "negative-terminal",
                                        "&Negative terminal:")))),
-        Beside(BitPattern::kRightColumn,
-               Tight(GroupBox(kACGroup, "ac-values-group", "AC values",
-                              Tight(EditLine(kAC, kACMagnitude, "ac-magnitude",
-                                             "&Magnitude:", rTwin.source.pUnit),
-                                    EditLine(kAC, kACPhase, "ac-phase", "P&hase (0):", "deg"))),
-                     BitPattern::CornerBox(),
-                     BitPattern::WaveformBox(rTwin.pattern, rTwin.source.pUnit)),
-               Tight(GroupBox(kDCGroup, "dc-value-group", "&DC value",
-                              Tight(BareEdit(kDCValue, "dc-value"),
-                                    NoteLine(kDCNote, "note",
-                                             "(default is the time=0 value of the transient "
-                                             "waveform)",
-                                             2))),
-                     BitPattern::PulseBox(rTwin.pattern)))));
+        Beside(
+            BitPattern::kRightColumn,
+            Tight(ACBox(Tight(ACMagnitudeLine(kAC, rTwin.source, "&Magnitude:"), ACPhaseLine(kAC))),
+                  BitPattern::CornerBox(),
+                  BitPattern::WaveformBox(rTwin.pattern, rTwin.source.pUnit)),
+            Tight(DCBox(2), BitPattern::PulseBox(rTwin.pattern)))));
 }
 
 constexpr auto kCurrentRows = Rows(kCurrent);
@@ -67,13 +65,12 @@ struct TFields {
     TSourceHead mHead;
     TACValues mAC;
     TBitPattern mPattern;
-    CString msDCValue;
+    CString msDC;
 };
 
 Remembered<TFields> sCurrent;
 Remembered<TFields> sVoltage;
 
-/// What both pages do.
 class BitForm : public SourceForm<TFields, TTwin>
 {
 public:
@@ -84,7 +81,7 @@ public:
         DDX_SourceHead(pDX, mFields.mHead);
         DDX_ACValues(pDX, mFields.mAC);
         DDX_BitPattern(pDX, mFields.mPattern);
-        DDX_Text(pDX, kDCValue, mFields.msDCValue);
+        DDX_Text(pDX, kDCValue, mFields.msDC);
     }
 
     bool Build(CString& rsCommand)
@@ -92,27 +89,19 @@ public:
         Read();
         TSourceHead& rHead = mFields.mHead;
         gTrim(rHead.msName, rHead.msPositiveTerminal, mFields.mPattern.msBitStream);
-        gFillIfEmpty(rHead.msNegativeTerminal, "GND");
-        if (!AreFilled({{rHead.msName, mrTwin.pMissingName},
+        gFillIfEmpty(rHead.msNegativeTerminal, kGround);
+        if (!AreFilled({{rHead.msName, mrTwin.source.pMissingName},
                         {rHead.msPositiveTerminal, kMissingPositiveTerminal},
                         {mFields.mPattern.msBitStream, kMissingBitStream}}))
             return false;
-        rsCommand = Line();
+        rsCommand = gHeadWithDC(rHead, mFields.msDC);
+        gAppendBitPattern(rsCommand, " BIT ", mFields.mPattern);
+        gPrefixSourceLetter(rsCommand, rHead.msName, mrTwin.source.chLetter);
+        gAppendACWithBlankBefore(rsCommand, mFields.mAC);
+        // Meant: behind the AC part, other than on the pages of pulses and of corners.
+        gAppendIfAny(rsCommand, " ROUND=", mFields.mPattern.msRounding);
         Remember();
         return true;
-    }
-
-private:
-    CString Line() const
-    {
-        CString sLine = gSourceHeadText(mFields.mHead);
-        gAppendIfAny(sLine, " dc ", mFields.msDCValue);
-        gAppendBitPattern(sLine, " BIT ", mFields.mPattern);
-        gPrefixSourceLetter(sLine, mFields.mHead.msName, mrTwin.source.chLetter);
-        gAppendACWithBlankBefore(sLine, mFields.mAC);
-        // Meant: behind the AC part, other than on the pages of pulses and of corners.
-        gAppendIfAny(sLine, " ROUND=", mFields.mPattern.msRounding);
-        return sLine;
     }
 };
 } // namespace
@@ -124,20 +113,8 @@ public:
     CCurrentSourceBitPage() : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrent) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -151,20 +128,8 @@ public:
     CVoltageSourceBitPage() : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltage) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

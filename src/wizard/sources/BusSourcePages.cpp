@@ -7,33 +7,41 @@
 #include "wizard/sources/BitPattern.h"
 #include "wizard/sources/SourceForm.h"
 #include "wizard/sources/SourceHead.h"
+#include "wizard/sources/SourceTwin.h"
 #include "wizard/sources/WaveformSource.h"
 
 // The pages of a current and a voltage source on the lines of a bus that follows a pattern of bits.
 
 namespace
 {
-enum EControlId { kSourceGroup = 1001, kName, kBusName, kReferenceNode };
+enum EControlId { kBusName = kFirstSourceField, kReferenceNode };
 
 struct TTwin {
     const TSourceTwin& source;
-    const char* pMissingName;
     BitPattern::TTexts pattern;
 };
 
-constexpr TTwin kCurrent{kCurrentSource,
-                         kMissingCurrentSourceName,
-                         {"Waveform", "&ON value (1e-3):", "&High time (10n):", "&Delay (0):"}};
-constexpr TTwin kVoltage{kVoltageSource,
-                         kMissingVoltageSourceName,
-                         {"Waveform", "&ON value (5):", "&High time (10n):", "&Delay (0):"}};
+constexpr TTwin kCurrent{
+    .source = kCurrentSource,
+    .pattern = {.pWaveform = "Waveform",
+                .pOnValue = "&ON value (1e-3):",
+                .pHighTime = "&High time (10n):",
+                .pDelay = "&Delay (0):"},
+};
+constexpr TTwin kVoltage{
+    .source = kVoltageSource,
+    .pattern = {.pWaveform = "Waveform",
+                .pOnValue = "&ON value (5):",
+                .pHighTime = "&High time (10n):",
+                .pDelay = "&Delay (0):"},
+};
 
 constexpr auto Rows(const TTwin& rTwin)
 {
     constexpr TColumns kHead{.nField = 97};
     return PageRows(
-        GroupBox(kSourceGroup, "bus-source-group", "BUS source",
-                 EditLine(kHead, kName, "name", rTwin.source.pNameLabel),
+        GroupBox(kWholeGroup, "bus-source-group", "BUS source",
+                 EditLine(kHead, kSourceName, "name", rTwin.source.pNameLabel),
                  EditLine(kHead, kBusName, "bus-name", "Bus &name:"),
                  EditLine(kHead, kReferenceNode, "reference-node", "R&eference node (GND):")),
         Beside(BitPattern::kRightColumn,
@@ -57,7 +65,6 @@ struct TFields {
 Remembered<TFields> sCurrent;
 Remembered<TFields> sVoltage;
 
-/// What both pages do.
 class BusForm : public SourceForm<TFields, TTwin>
 {
 public:
@@ -65,7 +72,7 @@ public:
 
     void Exchange(CDataExchange* pDX)
     {
-        DDX_Text(pDX, kName, mFields.msName);
+        DDX_Text(pDX, kSourceName, mFields.msName);
         DDX_Text(pDX, kBusName, mFields.msBusName);
         DDX_Text(pDX, kReferenceNode, mFields.msReferenceNode);
         DDX_BitPattern(pDX, mFields.mPattern);
@@ -75,16 +82,15 @@ public:
     {
         Read();
         gTrim(mFields.msName, mFields.msBusName, mFields.mPattern.msBitStream);
-        gFillIfEmpty(mFields.msReferenceNode, "GND");
-        if (!AreFilled({{mFields.msName, mrTwin.pMissingName},
+        gFillIfEmpty(mFields.msReferenceNode, kGround);
+        if (!AreFilled({{mFields.msName, mrTwin.source.pMissingName},
                         {mFields.msBusName, "__$$Translatable$$_Missing bus name."},
                         {mFields.mPattern.msBitStream, kMissingBitStream}}))
             return false;
-        CString sLine = mFields.msName + " " + mFields.msBusName + " " + mFields.msReferenceNode;
-        gAppendBitPattern(sLine, " BUS ", mFields.mPattern);
-        gPrefixSourceLetter(sLine, mFields.msName, mrTwin.source.chLetter);
-        gAppendIfAny(sLine, " ROUND=", mFields.mPattern.msRounding);
-        rsCommand = sLine;
+        rsCommand = mFields.msName + " " + mFields.msBusName + " " + mFields.msReferenceNode;
+        gAppendBitPattern(rsCommand, " BUS ", mFields.mPattern);
+        gPrefixSourceLetter(rsCommand, mFields.msName, mrTwin.source.chLetter);
+        gAppendIfAny(rsCommand, " ROUND=", mFields.mPattern.msRounding);
         Remember();
         return true;
     }
@@ -98,20 +104,8 @@ public:
     CCurrentSourceBusPage() : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrent) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -125,20 +119,8 @@ public:
     CVoltageSourceBusPage() : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltage) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

@@ -1,18 +1,32 @@
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
+#include "wizard/frame/PageText.h"
+#include "wizard/frame/Remembered.h"
+#include "wizard/sources/ACValues.h"
 #include "wizard/sources/SourceForm.h"
+#include "wizard/sources/SourceHead.h"
+#include "wizard/sources/SourceTwin.h"
 #include "wizard/sources/WaveformSource.h"
+
+// The pages of a current and a voltage source with a DC value and its part in an AC analysis.
 
 namespace
 {
 struct TTwin {
-    TSourceTwin source;
-    const char* pMissingName;
+    const TSourceTwin& source;
+    const char* pMissingName; ///< meant: without the full stop of the other kinds
 };
 
-// Meant: these messages have no full stop.
-constexpr TTwin kCurrent{kCurrentSource, "__$$Translatable$$_Missing current source name"};
-constexpr TTwin kVoltage{kVoltageSource, "__$$Translatable$$_Missing voltage source name"};
+constexpr TTwin kCurrent{
+    .source = kCurrentSource,
+    .pMissingName = "__$$Translatable$$_Missing current source name",
+};
+constexpr TTwin kVoltage{
+    .source = kVoltageSource,
+    .pMissingName = "__$$Translatable$$_Missing voltage source name",
+};
 
 constexpr auto Rows(const TTwin& rTwin)
 {
@@ -20,7 +34,7 @@ constexpr auto Rows(const TTwin& rTwin)
     return PageRows(
         GroupBox(kWholeGroup, "constant-source-group", "Constant Source",
                  GroupBox(kNameGroup, "name-group", "Name",
-                          SourceHeadLines(kColumns, {rTwin.source.pNameLabel})),
+                          SourceHeadLines(kColumns, rTwin.source.pNameLabel)),
                  EditLine(kColumns, kDCValue, "dc-value", "&DC value:", rTwin.source.pUnit),
                  ACLines(kColumns, rTwin.source)));
 }
@@ -30,13 +44,14 @@ constexpr auto kVoltageRows = Rows(kVoltage);
 constexpr DialogTemplate kCurrentTemplate{"Constant", kPageSize, kCurrentRows};
 constexpr DialogTemplate kVoltageTemplate{"Constant", kPageSize, kVoltageRows};
 
-struct TFields : TSourceHead {
+struct TFields {
+    TSourceHead mHead;
     CString msDC;
     TACValues mAC;
 };
 
-Remembered<TFields> sCurrentRemembered;
-Remembered<TFields> sVoltageRemembered;
+Remembered<TFields> sCurrent;
+Remembered<TFields> sVoltage;
 
 class ConstantForm : public SourceForm<TFields, TTwin>
 {
@@ -45,7 +60,7 @@ public:
 
     void Exchange(CDataExchange* pDX)
     {
-        DDX_SourceHead(pDX, mFields);
+        DDX_SourceHead(pDX, mFields.mHead);
         DDX_Text(pDX, kDCValue, mFields.msDC);
         DDX_ACValues(pDX, mFields.mAC);
     }
@@ -53,14 +68,16 @@ public:
     bool Build(CString& rsCommand)
     {
         Read();
-        gTrim(mFields.msName, mFields.msPositiveTerminal, mFields.msDC);
-        gFillIfEmpty(mFields.msNegativeTerminal, "GND");
-        if (!AreFilled({{mFields.msName, mrTwin.pMissingName},
-                        {mFields.msPositiveTerminal, kMissingPositiveTerminal},
-                        {mFields.msDC, "__$$Translatable$$_Missing DC value"}})) // meant: no stop
+        TSourceHead& rHead = mFields.mHead;
+        gTrim(rHead.msName, rHead.msPositiveTerminal, mFields.msDC);
+        gFillIfEmpty(rHead.msNegativeTerminal, kGround);
+        if (!AreFilled(
+                {{rHead.msName, mrTwin.pMissingName},
+                 {rHead.msPositiveTerminal, kMissingPositiveTerminal},
+                 {mFields.msDC, "__$$Translatable$$_Missing DC value"}})) // Meant: no full stop
             return false;
-        rsCommand = gSourceHeadText(mFields) + " " + mFields.msDC;
-        gPrefixSourceLetter(rsCommand, mFields.msName, mrTwin.source.chLetter);
+        rsCommand = gSourceHeadText(rHead) + " " + mFields.msDC;
+        gPrefixSourceLetter(rsCommand, rHead.msName, mrTwin.source.chLetter);
         gAppendACWithBlankBehind(rsCommand, mFields.mAC);
         Remember();
         return true;
@@ -72,26 +89,13 @@ public:
 class CCurrentSourceConstantPage : public CCommandPage
 {
 public:
-    CCurrentSourceConstantPage()
-        : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrentRemembered)
+    CCurrentSourceConstantPage() : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrent)
     {
     }
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -102,26 +106,13 @@ private:
 class CVoltageSourceConstantPage : public CCommandPage
 {
 public:
-    CVoltageSourceConstantPage()
-        : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltageRemembered)
+    CVoltageSourceConstantPage() : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltage)
     {
     }
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

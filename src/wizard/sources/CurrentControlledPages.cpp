@@ -6,6 +6,7 @@
 #include "wizard/frame/PageLayout.h"
 #include "wizard/frame/PageText.h"
 #include "wizard/frame/Remembered.h"
+#include "wizard/sources/ControlledSource.h"
 #include "wizard/sources/SourceForm.h"
 #include "wizard/sources/SourceHead.h"
 
@@ -23,8 +24,11 @@ enum EControlId {
     kThirdSource,
 };
 
+constexpr const char* kMissingCCCSName =
+    "__$$Translatable$$_Missing current-controlled current source name.";
+
 struct TTwin {
-    char chLetter;
+    char chLetter; ///< of the source's line
     const char* pGroup;
     const char* pNameLabel;
     const char* pGainLabel;
@@ -37,30 +41,34 @@ struct TTwin {
 
 // Meant: the messages differ in full stops, in a word and in a bracket.
 constexpr TTwin kCurrent{
-    'F',
-    "Current-controlled current source",
-    "&CCCS name:",
-    "C&urrent gain:",
-    "__$$Translatable$$_Missing current-controlled current source name.",
-    "__$$Translatable$$_Missing current-controlled current source name.",
-    "__$$Translatable$$_Missing current gain value.",
-    "__$$Translatable$$_Controlling voltage source 2 name is not a legal voltage source name "
-    "(Must begin with 'V').",
-    "__$$Translatable$$_Controlling voltage source 3 name is not a legal voltage source name "
-    "(Must begin with 'V').",
+    .chLetter = 'F',
+    .pGroup = "Current-controlled current source",
+    .pNameLabel = "&CCCS name:",
+    .pGainLabel = "C&urrent gain:",
+    .pMissingName = kMissingCCCSName,
+    .pMissingNamePolynomial = kMissingCCCSName,
+    .pMissingGain = "__$$Translatable$$_Missing current gain value.",
+    .pIllegalSecondSource =
+        "__$$Translatable$$_Controlling voltage source 2 name is not a legal voltage source name "
+        "(Must begin with 'V').",
+    .pIllegalThirdSource =
+        "__$$Translatable$$_Controlling voltage source 3 name is not a legal voltage source name "
+        "(Must begin with 'V').",
 };
 constexpr TTwin kVoltage{
-    'H',
-    "Current-controlled voltage source",
-    "&CCVS name:",
-    "Tr&ansresistance (in Ohm):",
-    "__$$Translatable$$_Missing current-controlled voltage source name",
-    "__$$Translatable$$_Missing current-controlled voltage source name.",
-    "__$$Translatable$$_Missing transresistance value.",
-    "__$$Translatable$$_Controlling voltage source 2 name is not a legal voltage source name "
-    "(Must start with 'V').",
-    "__$$Translatable$$_Controlling voltage source 3 name is not a legal voltage source name "
-    "(Must begin with 'V'.)",
+    .chLetter = 'H',
+    .pGroup = "Current-controlled voltage source",
+    .pNameLabel = "&CCVS name:",
+    .pGainLabel = "Tr&ansresistance (in Ohm):",
+    .pMissingName = "__$$Translatable$$_Missing current-controlled voltage source name",
+    .pMissingNamePolynomial = "__$$Translatable$$_Missing current-controlled voltage source name.",
+    .pMissingGain = "__$$Translatable$$_Missing transresistance value.",
+    .pIllegalSecondSource =
+        "__$$Translatable$$_Controlling voltage source 2 name is not a legal voltage source name "
+        "(Must start with 'V').",
+    .pIllegalThirdSource =
+        "__$$Translatable$$_Controlling voltage source 3 name is not a legal voltage source name "
+        "(Must begin with 'V'.)",
 };
 
 constexpr auto Rows(const TTwin& rTwin)
@@ -68,7 +76,7 @@ constexpr auto Rows(const TTwin& rTwin)
     constexpr TColumns kFields{.nField = 117};
     return PageRows(GroupBox(
         kSourceGroup, "current-controlled-source-group", rTwin.pGroup,
-        SourceHeadLines(kFields, {.pName = rTwin.pNameLabel}),
+        SourceHeadLines(kFields, rTwin.pNameLabel),
         EditLine(kFields, kControllingSource, "controlling-source", "C&ontrolling voltage source:"),
         CheckLine(kPolynomialSources, "polynomial-sources", "Po&lynomial sources"),
         EditLine(kFields, kGain, "gain", rTwin.pGainLabel),
@@ -103,7 +111,6 @@ bool IsVoltageSource(const CString& rsName)
     return gBeginsWithLetter(rsName, 'V');
 }
 
-/// What both pages do.
 class CurrentControlledForm : public SourceForm<TFields, TTwin>
 {
 public:
@@ -120,11 +127,12 @@ public:
         DDX_Text(pDX, kThirdSource, mFields.msThirdSource);
     }
 
-    void Restore()
+    bool InitDialog()
     {
-        SourceForm::Restore();
+        SourceForm::InitDialog();
         mPolynomialSources.SetCheck(mFields.mnPolynomialSources);
         OnPolynomialSources();
+        return true;
     }
 
     void OnPolynomialSources()
@@ -139,10 +147,11 @@ public:
     bool Build(CString& rsCommand)
     {
         Read();
-        gTrim(mFields.mHead.msName, mFields.mHead.msPositiveTerminal, mFields.msControllingSource,
-              mFields.msGain, mFields.msCoefficients);
+        TSourceHead& rHead = mFields.mHead;
+        gTrim(rHead.msName, rHead.msPositiveTerminal, mFields.msControllingSource, mFields.msGain,
+              mFields.msCoefficients);
         mFields.mnPolynomialSources = mPolynomialSources.GetCheck();
-        gFillIfEmpty(mFields.mHead.msNegativeTerminal, "GND");
+        gFillIfEmpty(rHead.msNegativeTerminal, kGround);
         const bool bPolynomial = mFields.mnPolynomialSources != 0;
         if (!(bPolynomial ? BuildPolynomial(rsCommand) : BuildGain(rsCommand)))
             return false;
@@ -178,13 +187,14 @@ private:
     bool BuildPolynomial(CString& rsCommand)
     {
         if (!IsHeadFilled(mrTwin.pMissingNamePolynomial) ||
-            !AreFilled(
-                {{mFields.msCoefficients, "__$$Translatable$$_Missing polynomial coefficients."}}))
+            !AreFilled({{mFields.msCoefficients, kMissingPolynomialCoefficients}}))
             return false;
         rsCommand = gSourceHeadText(mFields.mHead) + " POLY(";
         gPrefixSourceLetter(rsCommand, mFields.mHead.msName, mrTwin.chLetter);
-        // Meant: the line so far stays when one of the further sources is refused.
-        return AreFurtherSourcesLegal() && AppendSources(rsCommand);
+        if (!AreFurtherSourcesLegal())
+            return false; // Meant: the line so far stays
+        AppendSources(rsCommand);
+        return true;
     }
 
     bool AreFurtherSourcesLegal()
@@ -200,16 +210,17 @@ private:
         return true;
     }
 
-    bool AppendSources(CString& rsCommand) const
+    void AppendSources(CString& rsCommand) const
     {
         CString sSources = mFields.msControllingSource;
-        gAppendIfAny(sSources, " ", mFields.msSecondSource);
-        gAppendIfAny(sSources, " ", mFields.msThirdSource);
-        const bool bSecond = !mFields.msSecondSource.IsEmpty();
-        const bool bThird = !mFields.msThirdSource.IsEmpty();
-        rsCommand += bThird ? "3) " : bSecond ? "2) " : "1) ";
-        rsCommand += sSources + " " + gJoinLines(mFields.msCoefficients);
-        return true;
+        int nSources = 1;
+        for (const CString* const pFurther : {&mFields.msSecondSource, &mFields.msThirdSource}) {
+            if (pFurther->IsEmpty())
+                continue;
+            sSources += " " + *pFurther;
+            ++nSources;
+        }
+        gAppendPolynomial(rsCommand, nSources, sSources, mFields.msCoefficients);
     }
 
     CButton mPolynomialSources;
@@ -232,20 +243,8 @@ public:
                                                                           kPolynomialSources)};
         return kHandlers;
     }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -271,20 +270,8 @@ public:
                                                                           kPolynomialSources)};
         return kHandlers;
     }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

@@ -1,7 +1,16 @@
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
+#include "wizard/frame/PageText.h"
+#include "wizard/frame/Remembered.h"
+#include "wizard/sources/ACValues.h"
 #include "wizard/sources/SourceForm.h"
+#include "wizard/sources/SourceHead.h"
+#include "wizard/sources/SourceTwin.h"
 #include "wizard/sources/WaveformSource.h"
+
+// The pages of a current and a voltage source that rises and falls exponentially.
 
 namespace
 {
@@ -18,18 +27,18 @@ enum EControlId {
 };
 
 struct TTwin {
-    TSourceTwin source;
-    const char* pMissingName;
+    const TSourceTwin& source;
     const char* pMissingInitial;
-    const char* pMissingPeak;
 };
 
-constexpr TTwin kCurrent{kCurrentSource, kMissingCurrentSourceName,
-                         "__$$Translatable$$_Missing initial current.",
-                         "__$$Translatable$$_Missing peak current."};
-constexpr TTwin kVoltage{kVoltageSource, kMissingVoltageSourceName,
-                         "__$$Translatable$$_Missing initial voltage.",
-                         "__$$Translatable$$_Missing peak voltage."};
+constexpr TTwin kCurrent{
+    .source = kCurrentSource,
+    .pMissingInitial = "__$$Translatable$$_Missing initial current.",
+};
+constexpr TTwin kVoltage{
+    .source = kVoltageSource,
+    .pMissingInitial = "__$$Translatable$$_Missing initial voltage.",
+};
 
 constexpr auto Rows(const TTwin& rTwin)
 {
@@ -37,7 +46,8 @@ constexpr auto Rows(const TTwin& rTwin)
     constexpr TColumns kConstants{.nField = 197};
     return PageRows(
         NameBesideDC(kDCWithoutFrame, rTwin.source),
-        LevelsBesideAC(rTwin.source, kInitial, "Ini&tial:", kPeak, kLevelsGroup),
+        LevelsBesideAC(rTwin.source, {.nGroup = kLevelsGroup, .nInitial = kInitial, .nPeak = kPeak},
+                       "Ini&tial:"),
         GroupBox(
             kRiseGroup, "rise-group", "Rise",
             Beside(
@@ -55,7 +65,8 @@ constexpr auto kVoltageRows = Rows(kVoltage);
 constexpr DialogTemplate kCurrentTemplate{"Exponential", kPageSize, kCurrentRows};
 constexpr DialogTemplate kVoltageTemplate{"Exponential", kPageSize, kVoltageRows};
 
-struct TFields : TSourceHead {
+struct TFields {
+    TSourceHead mHead;
     CString msInitial;
     CString msPeak;
     CString msRiseDelay;
@@ -66,8 +77,8 @@ struct TFields : TSourceHead {
     CString msDC;
 };
 
-Remembered<TFields> sCurrentRemembered;
-Remembered<TFields> sVoltageRemembered;
+Remembered<TFields> sCurrent;
+Remembered<TFields> sVoltage;
 
 class ExponentialForm : public SourceForm<TFields, TTwin>
 {
@@ -76,7 +87,7 @@ public:
 
     void Exchange(CDataExchange* pDX)
     {
-        DDX_SourceHead(pDX, mFields);
+        DDX_SourceHead(pDX, mFields.mHead);
         DDX_Text(pDX, kInitial, mFields.msInitial);
         DDX_Text(pDX, kPeak, mFields.msPeak);
         DDX_Text(pDX, kRiseDelay, mFields.msRiseDelay);
@@ -90,21 +101,20 @@ public:
     bool Build(CString& rsCommand)
     {
         Read();
-        gTrim(mFields.msName, mFields.msPositiveTerminal, mFields.msInitial, mFields.msPeak);
-        gFillIfEmpty(mFields.msNegativeTerminal, "GND");
+        TSourceHead& rHead = mFields.mHead;
+        gTrim(rHead.msName, rHead.msPositiveTerminal, mFields.msInitial, mFields.msPeak);
+        gFillIfEmpty(rHead.msNegativeTerminal, kGround);
         gFillIfEmpty(mFields.msRiseDelay, "0");
-        if (!AreFilled({{mFields.msName, mrTwin.pMissingName},
-                        {mFields.msPositiveTerminal, kMissingPositiveTerminal},
+        if (!AreFilled({{rHead.msName, mrTwin.source.pMissingName},
+                        {rHead.msPositiveTerminal, kMissingPositiveTerminal},
                         {mFields.msInitial, mrTwin.pMissingInitial},
-                        {mFields.msPeak, mrTwin.pMissingPeak}}))
+                        {mFields.msPeak, mrTwin.source.pMissingPeak}}))
             return false;
-        rsCommand = gSourceHeadText(mFields);
-        gAppendIfAny(rsCommand, " dc ", mFields.msDC);
-        rsCommand +=
-            " EXP (" + mFields.msInitial + " " + mFields.msPeak + " " + mFields.msRiseDelay;
-        gPrefixSourceLetter(rsCommand, mFields.msName, mrTwin.source.chLetter);
+        rsCommand = gHeadWithDC(rHead, mFields.msDC) + " EXP (" + mFields.msInitial + " " +
+                    mFields.msPeak + " " + mFields.msRiseDelay;
+        gPrefixSourceLetter(rsCommand, rHead.msName, mrTwin.source.chLetter);
         if (!AppendRest(rsCommand))
-            return false; // meant: the line so far stays
+            return false; // Meant: the line so far stays
         rsCommand += ")";
         gAppendACWithBlankBehind(rsCommand, mFields.mAC);
         Remember();
@@ -137,25 +147,13 @@ class CCurrentSourceExponentialPage : public CCommandPage
 {
 public:
     CCurrentSourceExponentialPage()
-        : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrentRemembered)
+        : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrent)
     {
     }
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -167,25 +165,13 @@ class CVoltageSourceExponentialPage : public CCommandPage
 {
 public:
     CVoltageSourceExponentialPage()
-        : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltageRemembered)
+        : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltage)
     {
     }
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

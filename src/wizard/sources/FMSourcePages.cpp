@@ -1,7 +1,17 @@
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
+#include "wizard/frame/PageText.h"
+#include "wizard/frame/Remembered.h"
+#include "wizard/sources/ACValues.h"
 #include "wizard/sources/SourceForm.h"
+#include "wizard/sources/SourceHead.h"
+#include "wizard/sources/SourceTwin.h"
 #include "wizard/sources/WaveformSource.h"
+
+// The pages of a current and a voltage source with a carrier that one signal modulates in
+// frequency.
 
 namespace
 {
@@ -15,13 +25,12 @@ enum EControlId {
 };
 
 struct TTwin {
-    TSourceTwin source;
-    const char* pMissingName;
+    const TSourceTwin& source;
     const char* pOffsetLabel;
 };
 
-constexpr TTwin kCurrent{kCurrentSource, kMissingCurrentSourceName, "C&urrent offset (0):"};
-constexpr TTwin kVoltage{kVoltageSource, kMissingVoltageSourceName, "Vo&ltage offset (0):"};
+constexpr TTwin kCurrent{.source = kCurrentSource, .pOffsetLabel = "C&urrent offset (0):"};
+constexpr TTwin kVoltage{.source = kVoltageSource, .pOffsetLabel = "Vo&ltage offset (0):"};
 
 constexpr auto Rows(const TTwin& rTwin)
 {
@@ -51,7 +60,8 @@ constexpr auto kVoltageRows = Rows(kVoltage);
 constexpr DialogTemplate kCurrentTemplate{"FM", kPageSize, kCurrentRows};
 constexpr DialogTemplate kVoltageTemplate{"FM", kPageSize, kVoltageRows};
 
-struct TFields : TSourceHead {
+struct TFields {
+    TSourceHead mHead;
     CString msOffset;
     CString msPeakAmplitude;
     CString msCarrierFrequency;
@@ -61,8 +71,8 @@ struct TFields : TSourceHead {
     CString msDC;
 };
 
-Remembered<TFields> sCurrentRemembered;
-Remembered<TFields> sVoltageRemembered;
+Remembered<TFields> sCurrent;
+Remembered<TFields> sVoltage;
 
 class FMForm : public SourceForm<TFields, TTwin>
 {
@@ -71,7 +81,7 @@ public:
 
     void Exchange(CDataExchange* pDX)
     {
-        DDX_SourceHead(pDX, mFields);
+        DDX_SourceHead(pDX, mFields.mHead);
         DDX_Text(pDX, kOffset, mFields.msOffset);
         DDX_Text(pDX, kPeakAmplitude, mFields.msPeakAmplitude);
         DDX_Text(pDX, kCarrierFrequency, mFields.msCarrierFrequency);
@@ -84,21 +94,21 @@ public:
     bool Build(CString& rsCommand)
     {
         Read();
-        gTrim(mFields.msName, mFields.msPositiveTerminal, mFields.msPeakAmplitude);
-        gFillIfEmpty(mFields.msNegativeTerminal, "GND");
+        TSourceHead& rHead = mFields.mHead;
+        gTrim(rHead.msName, rHead.msPositiveTerminal, mFields.msPeakAmplitude);
+        gFillIfEmpty(rHead.msNegativeTerminal, kGround);
         gFillIfEmpty(mFields.msOffset, "0");
         if (!AreFilled(
-                {{mFields.msName, mrTwin.pMissingName},
+                {{rHead.msName, mrTwin.source.pMissingName},
                  // Meant: so spelled.
-                 {mFields.msPositiveTerminal, "__$$Translatable$$_Missing postive terminal name."},
-                 {mFields.msPeakAmplitude, "__$$Translatable$$_Missing peak amplitude."}}))
+                 {rHead.msPositiveTerminal, "__$$Translatable$$_Missing postive terminal name."},
+                 {mFields.msPeakAmplitude, kMissingPeakAmplitude}}))
             return false;
-        rsCommand = gSourceHeadText(mFields);
-        gAppendIfAny(rsCommand, " dc ", mFields.msDC);
-        rsCommand += " SFFM (" + mFields.msOffset + " " + mFields.msPeakAmplitude;
-        gPrefixSourceLetter(rsCommand, mFields.msName, mrTwin.source.chLetter);
+        rsCommand = gHeadWithDC(rHead, mFields.msDC) + " SFFM (" + mFields.msOffset + " " +
+                    mFields.msPeakAmplitude;
+        gPrefixSourceLetter(rsCommand, rHead.msName, mrTwin.source.chLetter);
         if (!AppendModulation(rsCommand))
-            return false; // meant: the line so far stays
+            return false; // Meant: the line so far stays
         rsCommand += ")";
         gAppendACWithBlankBehind(rsCommand, mFields.mAC);
         Remember();
@@ -116,7 +126,7 @@ private:
             return false;
         gAppendIfAny(rsCommand, " ", mFields.msCarrierFrequency);
         gAppendIfAny(rsCommand, " ", mFields.msModulationIndex);
-        gAppendIfAny(rsCommand, " ", mFields.msSignalFrequency); // meant: even in the index's place
+        gAppendIfAny(rsCommand, " ", mFields.msSignalFrequency); // Meant: even in the index's place
         return true;
     }
 };
@@ -126,26 +136,11 @@ private:
 class CCurrentSourceFMPage : public CCommandPage
 {
 public:
-    CCurrentSourceFMPage()
-        : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrentRemembered)
-    {
-    }
+    CCurrentSourceFMPage() : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrent) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -156,26 +151,11 @@ private:
 class CVoltageSourceFMPage : public CCommandPage
 {
 public:
-    CVoltageSourceFMPage()
-        : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltageRemembered)
-    {
-    }
+    CVoltageSourceFMPage() : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltage) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

@@ -1,28 +1,43 @@
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
+#include "wizard/frame/PageText.h"
+#include "wizard/frame/Remembered.h"
+#include "wizard/sources/ACValues.h"
 #include "wizard/sources/SourceForm.h"
+#include "wizard/sources/SourceHead.h"
+#include "wizard/sources/SourceTwin.h"
 #include "wizard/sources/WaveformSource.h"
 
 #include <string_view>
+
+// The pages of a current and a voltage source with a waveform of straight lines between corners.
 
 namespace
 {
 enum EControlId { kWaveformGroup = kFirstSourceField, kCorners, kRounding };
 
 struct TTwin {
-    TSourceTwin source;
-    const char* pMissingName;
+    const TSourceTwin& source;
     const char* pCornersLabel;
     const char* pMissingCorners;
     bool bTrimsDC; ///< on the left
 };
 
-constexpr TTwin kCurrent{kCurrentSource, kMissingCurrentSourceName,
-                         "C&orners: (t0 i0 t1 i1 t2 i2 ...), t in seconds, i in amps",
-                         "__$$Translatable$$_Missing waveform corner points.", true};
-constexpr TTwin kVoltage{kVoltageSource, kMissingVoltageSourceName,
-                         "&Corners: (t0 v0 t1 v1 t2 v2 ...), t in seconds, v in volts",
-                         "__$$Translatable$$_Missing waveform corners points.", false};
+constexpr TTwin kCurrent{
+    .source = kCurrentSource,
+    .pCornersLabel = "C&orners: (t0 i0 t1 i1 t2 i2 ...), t in seconds, i in amps",
+    .pMissingCorners = "__$$Translatable$$_Missing waveform corner points.",
+    .bTrimsDC = true,
+};
+constexpr TTwin kVoltage{
+    .source = kVoltageSource,
+    .pCornersLabel = "&Corners: (t0 v0 t1 v1 t2 v2 ...), t in seconds, v in volts",
+    // Meant: with one s more.
+    .pMissingCorners = "__$$Translatable$$_Missing waveform corners points.",
+    .bTrimsDC = false,
+};
 
 constexpr auto Rows(const TTwin& rTwin)
 {
@@ -42,23 +57,28 @@ constexpr auto kVoltageRows = Rows(kVoltage);
 constexpr DialogTemplate kCurrentTemplate{"Piecewise linear", kPageSize, kCurrentRows};
 constexpr DialogTemplate kVoltageTemplate{"Piecewise linear", kPageSize, kVoltageRows};
 
-struct TFields : TSourceHead {
+struct TFields {
+    TSourceHead mHead;
     CString msCorners;
     CString msRounding;
     TACValues mAC;
     CString msDC;
 };
 
-Remembered<TFields> sCurrentRemembered;
-Remembered<TFields> sVoltageRemembered;
+Remembered<TFields> sCurrent;
+Remembered<TFields> sVoltage;
 
 /// Whether the list has an odd number of values. A line feed or a tab inside a value is part of it.
 bool HasOddCount(std::string_view sCorners)
 {
+    constexpr const char* kBetween = " \r\n";
+    constexpr const char* kEnd = " \r";
     bool bOdd = false;
-    for (std::size_t n = 0; (n = sCorners.find_first_not_of(" \r\n", n)) < sCorners.size();) {
+    std::size_t nBegin = sCorners.find_first_not_of(kBetween);
+    while (nBegin != std::string_view::npos) {
         bOdd = !bOdd;
-        n = sCorners.find_first_of(" \r", n);
+        const std::size_t nEnd = sCorners.find_first_of(kEnd, nBegin);
+        nBegin = sCorners.find_first_not_of(kBetween, nEnd);
     }
     return bOdd;
 }
@@ -70,7 +90,7 @@ public:
 
     void Exchange(CDataExchange* pDX)
     {
-        DDX_SourceHead(pDX, mFields);
+        DDX_SourceHead(pDX, mFields.mHead);
         DDX_Text(pDX, kCorners, mFields.msCorners);
         DDX_Text(pDX, kRounding, mFields.msRounding);
         DDX_ACValues(pDX, mFields.mAC);
@@ -80,20 +100,19 @@ public:
     bool Build(CString& rsCommand)
     {
         Read();
-        gTrim(mFields.msName, mFields.msPositiveTerminal, mFields.msCorners);
+        TSourceHead& rHead = mFields.mHead;
+        gTrim(rHead.msName, rHead.msPositiveTerminal, mFields.msCorners);
         if (mrTwin.bTrimsDC)
             gTrimLeft(mFields.msDC);
-        gFillIfEmpty(mFields.msNegativeTerminal, "GND");
-        if (!AreFilled({{mFields.msName, mrTwin.pMissingName},
-                        {mFields.msPositiveTerminal, kMissingPositiveTerminal},
+        gFillIfEmpty(rHead.msNegativeTerminal, kGround);
+        if (!AreFilled({{rHead.msName, mrTwin.source.pMissingName},
+                        {rHead.msPositiveTerminal, kMissingPositiveTerminal},
                         {mFields.msCorners, mrTwin.pMissingCorners}}))
             return false;
         if (HasOddCount(mFields.msCorners.GetString()))
             return Fail("__$$Translatable$$_Odd number of values in corner list.");
-        rsCommand = gSourceHeadText(mFields);
-        gAppendIfAny(rsCommand, " dc ", mFields.msDC);
-        rsCommand += " PWL (" + gJoinLines(mFields.msCorners);
-        gPrefixSourceLetter(rsCommand, mFields.msName, mrTwin.source.chLetter);
+        rsCommand = gHeadWithDC(rHead, mFields.msDC) + " PWL (" + gJoinLines(mFields.msCorners);
+        gPrefixSourceLetter(rsCommand, rHead.msName, mrTwin.source.chLetter);
         rsCommand += ")";
         gAppendIfAny(rsCommand, " ROUND=", mFields.msRounding);
         gAppendACWithBlankBefore(rsCommand, mFields.mAC);
@@ -108,25 +127,13 @@ class CCurrentSourcePiecewiseLinearPage : public CCommandPage
 {
 public:
     CCurrentSourcePiecewiseLinearPage()
-        : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrentRemembered)
+        : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrent)
     {
     }
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -138,25 +145,13 @@ class CVoltageSourcePiecewiseLinearPage : public CCommandPage
 {
 public:
     CVoltageSourcePiecewiseLinearPage()
-        : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltageRemembered)
+        : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltage)
     {
     }
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

@@ -1,7 +1,16 @@
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
+#include "wizard/frame/PageText.h"
+#include "wizard/frame/Remembered.h"
+#include "wizard/sources/ACValues.h"
 #include "wizard/sources/SourceForm.h"
+#include "wizard/sources/SourceHead.h"
+#include "wizard/sources/SourceTwin.h"
 #include "wizard/sources/WaveformSource.h"
+
+// The pages of a current and a voltage source with a pulse waveform.
 
 namespace
 {
@@ -19,16 +28,12 @@ enum EControlId {
 };
 
 struct TTwin {
-    TSourceTwin source;
-    const char* pMissingName;
-    const char* pMissingPeak;
+    const TSourceTwin& source;
     bool bTrimsDC; ///< on the left
 };
 
-constexpr TTwin kCurrent{kCurrentSource, kMissingCurrentSourceName,
-                         "__$$Translatable$$_Missing peak current.", true};
-constexpr TTwin kVoltage{kVoltageSource, kMissingVoltageSourceName,
-                         "__$$Translatable$$_Missing peak voltage.", false};
+constexpr TTwin kCurrent{.source = kCurrentSource, .bTrimsDC = true};
+constexpr TTwin kVoltage{.source = kVoltageSource, .bTrimsDC = false};
 
 constexpr auto ThreeTimes(const TBlock<3>& rFirst, const TBlock<3>& rSecond,
                           const TBlock<3>& rThird)
@@ -46,7 +51,9 @@ constexpr auto Rows(const TTwin& rTwin)
         kWholeGroup, "pulse-source-group", "Pulse source",
         Tight(
             NameBesideDC(kDCInFrame, rTwin.source),
-            LevelsBesideAC(rTwin.source, kInitial, "Ini&tial (0):", kPeak, kLevelsGroup),
+            LevelsBesideAC(rTwin.source,
+                           {.nGroup = kLevelsGroup, .nInitial = kInitial, .nPeak = kPeak},
+                           "Ini&tial (0):"),
             GroupBox(kPulseGroup, "pulse-waveform-group", "Pulse waveform",
                      Tight(ThreeTimes(WideEdit(kRiseTime, "rise-time", "&Rise time:", "sec", kOne),
                                       WideEdit(kFallTime, "fall-time", "&Fall time:", "sec", kTwo),
@@ -62,7 +69,8 @@ constexpr auto kVoltageRows = Rows(kVoltage);
 constexpr DialogTemplate kCurrentTemplate{"Pulse", kPageSize, kCurrentRows};
 constexpr DialogTemplate kVoltageTemplate{"Pulse", kPageSize, kVoltageRows};
 
-struct TFields : TSourceHead {
+struct TFields {
+    TSourceHead mHead;
     CString msInitial;
     CString msPeak;
     CString msRiseTime;
@@ -75,8 +83,8 @@ struct TFields : TSourceHead {
     CString msDC;
 };
 
-Remembered<TFields> sCurrentRemembered;
-Remembered<TFields> sVoltageRemembered;
+Remembered<TFields> sCurrent;
+Remembered<TFields> sVoltage;
 
 class PulseForm : public SourceForm<TFields, TTwin>
 {
@@ -85,7 +93,7 @@ public:
 
     void Exchange(CDataExchange* pDX)
     {
-        DDX_SourceHead(pDX, mFields);
+        DDX_SourceHead(pDX, mFields.mHead);
         DDX_Text(pDX, kInitial, mFields.msInitial);
         DDX_Text(pDX, kPeak, mFields.msPeak);
         DDX_Text(pDX, kRiseTime, mFields.msRiseTime);
@@ -101,21 +109,21 @@ public:
     bool Build(CString& rsCommand)
     {
         Read();
-        gTrim(mFields.msName, mFields.msPositiveTerminal, mFields.msPeak);
+        TSourceHead& rHead = mFields.mHead;
+        gTrim(rHead.msName, rHead.msPositiveTerminal, mFields.msPeak);
         if (mrTwin.bTrimsDC)
             gTrimLeft(mFields.msDC);
-        gFillIfEmpty(mFields.msNegativeTerminal, "GND");
+        gFillIfEmpty(rHead.msNegativeTerminal, kGround);
         gFillIfEmpty(mFields.msInitial, "0");
-        if (!AreFilled({{mFields.msName, mrTwin.pMissingName},
-                        {mFields.msPositiveTerminal, kMissingPositiveTerminal},
-                        {mFields.msPeak, mrTwin.pMissingPeak}}))
+        if (!AreFilled({{rHead.msName, mrTwin.source.pMissingName},
+                        {rHead.msPositiveTerminal, kMissingPositiveTerminal},
+                        {mFields.msPeak, mrTwin.source.pMissingPeak}}))
             return false;
-        rsCommand = gSourceHeadText(mFields);
-        gAppendIfAny(rsCommand, " dc ", mFields.msDC);
-        rsCommand += " PULSE (" + mFields.msInitial + " " + mFields.msPeak;
-        gPrefixSourceLetter(rsCommand, mFields.msName, mrTwin.source.chLetter);
+        rsCommand = gHeadWithDC(rHead, mFields.msDC) + " PULSE (" + mFields.msInitial + " " +
+                    mFields.msPeak;
+        gPrefixSourceLetter(rsCommand, rHead.msName, mrTwin.source.chLetter);
         if (!AppendTimes(rsCommand))
-            return false; // meant: the line so far stays
+            return false; // Meant: the line so far stays
         rsCommand += ")";
         gAppendIfAny(rsCommand, " ROUND=", mFields.msRounding);
         gAppendACWithBlankBefore(rsCommand, mFields.mAC);
@@ -147,9 +155,9 @@ private:
         } else if (!mFields.msFallTime.IsEmpty()) {
             if (!AreFilled({rise}))
                 return false;
-            rsCommand += sDelaySlot + sRiseAndFall + " "; // meant: the slot of the empty width
+            rsCommand += sDelaySlot + sRiseAndFall + " "; // Meant: the slot of the empty width
         }
-        return true; // meant: a rise time alone is left out
+        return true; // Meant: a rise time alone is left out
     }
 };
 } // namespace
@@ -158,26 +166,11 @@ private:
 class CCurrentSourcePulsePage : public CCommandPage
 {
 public:
-    CCurrentSourcePulsePage()
-        : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrentRemembered)
-    {
-    }
+    CCurrentSourcePulsePage() : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrent) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -188,26 +181,11 @@ private:
 class CVoltageSourcePulsePage : public CCommandPage
 {
 public:
-    CVoltageSourcePulsePage()
-        : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltageRemembered)
-    {
-    }
+    CVoltageSourcePulsePage() : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltage) {}
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

@@ -1,8 +1,17 @@
 #include "platform/base/Ascii.h"
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/RuntimeClassDefinition.h"
+#include "wizard/frame/CommandPage.h"
+#include "wizard/frame/PageLayout.h"
+#include "wizard/frame/PageText.h"
+#include "wizard/frame/Remembered.h"
+#include "wizard/sources/ACValues.h"
 #include "wizard/sources/SourceForm.h"
+#include "wizard/sources/SourceHead.h"
+#include "wizard/sources/SourceTwin.h"
 #include "wizard/sources/WaveformSource.h"
+
+// The pages of a current and a voltage source with a sinusoidal waveform.
 
 namespace
 {
@@ -17,33 +26,37 @@ enum EControlId {
 };
 
 struct TTwin {
-    TSourceTwin source;
+    const TSourceTwin& source;
     const char* pOffsetLabel;
-    bool bTrimsHeadOnTheRight;
-    bool bTrimsDC; ///< on the left
+    bool bTrimsHeadOnTheRight; ///< name and positive terminal, on the left always
+    bool bTrimsDC;             ///< on the left
     const char* pMissingName;
     const char* pMissingPositiveTerminal;
     const char* pMissingPeakAmplitude;
     const char* pMissingFrequency;
 };
 
-constexpr TTwin kCurrent{kCurrentSource,
-                         "C&urrent offset (0):",
-                         false,
-                         true,
-                         kMissingCurrentSourceName,
-                         kMissingPositiveTerminal,
-                         "__$$Translatable$$_Missing peak amplitude.",
-                         "__$$Translatable$$_Missing frequency value."};
-// Meant: these messages are shown in English in every language.
-constexpr TTwin kVoltage{kVoltageSource,
-                         "V&oltage offset (0):",
-                         true,
-                         false,
-                         "Missing voltage source name.",
-                         "Missing positive terminal name.",
-                         "Missing peak amplitude.",
-                         "Missing frequency value."};
+constexpr TTwin kCurrent{
+    .source = kCurrentSource,
+    .pOffsetLabel = "C&urrent offset (0):",
+    .bTrimsHeadOnTheRight = false,
+    .bTrimsDC = true,
+    .pMissingName = kCurrentSource.pMissingName,
+    .pMissingPositiveTerminal = kMissingPositiveTerminal,
+    .pMissingPeakAmplitude = kMissingPeakAmplitude,
+    .pMissingFrequency = "__$$Translatable$$_Missing frequency value.",
+};
+constexpr TTwin kVoltage{
+    .source = kVoltageSource,
+    .pOffsetLabel = "V&oltage offset (0):",
+    .bTrimsHeadOnTheRight = true,
+    .bTrimsDC = false,
+    // Meant: these messages are shown in English in every language.
+    .pMissingName = "Missing voltage source name.",
+    .pMissingPositiveTerminal = "Missing positive terminal name.",
+    .pMissingPeakAmplitude = "Missing peak amplitude.",
+    .pMissingFrequency = "Missing frequency value.",
+};
 
 constexpr auto Rows(const TTwin& rTwin)
 {
@@ -70,7 +83,8 @@ constexpr auto kVoltageRows = Rows(kVoltage);
 constexpr DialogTemplate kCurrentTemplate{"Sinusoidal", kPageSize, kCurrentRows};
 constexpr DialogTemplate kVoltageTemplate{"Sinusoidal", kPageSize, kVoltageRows};
 
-struct TFields : TSourceHead {
+struct TFields {
+    TSourceHead mHead;
     CString msOffset;
     CString msPeakAmplitude;
     CString msFrequency;
@@ -81,8 +95,8 @@ struct TFields : TSourceHead {
     CString msDC;
 };
 
-Remembered<TFields> sCurrentRemembered;
-Remembered<TFields> sVoltageRemembered;
+Remembered<TFields> sCurrent;
+Remembered<TFields> sVoltage;
 
 class SinusoidalForm : public SourceForm<TFields, TTwin>
 {
@@ -91,7 +105,7 @@ public:
 
     void Exchange(CDataExchange* pDX)
     {
-        DDX_SourceHead(pDX, mFields);
+        DDX_SourceHead(pDX, mFields.mHead);
         DDX_Text(pDX, kOffset, mFields.msOffset);
         DDX_Text(pDX, kPeakAmplitude, mFields.msPeakAmplitude);
         DDX_Text(pDX, kFrequency, mFields.msFrequency);
@@ -105,22 +119,21 @@ public:
     bool Build(CString& rsCommand)
     {
         Read();
-        gTrimLeft(mFields.msName, mFields.msPositiveTerminal);
+        TSourceHead& rHead = mFields.mHead;
+        gTrimLeft(rHead.msName, rHead.msPositiveTerminal);
         if (mrTwin.bTrimsHeadOnTheRight)
-            gTrim(mFields.msName, mFields.msPositiveTerminal);
+            gTrim(rHead.msName, rHead.msPositiveTerminal);
         if (mrTwin.bTrimsDC)
             gTrimLeft(mFields.msDC);
-        gFillIfEmpty(mFields.msNegativeTerminal, "GND");
-        if (!AreFilled({{mFields.msName, mrTwin.pMissingName},
-                        {mFields.msPositiveTerminal, mrTwin.pMissingPositiveTerminal}}))
+        gFillIfEmpty(rHead.msNegativeTerminal, kGround);
+        if (!AreFilled({{rHead.msName, mrTwin.pMissingName},
+                        {rHead.msPositiveTerminal, mrTwin.pMissingPositiveTerminal}}))
             return false;
-        rsCommand = gSourceHeadText(mFields);
-        gAppendIfAny(rsCommand, " dc ", mFields.msDC);
-        rsCommand += " SIN (";
-        PrefixLetter(rsCommand);
+        rsCommand = gHeadWithDC(rHead, mFields.msDC) + " SIN (";
+        PrefixLetter(rsCommand, rHead.msName);
         rsCommand += mFields.msOffset;
         if (!(IsSimple() ? AppendSimple(rsCommand) : AppendExtended(rsCommand)))
-            return false; // meant: the line so far stays
+            return false; // Meant: the line so far stays
         rsCommand += ")";
         gAppendACWithBlankBefore(rsCommand, mFields.mAC);
         Remember();
@@ -129,10 +142,10 @@ public:
 
 private:
     /// Meant: a name that begins with the capital letter gets a second one, unless it is no longer.
-    void PrefixLetter(CString& rsCommand)
+    void PrefixLetter(CString& rsCommand, const CString& rsName) const
     {
         const char chCapital = mrTwin.source.chLetter;
-        if (mFields.msName[0] != gToLowerAscii(chCapital) && mFields.msName != CString(chCapital))
+        if (rsName[0] != gToLowerAscii(chCapital) && rsName != CString(chCapital))
             rsCommand.Insert(0, chCapital);
     }
 
@@ -185,25 +198,13 @@ class CCurrentSourceSinusoidalPage : public CCommandPage
 {
 public:
     CCurrentSourceSinusoidalPage()
-        : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrentRemembered)
+        : CCommandPage(kCurrentTemplate), mForm(*this, kCurrent, sCurrent)
     {
     }
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -215,25 +216,13 @@ class CVoltageSourceSinusoidalPage : public CCommandPage
 {
 public:
     CVoltageSourceSinusoidalPage()
-        : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltageRemembered)
+        : CCommandPage(kVoltageTemplate), mForm(*this, kVoltage, sVoltage)
     {
     }
 
     TMessageMap GetMessageMap() const override { return {}; }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

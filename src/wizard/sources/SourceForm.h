@@ -9,7 +9,8 @@
 
 /// What a page of a source hands its work on to, so that its twin can do the same: the fields, the
 /// remembered values of the page's class, and the message that it has shown last. The form of a
-/// kind derives from it and adds the data exchange and the composing of the line.
+/// kind derives from it and adds `Exchange`, the data exchange of its fields, and `Build`, which
+/// does what `BuildCommand` of a page does. The page itself is a shell of one line each.
 /// `TTwin`: what differs between the twins of the kind.
 template <class TFields, class TTwin> class SourceForm
 {
@@ -20,11 +21,13 @@ public:
     {
     }
 
-    /// Shows what the last success has left.
-    void Restore()
+    /// As `OnInitDialog` of a page: shows what the last success has left. Result: true.
+    bool InitDialog()
     {
+        mrPage.CDialog::OnInitDialog();
         mFields = mrRemembered.Get();
         mrPage.UpdateData(false);
+        return true;
     }
 
 protected:

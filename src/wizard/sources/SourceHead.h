@@ -18,24 +18,23 @@ struct TSourceHead {
     CString msNegativeTerminal;
 };
 
-/// The labels of these fields.
-struct TSourceHeadLabels {
-    const char* pName;
-    const char* pPositiveTerminal = "&Positive terminal:";
-    const char* pNegativeTerminal = "&Negative terminal (GND):";
-};
-
-/// The fields one below the other; no label needs more than 83 units.
-constexpr auto SourceHeadLines(const TColumns& rColumns, const TSourceHeadLabels& rLabels)
+/// The fields one below the other; no label needs more than 83 units. `pNameLabel`: the name's.
+constexpr auto SourceHeadLines(const TColumns& rColumns, const char* pNameLabel)
 {
     return Lines(
-        EditLine(rColumns, kSourceName, "name", rLabels.pName),
-        EditLine(rColumns, kPositiveTerminal, "positive-terminal", rLabels.pPositiveTerminal),
-        EditLine(rColumns, kNegativeTerminal, "negative-terminal", rLabels.pNegativeTerminal));
+        EditLine(rColumns, kSourceName, "name", pNameLabel),
+        EditLine(rColumns, kPositiveTerminal, "positive-terminal", "&Positive terminal:"),
+        EditLine(rColumns, kNegativeTerminal, "negative-terminal", "&Negative terminal (GND):"));
 }
 
 /// Moves the texts of these fields.
 void DDX_SourceHead(CDataExchange* pDX, TSourceHead& rHead);
+
+inline constexpr const char* kMissingPositiveTerminal =
+    "__$$Translatable$$_Missing positive terminal name.";
+
+/// The node that an empty negative terminal or reference stands for.
+inline constexpr const char* kGround = "GND";
 
 /// Gives an empty field the text that stands for it. Blanks are a text.
 void gFillIfEmpty(CString& rsField, const char* pText);
@@ -46,11 +45,3 @@ CString gSourceHeadText(const TSourceHead& rHead);
 /// Puts the source's letter in front of the line, unless its name begins with it, small or capital.
 /// `chCapital`: A to Z.
 void gPrefixSourceLetter(CString& rsLine, const CString& rsName, char chCapital);
-
-// The messages of missing fields that most pages of sources share.
-inline constexpr const char* kMissingCurrentSourceName =
-    "__$$Translatable$$_Missing current source name.";
-inline constexpr const char* kMissingVoltageSourceName =
-    "__$$Translatable$$_Missing voltage source name.";
-inline constexpr const char* kMissingPositiveTerminal =
-    "__$$Translatable$$_Missing positive terminal name.";

@@ -3,8 +3,20 @@
 #include "platform/ui/DataExchange.h"
 #include "platform/ui/Fields.h"
 #include "wizard/frame/PageText.h"
+#include "wizard/sources/ControlledSource.h"
 
 using namespace VoltageControlled;
+
+namespace
+{
+constexpr const char* kMissingFirstControl =
+    "__$$Translatable$$_Missing controlling positive terminal name.";
+
+CString Pair(const CString& rsPositive, const CString& rsNegative)
+{
+    return rsPositive + " " + rsNegative;
+}
+} // namespace
 
 void VoltageControlledForm::Exchange(CDataExchange* pDX)
 {
@@ -19,25 +31,35 @@ void VoltageControlledForm::Exchange(CDataExchange* pDX)
     DDX_Text(pDX, kThirdNegative, mFields.msThirdNegative);
 }
 
-void VoltageControlledForm::Restore()
+bool VoltageControlledForm::InitDialog()
 {
-    SourceForm::Restore();
+    SourceForm::InitDialog();
     mrPage.CheckRadioButton(kLinear, kExpression, mFields.mnMode);
     ShowMode(mFields.mnMode);
+    return true;
+}
+
+const TMode& VoltageControlledForm::ModeOf(int nMode) const
+{
+    switch (nMode) {
+    case kPolynomial:
+        return mrTwin.polynomial;
+    case kExpression:
+        return mrTwin.expression;
+    default:
+        return mrTwin.linear;
+    }
 }
 
 void VoltageControlledForm::ShowMode(int nMode)
 {
-    const bool bPolynomial = nMode == kPolynomial;
-    const TMode& rMode = bPolynomial            ? mrTwin.polynomial
-                         : nMode == kExpression ? mrTwin.expression
-                                                : mrTwin.linear;
+    const TMode& rMode = ModeOf(nMode);
     SetLabel(kFirstControl, {rMode.pFirstControl});
     if (rMode.pSecondControl)
         SetLabel(kSecondControl, {rMode.pSecondControl});
     SetLabel(kGain, {rMode.pGain});
     for (int n = 0; n < 4; ++n)
-        SetLabel(kSecondPositive + n, bPolynomial ? mrTwin.furtherPairs[n] : TLabel{""});
+        SetLabel(kSecondPositive + n, rMode.furtherPairs[n]);
     gShowLayers(mrPage, rMode.nLayer);
 }
 
@@ -50,11 +72,12 @@ bool VoltageControlledForm::Build(CString& rsCommand)
 {
     mFields.mnMode = mrPage.GetCheckedRadioButton(kLinear, kExpression);
     Read();
-    gTrim(mFields.mHead.msName, mFields.mHead.msPositiveTerminal, mFields.msFirstControl,
-          mFields.msGain, mFields.msCoefficients);
-    gFillIfEmpty(mFields.mHead.msNegativeTerminal, "GND");
+    TSourceHead& rHead = mFields.mHead;
+    gTrim(rHead.msName, rHead.msPositiveTerminal, mFields.msFirstControl, mFields.msGain,
+          mFields.msCoefficients);
+    gFillIfEmpty(rHead.msNegativeTerminal, kGround);
     // Meant: in the expression mode, too, where it is the charge expression.
-    gFillIfEmpty(mFields.msSecondControl, "GND");
+    gFillIfEmpty(mFields.msSecondControl, kGround);
     if (!BuildMode(rsCommand))
         return false;
     Remember();
@@ -87,40 +110,26 @@ CString VoltageControlledForm::Head() const
     return sHead;
 }
 
-namespace
-{
-constexpr const char* kMissingFirstControl =
-    "__$$Translatable$$_Missing controlling positive terminal name.";
-
-CString Pair(const CString& rsPositive, const CString& rsNegative)
-{
-    return " " + rsPositive + " " + rsNegative;
-}
-} // namespace
-
 bool VoltageControlledForm::BuildLinear(CString& rsCommand)
 {
     if (!IsHeadFilled(mrTwin.linear) || !AreFilled({{mFields.msFirstControl, kMissingFirstControl},
                                                     {mFields.msGain, mrTwin.pMissingGain}}))
         return false;
     rsCommand =
-        Head() + Pair(mFields.msFirstControl, mFields.msSecondControl) + " " + mFields.msGain;
+        Head() + " " + Pair(mFields.msFirstControl, mFields.msSecondControl) + " " + mFields.msGain;
     return true;
 }
 
 bool VoltageControlledForm::BuildPolynomial(CString& rsCommand)
 {
     if (!IsHeadFilled(mrTwin.polynomial) ||
-        !AreFilled(
-            {{mFields.msFirstControl, kMissingFirstControl},
-             {mFields.msCoefficients, "__$$Translatable$$_Missing polynomial coefficients."}}))
+        !AreFilled({{mFields.msFirstControl, kMissingFirstControl},
+                    {mFields.msCoefficients, kMissingPolynomialCoefficients}}))
         return false;
-    // Meant: the line so far stays when a further pair is refused.
     rsCommand = Head() + " POLY(";
     if (!ArePairsWhole())
-        return false;
+        return false; // Meant: the line so far stays
     AppendPairs(rsCommand);
-    rsCommand += " " + gJoinLines(mFields.msCoefficients);
     return true;
 }
 
@@ -139,30 +148,38 @@ void VoltageControlledForm::AppendPairs(CString& rsCommand)
 {
     // Meant: also those of pairs that aren't used. They are remembered, and a next run that leaves
     // the page as it is will miss their positive terminals.
-    gFillIfEmpty(mFields.msSecondNegative, "GND");
-    gFillIfEmpty(mFields.msThirdNegative, "GND");
-    const bool bSecond = !mFields.msSecondPositive.IsEmpty();
-    const bool bThird = !mFields.msThirdPositive.IsEmpty();
-    rsCommand += bThird ? "3)" : bSecond ? "2)" : "1)";
-    rsCommand += Pair(mFields.msFirstControl, mFields.msSecondControl);
-    if (bSecond)
-        rsCommand += Pair(mFields.msSecondPositive, mFields.msSecondNegative);
-    if (bThird)
-        rsCommand += Pair(mFields.msThirdPositive, mFields.msThirdNegative);
+    gFillIfEmpty(mFields.msSecondNegative, kGround);
+    gFillIfEmpty(mFields.msThirdNegative, kGround);
+    CString sPairs = Pair(mFields.msFirstControl, mFields.msSecondControl);
+    int nPairs = 1;
+    const auto append = [&](const CString& rsPositive, const CString& rsNegative) {
+        if (rsPositive.IsEmpty())
+            return;
+        sPairs += " " + Pair(rsPositive, rsNegative);
+        ++nPairs;
+    };
+    append(mFields.msSecondPositive, mFields.msSecondNegative);
+    append(mFields.msThirdPositive, mFields.msThirdNegative);
+    gAppendPolynomial(rsCommand, nPairs, sPairs, mFields.msCoefficients);
+}
+
+const char* gMissingExpression(const TVoltageControlledFields& rFields, const TTwin& rTwin)
+{
+    // Meant: where two expressions count, the second is never empty by now.
+    const bool bSecond = rTwin.pSecondExpression && !rFields.msSecondControl.IsEmpty();
+    return rFields.msFirstControl.IsEmpty() && !bSecond ? rTwin.pMissingExpression : nullptr;
 }
 
 bool VoltageControlledForm::BuildExpression(CString& rsCommand)
 {
     if (!IsHeadFilled(mrTwin.expression))
         return false;
-    // Meant: where two expressions count, the second is never empty by now.
-    const bool bSecond = mrTwin.pSecondExpression && !mFields.msSecondControl.IsEmpty();
-    if (!bSecond && !AreFilled({{mFields.msFirstControl, mrTwin.pMissingExpression}}))
-        return false;
+    if (const char* const pMissing = gMissingExpression(mFields, mrTwin))
+        return Fail(pMissing);
     rsCommand = Head();
     if (!mFields.msFirstControl.IsEmpty())
         rsCommand += mrTwin.pFirstExpression + mFields.msFirstControl + "'";
-    if (bSecond)
-        rsCommand += mrTwin.pSecondExpression + mFields.msSecondControl + "'";
+    if (mrTwin.pSecondExpression)
+        rsCommand += mrTwin.pSecondExpression + mFields.msSecondControl + "'"; // never empty by now
     return true;
 }

@@ -19,6 +19,10 @@ struct TVoltageControlledFields {
     CString msThirdNegative;
 };
 
+/// The check of the expressions: the literal of the message that one is missing, or null.
+const char* gMissingExpression(const TVoltageControlledFields& rFields,
+                               const VoltageControlled::TTwin& rTwin);
+
 /// What the pages of both voltage-controlled sources do.
 class VoltageControlledForm : public SourceForm<TVoltageControlledFields, VoltageControlled::TTwin>
 {
@@ -26,19 +30,22 @@ public:
     using SourceForm::SourceForm;
 
     void Exchange(CDataExchange* pDX);
-    void Restore();
+    /// As `OnInitDialog` of a page.
+    bool InitDialog();
     /// Shows what the mode of this radio button asks for, and how that is called in it.
     void ShowMode(int nMode);
     /// As `BuildCommand` of a page.
     bool Build(CString& rsCommand);
 
 private:
+    const VoltageControlled::TMode& ModeOf(int nMode) const;
     bool BuildMode(CString& rsCommand);
     bool BuildLinear(CString& rsCommand);
     bool BuildPolynomial(CString& rsCommand);
     bool BuildExpression(CString& rsCommand);
     bool IsHeadFilled(const VoltageControlled::TMode& rMode);
     bool ArePairsWhole();
+    /// Fills the negative terminals of the further pairs in and appends all pairs.
     void AppendPairs(CString& rsCommand);
     CString Head() const;
     void SetLabel(int nField, const VoltageControlled::TLabel& rLabel);

@@ -66,10 +66,10 @@ constexpr auto Rows(const TTwin& rTwin)
             EditLine(kFields, kPositiveTerminal, "positive-terminal", "P&ositive terminal:"),
             EditLine(kFields, kNegativeTerminal, "negative-terminal", "N&egative terminal (GND):"),
             GroupBox(kModeGroup, "mode-group", "Sources", ModeLine()),
-            EditLine(kFields, kFirstControl, "first-control-field", Unmarked(kPositive)),
-            OnLayers(
-                rTwin.nSecondControlLayers,
-                EditLine(kFields, kSecondControl, "second-control-field", Unmarked(kNegative))),
+            EditLine(kFields, kFirstControl, "first-control-field", Unmarked(kControllingPositive)),
+            OnLayers(rTwin.nSecondControlLayers,
+                     EditLine(kFields, kSecondControl, "second-control-field",
+                              Unmarked(kControllingNegative))),
             GainLine(kFields, rTwin), FurtherPairs(kFields))));
 }
 
@@ -102,20 +102,8 @@ public:
         };
         return kHandlers;
     }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:
@@ -144,20 +132,8 @@ public:
         };
         return kHandlers;
     }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
 
 private:

@@ -29,29 +29,29 @@ inline constexpr unsigned kExpressionLayer = 4;
 
 /// A label: a translatable literal, or an empty one, and what is put behind it untranslated.
 struct TLabel {
-    const char* pLiteral;
+    const char* pLiteral = "";
     const char* pTail = "";
 };
 
 /// What a mode asks for.
 struct TMode {
     unsigned nLayer;
+    const char* pMissingName;
     const char* pFirstControl;
     const char* pSecondControl; ///< null: the label stays that of the template
-    const char* pGain;          ///< of the gain or the coefficients
-    const char* pMissingName;
+    const char* pGain = "";     ///< of the gain or the coefficients
+    TLabel furtherPairs[4] = {};
 };
 
 /// What differs between the pages.
 struct TTwin {
-    char chLetter;
+    char chLetter; ///< of the source's line
     const char* pGroup;
     const char* pNameLabel;
     const char* pMissingPositive;
     const char* pMissingGain;
     TMode linear;
     TMode polynomial;
-    TLabel furtherPairs[4]; ///< shown in the polynomial mode
     TMode expression;
     unsigned nSecondControlLayers; ///< 0: all
     const char* pFirstExpression;
@@ -61,10 +61,16 @@ struct TTwin {
     bool bFailedExpressionSucceeds;
 };
 
-inline constexpr const char* kPositive = "__$$Translatable$$_&Controlling positive terminal:";
-inline constexpr const char* kNegative = "__$$Translatable$$_Con&trolling negative terminal (GND):";
+inline constexpr const char* kControllingPositive =
+    "__$$Translatable$$_&Controlling positive terminal:";
+inline constexpr const char* kControllingNegative =
+    "__$$Translatable$$_Con&trolling negative terminal (GND):";
 inline constexpr const char* kPolynomialCoefficients =
     "__$$Translatable$$_Pol&ynomial coefficients:";
+inline constexpr const char* kMissingVCCSName =
+    "__$$Translatable$$_Missing voltage-controlled current source name.";
+inline constexpr const char* kMissingVCVSName =
+    "__$$Translatable$$_Missing voltage-controlled voltage source name.";
 
 inline constexpr TTwin kCurrent{
     .chLetter = 'G',
@@ -72,19 +78,26 @@ inline constexpr TTwin kCurrent{
     .pNameLabel = "&VCCS name:",
     .pMissingPositive = "__$$Translatable$$_Missing controlled positive terminal name.",
     .pMissingGain = "__$$Translatable$$_Missing transconductance.",
-    .linear = {kLinearLayer, kPositive, kNegative,
-               "__$$Translatable$$_T&ransconductance (in 1/Ohm):",
-               "__$$Translatable$$_Missing voltage-controlled current source name."},
-    .polynomial = {kPolynomialLayer, kPositive, kNegative, kPolynomialCoefficients,
-                   // Meant: without a full stop.
-                   "__$$Translatable$$_Missing voltage-controlled current source name"},
-    .furtherPairs = {{"__$$Translatable$$_Controllin&g positive terminal #2:"},
-                     {"__$$Translatable$$_Controlling negative ter&minal #2 (GND):"},
-                     {"__$$Translatable$$_Controlling po&sitive terminal #3:"},
-                     {"__$$Translatable$$_Controlling negative termin&al #3 (GND):"}},
-    .expression = {kExpressionLayer, "__$$Translatable$$_C&urrent expression:",
-                   "__$$Translatable$$_C&harge expression:", "",
-                   "__$$Translatable$$_Missing voltage-controlled current source name."},
+    .linear = {.nLayer = kLinearLayer,
+               .pMissingName = kMissingVCCSName,
+               .pFirstControl = kControllingPositive,
+               .pSecondControl = kControllingNegative,
+               .pGain = "__$$Translatable$$_T&ransconductance (in 1/Ohm):"},
+    .polynomial =
+        {.nLayer = kPolynomialLayer,
+         // Meant: without a full stop.
+         .pMissingName = "__$$Translatable$$_Missing voltage-controlled current source name",
+         .pFirstControl = kControllingPositive,
+         .pSecondControl = kControllingNegative,
+         .pGain = kPolynomialCoefficients,
+         .furtherPairs = {{"__$$Translatable$$_Controllin&g positive terminal #2:"},
+                          {"__$$Translatable$$_Controlling negative ter&minal #2 (GND):"},
+                          {"__$$Translatable$$_Controlling po&sitive terminal #3:"},
+                          {"__$$Translatable$$_Controlling negative termin&al #3 (GND):"}}},
+    .expression = {.nLayer = kExpressionLayer,
+                   .pMissingName = kMissingVCCSName,
+                   .pFirstControl = "__$$Translatable$$_C&urrent expression:",
+                   .pSecondControl = "__$$Translatable$$_C&harge expression:"},
     .nSecondControlLayers = 0,
     .pFirstExpression = " cur='",
     .pSecondExpression = " chg='",
@@ -98,17 +111,26 @@ inline constexpr TTwin kVoltage{
     .pNameLabel = "&VCVS name:",
     .pMissingPositive = kMissingPositiveTerminal,
     .pMissingGain = "__$$Translatable$$_Missing voltage gain.",
-    .linear = {kLinearLayer, kPositive, nullptr, "__$$Translatable$$_Volt&age gain:",
-               "__$$Translatable$$_Missing voltage-controlled voltage source name."},
-    .polynomial = {kPolynomialLayer, kPositive, nullptr, kPolynomialCoefficients,
-                   "__$$Translatable$$_Missing voltage-controlled voltage source name."},
-    // Meant: the numbers aren't translated here.
-    .furtherPairs = {{"__$$Translatable$$_Controllin&g positive terminal", " #2:"},
-                     {"__$$Translatable$$_Controlling negative ter&minal", " #2 (GND):"},
-                     {"__$$Translatable$$_Controlling po&sitive terminal", " #3:"},
-                     {"__$$Translatable$$_Controlling negative termin&al", " #3 (GND):"}},
-    .expression = {kExpressionLayer, "__$$Translatable$$_Volt&age expression:", nullptr, "",
-                   "__$$Translatable$$_Missing voltage-controlled voltage source name."},
+    .linear = {.nLayer = kLinearLayer,
+               .pMissingName = kMissingVCVSName,
+               .pFirstControl = kControllingPositive,
+               .pSecondControl = nullptr,
+               .pGain = "__$$Translatable$$_Volt&age gain:"},
+    .polynomial =
+        {.nLayer = kPolynomialLayer,
+         .pMissingName = kMissingVCVSName,
+         .pFirstControl = kControllingPositive,
+         .pSecondControl = nullptr,
+         .pGain = kPolynomialCoefficients,
+         // Meant: the numbers aren't translated here.
+         .furtherPairs = {{"__$$Translatable$$_Controllin&g positive terminal", " #2:"},
+                          {"__$$Translatable$$_Controlling negative ter&minal", " #2 (GND):"},
+                          {"__$$Translatable$$_Controlling po&sitive terminal", " #3:"},
+                          {"__$$Translatable$$_Controlling negative termin&al", " #3 (GND):"}}},
+    .expression = {.nLayer = kExpressionLayer,
+                   .pMissingName = kMissingVCVSName,
+                   .pFirstControl = "__$$Translatable$$_Volt&age expression:",
+                   .pSecondControl = nullptr},
     .nSecondControlLayers = kLinearLayer | kPolynomialLayer,
     .pFirstExpression = " vol='",
     .pSecondExpression = nullptr,

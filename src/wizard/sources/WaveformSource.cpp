@@ -1,37 +1,10 @@
 #include "wizard/sources/WaveformSource.h"
 
-#include "platform/ui/DataExchange.h"
 #include "wizard/frame/PageText.h"
 
-namespace
+CString gHeadWithDC(const TSourceHead& rHead, const CString& rsDC)
 {
-bool IsEmpty(const TACValues& rAC)
-{
-    return rAC.msMagnitude.IsEmpty() && rAC.msPhase.IsEmpty();
-}
-} // namespace
-
-void DDX_ACValues(CDataExchange* pDX, TACValues& rAC)
-{
-    DDX_Text(pDX, kACMagnitude, rAC.msMagnitude);
-    DDX_Text(pDX, kACPhase, rAC.msPhase);
-}
-
-void gAppendACWithBlankBehind(CString& rsLine, const TACValues& rAC)
-{
-    if (IsEmpty(rAC))
-        return;
-    rsLine += " AC ";
-    if (!rAC.msMagnitude.IsEmpty())
-        rsLine += rAC.msMagnitude + " "; // meant: even when no phase follows
-    rsLine += rAC.msPhase;
-}
-
-void gAppendACWithBlankBefore(CString& rsLine, const TACValues& rAC)
-{
-    if (IsEmpty(rAC))
-        return;
-    rsLine += " AC";
-    gAppendIfAny(rsLine, " ", rAC.msMagnitude);
-    gAppendIfAny(rsLine, " ", rAC.msPhase); // meant: in the magnitude's place when there is none
+    CString sHead = gSourceHeadText(rHead);
+    gAppendIfAny(sHead, " dc ", rsDC);
+    return sHead;
 }

@@ -1,5 +1,13 @@
 #include "support/examples/ExampleLines.h"
 
+#include <utility>
+
+TExampleLine gNamed(std::string sName, TExampleLine example)
+{
+    example.sName = std::move(sName);
+    return example;
+}
+
 TExampleLines gAllExamples()
 {
     TExampleLines all;

@@ -14,6 +14,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <stdexcept>
 
 namespace
 {
@@ -77,6 +78,20 @@ class CReadOnlyDesktop : public HeadlessDesktop
 {
 public:
     bool WriteProfile(const CString&, const CString&, const CString&) override { return false; }
+};
+
+/// A desktop whose file dialogs fail, after those that have an answer.
+class CFailingDesktop : public HeadlessDesktop
+{
+public:
+    TFileChoice ChooseFile(const TFileDialog& rDialog) override
+    {
+        if (mnAnswers-- > 0)
+            return HeadlessDesktop::ChooseFile(rDialog);
+        throw std::runtime_error("no file dialog");
+    }
+
+    int mnAnswers = 0;
 };
 
 char* ToUnixName(const char16_t* pDosName)
@@ -304,6 +319,26 @@ TEST_F(BrowseButton, AProfileThatCannotBeWrittenIsNotNoticed)
         .Look({look::Text("file", "/x/a.lib")})
         .Run(desktop, [this] { mDialog.DoModal(); });
     EXPECT_TRUE(desktop.TakeBoxes().empty());
+}
+
+TEST_F(BrowseButton, AFailingFileDialogEndsTheClickLikeACancel)
+{
+    for (const int nInvalidNames : {0, 1}) {
+        CFailingDesktop desktop;
+        desktop.WriteProfile("", "MRPATH", "/last");
+        desktop.mnAnswers = nInvalidNames;
+        desktop.AnswerFile(kInvalid);
+        CBrowseDlg dialog(kFilter);
+        CScript()
+            .Do({Set("file", "typed"), steps::Click("browse")})
+            .Look({look::Text("file", "typed")})
+            .Do({Set("file", "more")})
+            .Look({look::Text("file", "more")})
+            .Run(desktop, [&dialog] { EXPECT_NO_THROW(dialog.DoModal()); });
+        EXPECT_EQ(desktop.ReadProfile("", "MRPATH"), CString("/last"));
+        EXPECT_EQ(mpFiles->msCurrentFolder, u"/last");
+        EXPECT_TRUE(desktop.TakeBoxes().empty());
+    }
 }
 
 TEST_F(BrowseButton, WithoutATargetAClickDoesNothing)

@@ -166,6 +166,41 @@ TEST(ListEditing, QuestionsAreTheApplicationsBoxesAndTheRefusalIsThePages)
     EXPECT_EQ(boxes[1].box.nFlags, MB_YESNO);
 }
 
+TEST(ListEditing, APageWithoutAMessageStringAddsAndRefusesAlike)
+{
+    HeadlessDesktop desktop;
+    CListDlg dialog;
+    CScript()
+        .Then([&dialog](CDialog&) {
+            EXPECT_TRUE(dialog.mEditing.Add("a"));
+            EXPECT_FALSE(dialog.mEditing.Add("A"));
+            EXPECT_EQ(dialog.mList.GetCount(), 1);
+        })
+        .Run(desktop, [&dialog] { dialog.DoModal(); });
+    const auto boxes = desktop.TakeBoxes();
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].box.pOwner, &dialog);
+    EXPECT_EQ(boxes[0].box.sText, "This entry is already in the list.");
+    EXPECT_EQ(boxes[0].box.sCaption, CString("SPICE"));
+}
+
+TEST(ListEditing, AnEntryMayBePutTogetherInTheMessageString)
+{
+    HeadlessDesktop desktop;
+    CListDlg dialog;
+    CScript()
+        .Then([&dialog](CDialog&) {
+            CString& rsMessage = dialog.msMessage;
+            rsMessage = "a";
+            EXPECT_TRUE(dialog.mEditing.Add(rsMessage, rsMessage));
+            EXPECT_EQ(rsMessage, "a");
+            EXPECT_FALSE(dialog.mEditing.Add(rsMessage, rsMessage));
+            EXPECT_EQ(rsMessage, "This entry is already in the list.");
+            EXPECT_EQ(dialog.mList.GetCount(), 1);
+        })
+        .Run(desktop, [&dialog] { dialog.DoModal(); });
+}
+
 TEST(ListEditing, AButtonThatThePageDoesNotHaveIsAnError)
 {
     static constexpr TListEditingParts kWrong{9998, 9999, "", "", ""};

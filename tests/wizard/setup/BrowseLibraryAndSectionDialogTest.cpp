@@ -1,5 +1,6 @@
 #include "wizard/setup/BrowseLibraryAndSectionDialog.h"
 
+#include "platform/base/CodePageScope.h"
 #include "platform/headless/HeadlessDesktop.h"
 #include "support/Look.h"
 #include "support/Steps.h"
@@ -77,5 +78,21 @@ TEST_F(BrowseLibraryAndSection, TextsAreConvertedToTheSystemsCodePage)
         .Look({look::Text("library-file", "/m\xC3\xB6/t.lib"),
                look::Text("section-name", "a\xC3\xA9")})
         .Run(mDesktop, [&dialog] { dialog.DoModal(); });
+}
+
+TEST_F(BrowseLibraryAndSection, UnderAnotherCodePageTextsAreConvertedToItAndBack)
+{
+    const CCodePageScope codePage(kCodePageWindows1252);
+    CBrowseLibraryAndSectionDialog dialog(CStringU(u"/m\u00F6/\u0416.lib"), CStringU(u"a\u00E9"));
+    mDesktop.AnswerFile({TFileChoice::EEnd::Chosen, "/\xFC/b.lib"});
+    CScript()
+        .Look({look::Text("library-file", "/m\xF6/?.lib"), look::Text("section-name", "a\xE9")})
+        .Do({Click("browse"), Set("section-name", "\xE4"), Click("ok")})
+        .Run(mDesktop, [&dialog] { EXPECT_EQ(dialog.DoModal(), IDOK); });
+    const auto shown = mDesktop.TakeFileDialogs();
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].sFolder, "/m\xF6");
+    EXPECT_EQ(dialog.GetLibraryPath(), CStringU(u"/\u00FC/b.lib"));
+    EXPECT_EQ(dialog.GetSection(), CStringU(u"\u00E4"));
 }
 } // namespace

@@ -25,6 +25,12 @@ constexpr const char* kLibraryFilter =
     "Library Files (*.lib)|*.lib|SPICE Files (*.sp;*.spc;*.cir)|*.sp; *.spc; *.cir|Model Files "
     "(*.md)|*.md|All Files (*.*)|*.*||";
 
+/// The path of a page as `CBracketTranslation` writes it.
+CString Bracketed(std::string sPath)
+{
+    return "[" + sPath.replace(sPath.find('/'), 1, "]/[") + "]";
+}
+
 TStep OpenPage(const char* pPage)
 {
     return Open(pPage);
@@ -55,12 +61,13 @@ CScript::TAction AnswerFile(const char* pPath)
     };
 }
 
-TEST_F(FilesPages, TheirTemplatesAreAFileAButtonUnderItAndPerhapsASection)
+TEST_F(FilesPages, TheirTemplatesAreAFileAButtonUnderItAndPerhapsASectionUntranslated)
 {
+    const CBracketTranslation translation;
     for (const TTemplateCase& rCase : kTemplateCases) {
         SCOPED_TRACE(rCase.pPage);
         CScript script;
-        script.Do({OpenPage(rCase.pPage)})
+        script.Do({Open(Bracketed(rCase.pPage))})
             .Look({look::Text("file-group", rCase.pGroup), look::Label("file", rCase.pGroup),
                    look::Text("file", ""), look::Text("browse", "&Browse...")});
         if (rCase.bSection)
@@ -189,6 +196,30 @@ const TCase kCases[] = {
      nullptr,
      {},
      {"[Missing library file name.]"}},
+    {"include: a name that is blanks and a tab",
+     kInclude,
+     " \t ",
+     nullptr,
+     {},
+     {"[Missing include file name.]"}},
+    {"library: separators stay",
+     kLibrary,
+     "C:\\a/b\\c.lib",
+     "TT",
+     {".lib \"C:\\a/b\\c.lib\" TT"},
+     {}},
+    {"library: no quoting of a quotation mark",
+     kLibrary,
+     "a\"b.lib",
+     nullptr,
+     {".lib \"a\"b.lib\""},
+     {}},
+    {"delete: no quoting of a quotation mark, separators stay",
+     kDelete,
+     "C:\\a\"/b.lib",
+     "TT",
+     {".del lib \"C:\\a\"/b.lib\" TT"},
+     {}},
     {"delete: blanks are missing", kDelete, "  ", "TT", {}, {"[Missing library file name.]"}},
     {"delete: a section is required",
      kDelete,
@@ -271,6 +302,20 @@ TEST_F(FilesPages, AFailedAttemptIsNotRemembered)
         gRunWizard(first.Do({Insert(), Set("file", " "), Insert()}));
         gRunWizard(CScript().Do({OpenPage(rCase.pPage)}).Look({look::Text("file", "a.lib")}));
     }
+}
+
+TEST_F(FilesPages, AMissingSectionLeavesTheRunsCommandAndWhatIsRemembered)
+{
+    const auto outcome =
+        gRunWizard(CScript()
+                       .Do({OpenPage(kDelete), Set("file", "a.lib"), Set("section", "TT"), Insert(),
+                            Set("file", " b.lib"), Set("section", "  "), Insert()})
+                       .Look({look::Command(".del lib \"a.lib\" TT"), look::Text("file", " b.lib"),
+                              look::Text("section", "  ")}));
+    EXPECT_EQ(outcome.messages, std::vector<std::string>{"Missing library section."});
+    gRunWizard(CScript()
+                   .Do({OpenPage(kDelete)})
+                   .Look({look::Text("file", "a.lib"), look::Text("section", "TT")}));
 }
 
 TEST_F(FilesPages, ThePagesOfLibrariesRememberEachTheirOwn)

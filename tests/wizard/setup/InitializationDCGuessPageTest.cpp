@@ -94,6 +94,34 @@ TEST_F(DCGuessPage, ItsTemplateIsAGridOfWhichOnlyTheFirstNodeIsEnabled)
 
 // --- the chain
 
+/// The cells up to and with a gate of a set are enabled: its node, or its value.
+std::string OpenUpTo(const std::string& rsColumn, int nSet)
+{
+    std::string sCells;
+    for (int n = 1; n < nSet; ++n)
+        sCells += "nrv";
+    return sCells + (rsColumn == "node" ? "n" : "nrv");
+}
+
+TEST_F(DCGuessPage, EachGateLocksAllBehindItAndOpensItAgain)
+{
+    const std::string sAll = OpenUpTo("value", kSets);
+    for (const char* const pColumn : {"node", "value"}) {
+        for (int nSet = 1; nSet <= kSets; ++nSet) {
+            const std::string sGate = Cell(pColumn, nSet);
+            SCOPED_TRACE(sGate);
+            std::vector<TStep> filled = Fill(kSixSets);
+            gRunWizard(CScript()
+                           .Do(filled)
+                           .Look({Open(sAll)})
+                           .Do({Set(sGate, "")})
+                           .Look({Open(OpenUpTo(pColumn, nSet))})
+                           .Do({Set(sGate, "z")})
+                           .Look({Open(sAll)}));
+        }
+    }
+}
+
 struct TChainCase {
     const char* pName;
     std::vector<TStep> steps;
@@ -262,6 +290,16 @@ TEST_F(DCGuessPage, AFailedAttemptLeavesNodesetInTheRunsCommand)
     gRunWizard(CScript().Do({OpenPage(), Insert()}).Look({look::Command(".nodeset")}));
     gRunWizard(
         CScript().Do({OpenPage(), Set("node-1", "a"), Insert()}).Look({look::Command(".nodeset")}));
+}
+
+TEST_F(DCGuessPage, AnAttemptLeavesTheCellsAsTheyWereTypedAndOpen)
+{
+    const std::vector<CScript::TAction> looks{
+        Open("nrv nrv nxx"), look::Text("node-1", " a "), look::Text("reference-1", " r"),
+        look::Text("node-2", "b"), look::Text("value-2", " 2")};
+    const auto typed = Fill({{" a ", " r", "1"}, {"b", "", " 2"}});
+    gRunWizard(CScript().Do(typed).Do({Insert()}).Look(looks));
+    gRunWizard(CScript().Do(typed).Do({Set("value-1", " "), Insert()}).Look(looks));
 }
 
 // --- what is remembered

@@ -15,12 +15,6 @@ using namespace parameterSteps;
 
 using ParameterDefinition = PageTest;
 
-constexpr const char* kAlreadyThere = "This value is already in the list.";
-constexpr const char* kDeleteQuestion =
-    "Are you sure you want to delete the selected parameter from the list?";
-constexpr const char* kClearQuestion =
-    "Are you sure you want to delete all plot items in the list?";
-
 const TStep kPress = Click("add");
 
 // --- both writers
@@ -157,15 +151,37 @@ struct TLeftCase {
     const char* pCommand;
 };
 
+const char* const kFirst = ".param first=1";
+
 const TLeftCase kLeftCases[] = {
-    {"general", gGeneral("w", ""), ".param first=1"},
-    {"Monte Carlo without a name", gMonteCarlo(0, "", "1", "1", nullptr, nullptr),
-     ".param first=1"},
-    {"Monte Carlo without a nominal value", gMonteCarlo(0, "r", "", "1", nullptr, nullptr),
+    {"general without a value", gGeneral("w", ""), kFirst},
+    {"general without a name", gGeneral("", "2u"), kFirst},
+    {"general with neither", gGeneral("", ""), kFirst},
+    {"uniform relative: no name", gMonteCarlo(0, "", "1", "1", nullptr, nullptr), kFirst},
+    {"uniform relative: no nominal value", gMonteCarlo(0, "r", "", "1", nullptr, nullptr),
      ".param r"},
-    {"Monte Carlo without a variation", gMonteCarlo(0, "r", "1", "", nullptr, nullptr), ".param r"},
-    {"Monte Carlo without a sigma", gMonteCarlo(2, "r", "1", "1", "", nullptr), ".param r"},
-    {"optimization", gOptimization("w", "", "1", "1", "1", ""), ".param first=1"},
+    {"uniform relative: no variation", gMonteCarlo(0, "r", "1", "", nullptr, nullptr), ".param r"},
+    {"uniform absolute: no name", gMonteCarlo(1, "", "1", "1", nullptr, nullptr), kFirst},
+    {"uniform absolute: no nominal value", gMonteCarlo(1, "r", "", "1", nullptr, nullptr),
+     ".param r"},
+    {"uniform absolute: no variation", gMonteCarlo(1, "r", "1", "", nullptr, nullptr), ".param r"},
+    {"gaussian relative: no name", gMonteCarlo(2, "", "1", "1", "3", nullptr), kFirst},
+    {"gaussian relative: no nominal value", gMonteCarlo(2, "r", "", "1", "3", nullptr), ".param r"},
+    {"gaussian relative: no variation", gMonteCarlo(2, "r", "1", "", "3", nullptr), ".param r"},
+    {"gaussian relative: no sigma", gMonteCarlo(2, "r", "1", "1", "", nullptr), ".param r"},
+    {"gaussian absolute: no name", gMonteCarlo(3, "", "1", "1", "3", nullptr), kFirst},
+    {"gaussian absolute: no nominal value", gMonteCarlo(3, "r", "", "1", "3", nullptr), ".param r"},
+    {"gaussian absolute: no variation", gMonteCarlo(3, "r", "1", "", "3", nullptr), ".param r"},
+    {"gaussian absolute: no sigma", gMonteCarlo(3, "r", "1", "1", "", nullptr), ".param r"},
+    {"limit: no name", gMonteCarlo(4, "", "1", "1", nullptr, nullptr), kFirst},
+    {"limit: no nominal value", gMonteCarlo(4, "r", "", "1", nullptr, nullptr), ".param r"},
+    {"limit: no variation", gMonteCarlo(4, "r", "1", "", nullptr, nullptr), ".param r"},
+    {"a name trimmed on the left", gMonteCarlo(0, " r ", "", "1", nullptr, nullptr), ".param r "},
+    {"optimization: no name", gOptimization("", "x", "1", "1", "1", ""), kFirst},
+    {"optimization: no run name", gOptimization("w", "", "1", "1", "1", ""), kFirst},
+    {"optimization: no guess", gOptimization("w", "x", "", "1", "1", ""), kFirst},
+    {"optimization: no minimum", gOptimization("w", "x", "1", "", "1", ""), kFirst},
+    {"optimization: no maximum", gOptimization("w", "x", "1", "1", "", ""), kFirst},
 };
 
 TEST_F(ParameterDefinition, AFailedMonteCarloCommandLeavesItsNameAndAnyOtherNothing)
@@ -180,146 +196,5 @@ TEST_F(ParameterDefinition, AFailedMonteCarloCommandLeavesItsNameAndAnyOtherNoth
                        .Do({Insert()})
                        .Look({look::Command(rCase.pCommand)}));
     }
-}
-
-// --- the list
-
-/// Adds "a=1", then "b=unif(1,0.1)".
-CScript WithTwoEntries()
-{
-    CScript script = OnPage();
-    script.Do(gGeneral("a", "1"))
-        .Do({kPress})
-        .Do(gMonteCarlo(0, "b", "1", "0.1", nullptr, nullptr))
-        .Do({kPress});
-    return script;
-}
-
-struct TListCase {
-    const char* pName;
-    CScript script;
-    std::vector<std::string> entries; ///< the newest first
-    int nSelected;
-    bool bButtons; ///< Delete and Clear are enabled
-    std::vector<std::string> messages;
-};
-
-const TListCase kListCases[] = {
-    {"the newest entry stands on top, selected, beside those of other types",
-     WithTwoEntries(),
-     {"b=unif(1,0.1)", "a=1"},
-     0,
-     true,
-     {}},
-    {"the same in other letter case is refused",
-     WithTwoEntries().Do({Set("first", "B"), kPress}),
-     {"b=unif(1,0.1)", "a=1"},
-     0,
-     true,
-     {kAlreadyThere}},
-    {"deleting asks, and no keeps the entry",
-     WithTwoEntries().Answer({false}).Do({Click("delete")}),
-     {"b=unif(1,0.1)", "a=1"},
-     0,
-     true,
-     {kDeleteQuestion}},
-    {"deleting selects the entry on top",
-     WithTwoEntries().Do({Select("list", 1)}).Answer({true}).Do({Click("delete")}),
-     {"b=unif(1,0.1)"},
-     0,
-     true,
-     {kDeleteQuestion}},
-    {"deleting the last entry disables Delete and Clear",
-     WithTwoEntries().Answer({true, true}).Do({Click("delete"), Click("delete")}),
-     {},
-     -1,
-     false,
-     {kDeleteQuestion, kDeleteQuestion}},
-    {"deleting without a selection does nothing",
-     WithTwoEntries().Do({Select("list", -1)}).Answer({true}).Do({Click("delete")}),
-     {"b=unif(1,0.1)", "a=1"},
-     -1,
-     true,
-     {}},
-    {"clearing asks about plot items, and no keeps all",
-     WithTwoEntries().Answer({false}).Do({Click("clear")}),
-     {"b=unif(1,0.1)", "a=1"},
-     0,
-     true,
-     {kClearQuestion}},
-    {"clearing empties the list",
-     WithTwoEntries().Answer({true}).Do({Click("clear")}),
-     {},
-     -1,
-     false,
-     {kClearQuestion}},
-    {"clearing without a selection does nothing",
-     WithTwoEntries().Do({Select("list", -1)}).Answer({true}).Do({Click("clear")}),
-     {"b=unif(1,0.1)", "a=1"},
-     -1,
-     true,
-     {}},
-    {"a change of type or distribution doesn't touch the list",
-     WithTwoEntries().Do({Select("distribution", 3), Select("parameter-type", "Optimization")}),
-     {"b=unif(1,0.1)", "a=1"},
-     0,
-     true,
-     {}},
-};
-
-TEST_F(ParameterDefinition, AddsDeletesAndClears)
-{
-    for (const TListCase& rCase : kListCases) {
-        SCOPED_TRACE(rCase.pName);
-        CScript script = rCase.script;
-        const auto outcome = gRunWizard(script.Look(
-            {look::Entries("list", rCase.entries), look::Selected("list", rCase.nSelected),
-             look::Enabled("delete", rCase.bButtons), look::Enabled("clear", rCase.bButtons)}));
-        EXPECT_EQ(outcome.messages, rCase.messages);
-    }
-}
-
-TEST_F(ParameterDefinition, TheRefusalIsTranslatedAndTheQuestionsAreNot)
-{
-    const CBracketTranslation translation;
-    const auto outcome = gRunWizard(OnPage("[Settings]/[Parameters]")
-                                        .Do(gGeneral("a", "1"))
-                                        .Do({kPress, kPress, Click("delete"), Click("clear")}));
-    EXPECT_EQ(outcome.messages, (std::vector<std::string>{"[" + std::string(kAlreadyThere) + "]",
-                                                          kDeleteQuestion, kClearQuestion}));
-}
-
-TEST_F(ParameterDefinition, AddKeepsTheFieldsAsTheyWereTyped)
-{
-    gRunWizard(
-        OnPage()
-            .Do(gGeneral(" a", " 1"))
-            .Do({kPress})
-            .Look({look::Text("second", " a"), look::Text("third", " 1"), look::Enabled("add")}));
-}
-
-TEST_F(ParameterDefinition, TheListIsInsertedOldestFirst)
-{
-    EXPECT_EQ(gRunWizard(WithTwoEntries().Do({Insert()})).inserted,
-              std::vector<std::string>{".param a=1 b=unif(1,0.1)"});
-}
-
-TEST_F(ParameterDefinition, WithAListEmptyFieldsStillMakeACommand)
-{
-    EXPECT_EQ(
-        gRunWizard(WithTwoEntries().Do(gMonteCarlo(0, "", "", "", nullptr, nullptr)).Do({Insert()}))
-            .inserted,
-        std::vector<std::string>{".param a=1 b=unif(1,0.1)"});
-}
-
-TEST_F(ParameterDefinition, AfterTheLastEntryIsDeletedTheFieldsCountAgain)
-{
-    EXPECT_EQ(gRunWizard(WithTwoEntries()
-                             .Answer({true})
-                             .Do({Click("clear")})
-                             .Do(gGeneral("c", "3"))
-                             .Do({Insert()}))
-                  .inserted,
-              std::vector<std::string>{".param c=3"});
 }
 } // namespace

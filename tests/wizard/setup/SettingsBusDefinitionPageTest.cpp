@@ -53,10 +53,11 @@ TEST_F(BusDefinitionPage, BuildsTheVectorCommand)
     }
 }
 
-TEST_F(BusDefinitionPage, ItsTemplateIsANameAListAndANote)
+TEST_F(BusDefinitionPage, ItsTemplateIsANameAListAndANoteUntranslated)
 {
+    const CBracketTranslation translation;
     gRunWizard(CScript()
-                   .Do({Open(kPath)})
+                   .Do({Open("[Settings]/[Bus definition]")})
                    .Look({look::Label("bus-name", "&Bus name:"), look::Text("bus-name", ""),
                           look::Label("node-list", "&Nodes in bus:"), look::Text("node-list", ""),
                           look::Text("note", "Use this bus with the BUS waveform for voltage and "

@@ -44,10 +44,11 @@ TEST_F(GlobalNodesPage, BuildsTheGlobalCommand)
     }
 }
 
-TEST_F(GlobalNodesPage, ItsTemplateIsAList)
+TEST_F(GlobalNodesPage, ItsTemplateIsAListUntranslated)
 {
+    const CBracketTranslation translation;
     gRunWizard(CScript()
-                   .Do({Open(kPath)})
+                   .Do({Open("[Settings]/[Global nodes]")})
                    .Look({look::Label(kList, "&List global nodes, separated by spaces:"),
                           look::Text(kList, "")})
                    .Then([](CDialog& rDialog) {

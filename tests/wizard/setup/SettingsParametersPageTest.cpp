@@ -1,4 +1,5 @@
 #include "platform/ui/FieldView.h"
+#include "platform/ui/Translate.h"
 #include "support/Look.h"
 #include "support/PageTest.h"
 #include "support/Steps.h"
@@ -126,6 +127,20 @@ TEST_F(ParametersPage, AChangeOfTypeMovesNoTextAndGoesBackToTheFirstDistribution
                    look::Text("first", "r"), look::Text("fourth", "3"), look::Text("fifth", "2")}));
 }
 
+TEST_F(ParametersPage, TheTypeChosenAgainShowsTheFirstDistributionWhicheverWasChosen)
+{
+    const CBracketTranslation translation;
+    for (int nDistribution = 0; nDistribution < 5; ++nDistribution)
+        gRunWizard(OnPage("[Settings]/[Parameters]")
+                       .Do({Select("parameter-type", kTypeMonteCarlo),
+                            Select("distribution", nDistribution),
+                            Select("parameter-type", kTypeMonteCarlo)})
+                       .Look({look::Selected("distribution", 0)})
+                       .Look(Looks(kDistributionLabels[0]))
+                       .Do({Select("distribution", nDistribution)})
+                       .Look(Looks(kDistributionLabels[nDistribution])));
+}
+
 // --- the button Add
 
 struct TAddCase {
@@ -214,6 +229,65 @@ TEST_F(ParametersPage, ADistributionIsRememberedButNeverSeen)
                           look::Selected("distribution", 0), look::Enabled("add"),
                           look::Text("fourth", "3"), look::Text("fifth", "2")})
                    .Look(Looks(kDistributionLabels[0])));
+}
+
+TEST_F(ParametersPage, InTheNextRunTheDistributionCanBeChosenAgain)
+{
+    struct TCase {
+        int nDistribution;
+        const char* pSigma;
+        const char* pMultiplier;
+        const char* pCommand;
+    };
+    static constexpr TCase kCases[] = {{1, nullptr, "2", ".param r=aunif(1k,5,2)"},
+                                       {2, "3", "2", ".param r=gauss(1k,5,3,2)"},
+                                       {3, "3", "2", ".param r=agauss(1k,5,32)"},
+                                       {4, nullptr, nullptr, ".param r=limit(1k,5)"}};
+    const CBracketTranslation translation;
+    for (const TCase& rCase : kCases) {
+        SCOPED_TRACE(rCase.pCommand);
+        CRememberedBase::ResetAll();
+        gRunWizard(OnPage("[Settings]/[Parameters]")
+                       .Do(gMonteCarlo(rCase.nDistribution, "r", "1k", "5", rCase.pSigma,
+                                       rCase.pMultiplier))
+                       .Do({Insert()}));
+        const auto outcome = gRunWizard(OnPage("[Settings]/[Parameters]")
+                                            .Look(Looks(kDistributionLabels[0]))
+                                            .Do({Select("distribution", rCase.nDistribution)})
+                                            .Look(Looks(kDistributionLabels[rCase.nDistribution]))
+                                            .Look({look::Enabled("add")})
+                                            .Do({Insert()}));
+        EXPECT_EQ(outcome.inserted, std::vector<std::string>{rCase.pCommand});
+    }
+}
+
+TEST_F(ParametersPage, TheNextRunShowsTheGeneralTypeWhicheverDistributionIsRemembered)
+{
+    const CBracketTranslation translation;
+    gRunWizard(
+        OnPage("[Settings]/[Parameters]")
+            .Do(gGeneral("w", "2u"))
+            .Do({Select("parameter-type", "Monte Carlo"), Select("distribution", 3),
+                 Set("first", "w"), Set("second", "1"), Set("third", "2"), Set("fourth", "3"),
+                 Insert(), Select("parameter-type", "General"), Insert()}));
+    gRunWizard(OnPage("[Settings]/[Parameters]").Look(Looks(kGeneral)));
+}
+
+TEST_F(ParametersPage, AtTheStartTheRememberedDistributionIsShownFirstThenTheType)
+{
+    gRunWizard(OnPage().Do(gMonteCarlo(3, "r", "1k", "5", "3", "2")).Do({Insert()}));
+    std::vector<std::string> translated;
+    xlang::gSetCatalogue([&translated](std::string_view sEnglish) {
+        if (sEnglish.ends_with(':'))
+            translated.emplace_back(sEnglish);
+        return CString(sEnglish);
+    });
+    gRunWizard(OnPage());
+    xlang::gSetCatalogue({});
+    EXPECT_EQ(translated,
+              (std::vector<std::string>{"A&bsolute variation:", "Pa&rameter name:",
+                                        "&Nominal value:", "R&elative variation:", "&Sigma level:",
+                                        "&Multiplier (default is 1):", "R&elative variation:"}));
 }
 
 TEST_F(ParametersPage, TheNextRunShowsTheOptimizationWithItsLabels)

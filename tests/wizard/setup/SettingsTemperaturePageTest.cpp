@@ -43,9 +43,10 @@ TEST_F(TemperaturePage, BuildsTheTempCommand)
     }
 }
 
-TEST_F(TemperaturePage, ItsTemplateIsAListAndANote)
+TEST_F(TemperaturePage, ItsTemplateIsAListAndANoteUntranslated)
 {
-    gRunWizard(CScript().Do({Open(kPath)}).Then([](CDialog& rDialog) {
+    const CBracketTranslation translation;
+    gRunWizard(CScript().Do({Open("[Settings]/[Temperature]")}).Then([](CDialog& rDialog) {
         const auto fields = gCollectFields(gCurrentPane(rDialog));
         ASSERT_EQ(fields.size(), 2U);
         EXPECT_EQ(fields[0].sKey, kList);

@@ -116,47 +116,65 @@ TEST_F(BitSourcePages, KeepInTheControlsWhatWasTyped)
         std::move(script.Look({look::Text("name", " 1 "), look::Text("negative-terminal", "")})));
 }
 
-TEST_F(BitSourcePages, LeaveTheCommandAsItWasWhenTheyRefuse)
+TEST_F(BitSourcePages, KeepTheLineBeforeWhenTheyRefuse)
 {
-    gExpectLeft(kCurrent, {"name=1", "positive-terminal=a"}, "");
-    gExpectLeft(kVoltage, {"name=1", "bit-stream=1"}, "");
-}
-
-std::vector<std::string> ShownWith(const char* pName, const char* pUnit, const char* pOnValue,
-                                   const char* pHighTime)
-{
-    const std::string sUnit = std::string(" [") + pUnit + ']';
-    return {"'BIT source'",
-            std::string("name: ") + pName,
-            "positive-terminal: &Positive terminal:",
-            "negative-terminal: &Negative terminal:",
-            "'AC values'",
-            "ac-magnitude: &Magnitude:" + sUnit,
-            "ac-phase: P&hase (0): [deg]",
-            "'Corner smoothing'",
-            "rounding: &Rounding (0): [sec]",
-            "'Waveform:'",
-            "bit-stream: &Bit stream:",
-            "on-value: " + (pOnValue + sUnit),
-            "off-value: O&FF value (0):" + sUnit,
-            "'&DC value'",
-            "dc-value",
-            "'(default is the time=0 value of the transient waveform)'",
-            "'Pulse'",
-            "pulse-width: P&ulse width (10n): [sec]",
-            "low-time: &Low time (10n): [sec]",
-            std::string("high-time: ") + pHighTime + " [sec]",
-            "delay: D&elay (0): [sec]",
-            "rise-time: Ri&se time (1n): [sec]",
-            "fall-time: F&all time (1n): [sec]"};
+    gExpectKeptByBoth("Bit", {"positive-terminal=a", "bit-stream=1"});
+    gExpectKeptByBoth("Bit", {"name=1", "bit-stream=1"});
+    gExpectKeptByBoth("Bit", {"name=1", "positive-terminal=a"});
 }
 
 TEST_F(BitSourcePages, ShowTheirFieldsWithTheirUnits)
 {
-    EXPECT_EQ(gShownBy("CCurrentSourceBitPage"),
-              ShownWith("&Current source name:", "A", "&ON value (1e-3):", "Hi&gh time (10n):"));
-    EXPECT_EQ(gShownBy("CVoltageSourceBitPage"),
-              ShownWith("&Voltage source name:", "V", "&ON value (5):", "Hi&gh time (10):"));
+    EXPECT_EQ(gShownBy("CCurrentSourceBitPage"), R"(
+'BIT source'
+  name: &Current source name:
+  positive-terminal: &Positive terminal:
+  negative-terminal: &Negative terminal:
+'AC values'
+  ac-magnitude: &Magnitude: [A]
+  ac-phase: P&hase (0): [deg]
+'Corner smoothing'
+  rounding: &Rounding (0): [sec]
+'Waveform:'
+  bit-stream: &Bit stream:
+  on-value: &ON value (1e-3): [A]
+  off-value: O&FF value (0): [A]
+'&DC value'
+  dc-value
+  '(default is the time=0 value of the transient waveform)'
+'Pulse'
+  pulse-width: P&ulse width (10n): [sec]
+  low-time: &Low time (10n): [sec]
+  high-time: Hi&gh time (10n): [sec]
+  delay: D&elay (0): [sec]
+  rise-time: Ri&se time (1n): [sec]
+  fall-time: F&all time (1n): [sec]
+)");
+    EXPECT_EQ(gShownBy("CVoltageSourceBitPage"), R"(
+'BIT source'
+  name: &Voltage source name:
+  positive-terminal: &Positive terminal:
+  negative-terminal: &Negative terminal:
+'AC values'
+  ac-magnitude: &Magnitude: [V]
+  ac-phase: P&hase (0): [deg]
+'Corner smoothing'
+  rounding: &Rounding (0): [sec]
+'Waveform:'
+  bit-stream: &Bit stream:
+  on-value: &ON value (5): [V]
+  off-value: O&FF value (0): [V]
+'&DC value'
+  dc-value
+  '(default is the time=0 value of the transient waveform)'
+'Pulse'
+  pulse-width: P&ulse width (10n): [sec]
+  low-time: &Low time (10n): [sec]
+  high-time: Hi&gh time (10): [sec]
+  delay: D&elay (0): [sec]
+  rise-time: Ri&se time (1n): [sec]
+  fall-time: F&all time (1n): [sec]
+)");
 }
 
 TEST_F(BitSourcePages, ShowNothingOfTheDefaultsInTheirLabels)

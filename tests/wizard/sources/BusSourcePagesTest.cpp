@@ -96,39 +96,52 @@ TEST_F(BusSourcePages, RememberNothingOfThePagesOfTheOtherKind)
     }
 }
 
-TEST_F(BusSourcePages, LeaveTheCommandAsItWasWhenTheyRefuse)
+TEST_F(BusSourcePages, KeepTheLineBeforeWhenTheyRefuse)
 {
-    gExpectLeft(kCurrent, {"name=1", "bus-name=b"}, "");
-    gExpectLeft(kVoltage, {"name=1", "bit-stream=1"}, "");
-}
-
-std::vector<std::string> ShownWith(const char* pName, const char* pUnit, const char* pOnValue)
-{
-    const std::string sUnit = std::string(" [") + pUnit + ']';
-    return {"'BUS source'",
-            std::string("name: ") + pName,
-            "bus-name: Bus &name:",
-            "reference-node: R&eference node (GND):",
-            "'Corner smoothing'",
-            "rounding: &Rounding (0): [sec]",
-            "'Waveform'",
-            "bit-stream: &Bit stream:",
-            "on-value: " + (pOnValue + sUnit),
-            "off-value: O&FF value (0):" + sUnit,
-            "'Pulse'",
-            "pulse-width: P&ulse width (10n): [sec]",
-            "low-time: &Low time (10n): [sec]",
-            "high-time: &High time (10n): [sec]",
-            "delay: &Delay (0): [sec]",
-            "rise-time: Ri&se time (1n): [sec]",
-            "fall-time: F&all time (1n): [sec]"};
+    gExpectKeptByBoth("Bus", {"bus-name=b", "bit-stream=1"});
+    gExpectKeptByBoth("Bus", {"name=1", "bit-stream=1"});
+    gExpectKeptByBoth("Bus", {"name=1", "bus-name=b"});
 }
 
 TEST_F(BusSourcePages, ShowTheirFieldsWithTheirUnits)
 {
-    EXPECT_EQ(gShownBy("CCurrentSourceBusPage"),
-              ShownWith("&Current source name:", "A", "&ON value (1e-3):"));
-    EXPECT_EQ(gShownBy("CVoltageSourceBusPage"),
-              ShownWith("&Voltage source name:", "V", "&ON value (5):"));
+    EXPECT_EQ(gShownBy("CCurrentSourceBusPage"), R"(
+'BUS source'
+  name: &Current source name:
+  bus-name: Bus &name:
+  reference-node: R&eference node (GND):
+'Corner smoothing'
+  rounding: &Rounding (0): [sec]
+'Waveform'
+  bit-stream: &Bit stream:
+  on-value: &ON value (1e-3): [A]
+  off-value: O&FF value (0): [A]
+'Pulse'
+  pulse-width: P&ulse width (10n): [sec]
+  low-time: &Low time (10n): [sec]
+  high-time: &High time (10n): [sec]
+  delay: &Delay (0): [sec]
+  rise-time: Ri&se time (1n): [sec]
+  fall-time: F&all time (1n): [sec]
+)");
+    EXPECT_EQ(gShownBy("CVoltageSourceBusPage"), R"(
+'BUS source'
+  name: &Voltage source name:
+  bus-name: Bus &name:
+  reference-node: R&eference node (GND):
+'Corner smoothing'
+  rounding: &Rounding (0): [sec]
+'Waveform'
+  bit-stream: &Bit stream:
+  on-value: &ON value (5): [V]
+  off-value: O&FF value (0): [V]
+'Pulse'
+  pulse-width: P&ulse width (10n): [sec]
+  low-time: &Low time (10n): [sec]
+  high-time: &High time (10n): [sec]
+  delay: &Delay (0): [sec]
+  rise-time: Ri&se time (1n): [sec]
+  fall-time: F&all time (1n): [sec]
+)");
 }
 } // namespace

@@ -72,26 +72,36 @@ TEST_F(ConstantSourcePages, RememberWhatTheyBuiltWithTheGroundFilledIn)
          "ac-phase=90"});
 }
 
-TEST_F(ConstantSourcePages, LeaveTheCommandAsItWasWhenTheyRefuse)
+TEST_F(ConstantSourcePages, KeepTheLineBeforeWhenTheyRefuse)
 {
-    gExpectLeft("Current source/Constant", {"name=1", "positive-terminal=a"}, "");
+    gExpectKeptByBoth("Constant", {"positive-terminal=a", "dc-value=1"});
+    gExpectKeptByBoth("Constant", {"name=1", "dc-value=1"});
+    gExpectKeptByBoth("Constant", {"name=1", "positive-terminal=a"});
 }
 
 TEST_F(ConstantSourcePages, ShowTheirFieldsWithTheirUnits)
 {
-    EXPECT_EQ(
-        gShownBy("CCurrentSourceConstantPage"),
-        (std::vector<std::string>{
-            "'Constant Source'", "'Name'",
-            "name: &Current source name:", "positive-terminal: &Positive terminal:",
-            "negative-terminal: &Negative terminal (GND):", "dc-value: &DC value: [A]",
-            "'AC values'", "ac-magnitude: &Magnitude (0): [A]", "ac-phase: P&hase (0): [deg]"}));
-    EXPECT_EQ(
-        gShownBy("CVoltageSourceConstantPage"),
-        (std::vector<std::string>{
-            "'Constant Source'", "'Name'",
-            "name: &Voltage source name:", "positive-terminal: &Positive terminal:",
-            "negative-terminal: &Negative terminal (GND):", "dc-value: &DC value: [V]",
-            "'AC values'", "ac-magnitude: &Magnitude (0): [V]", "ac-phase: P&hase (0): [deg]"}));
+    EXPECT_EQ(gShownBy("CCurrentSourceConstantPage"), R"(
+'Constant Source'
+  'Name'
+    name: &Current source name:
+    positive-terminal: &Positive terminal:
+    negative-terminal: &Negative terminal (GND):
+  dc-value: &DC value: [A]
+  'AC values'
+    ac-magnitude: &Magnitude (0): [A]
+    ac-phase: P&hase (0): [deg]
+)");
+    EXPECT_EQ(gShownBy("CVoltageSourceConstantPage"), R"(
+'Constant Source'
+  'Name'
+    name: &Voltage source name:
+    positive-terminal: &Positive terminal:
+    negative-terminal: &Negative terminal (GND):
+  dc-value: &DC value: [V]
+  'AC values'
+    ac-magnitude: &Magnitude (0): [V]
+    ac-phase: P&hase (0): [deg]
+)");
 }
 } // namespace

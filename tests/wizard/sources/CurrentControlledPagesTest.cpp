@@ -14,9 +14,6 @@ struct TTwin {
     const char* pTwin;
     std::string sLetter;
     const char* pClass;
-    const char* pGroup;
-    const char* pNameLabel;
-    const char* pGainLabel;
     const char* pMissingName;
     const char* pMissingNamePolynomial;
     const char* pMissingGain;
@@ -26,16 +23,14 @@ struct TTwin {
 
 const TTwin kTwins[] = {
     {"Current source/Current-controlled", "Voltage source/Current-controlled", "F",
-     "CCurrentSourceCurrentControlledPage", "'Current-controlled current source'",
-     "&CCCS name:", "C&urrent gain:", "[Missing current-controlled current source name.]",
+     "CCurrentSourceCurrentControlledPage", "[Missing current-controlled current source name.]",
      "[Missing current-controlled current source name.]", "[Missing current gain value.]",
      "[Controlling voltage source 2 name is not a legal voltage source name (Must begin with "
      "'V').]",
      "[Controlling voltage source 3 name is not a legal voltage source name (Must begin with "
      "'V').]"},
     {"Voltage source/Current-controlled", "Current source/Current-controlled", "H",
-     "CVoltageSourceCurrentControlledPage", "'Current-controlled voltage source'", "&CCVS name:",
-     "Tr&ansresistance (in Ohm):", "[Missing current-controlled voltage source name]",
+     "CVoltageSourceCurrentControlledPage", "[Missing current-controlled voltage source name]",
      "[Missing current-controlled voltage source name.]", "[Missing transresistance value.]",
      "[Controlling voltage source 2 name is not a legal voltage source name (Must start with "
      "'V').]",
@@ -50,6 +45,12 @@ const TFieldValues kGain{"name=1", "positive-terminal=a", "controlling-source=v1
 const TFieldValues kPolynomial{"polynomial-sources=on", "name=1", "positive-terminal=a",
                                "controlling-source=v1", "coefficients=0 1"};
 
+TFieldValues Joined(TFieldValues fields, const TFieldValues& rMore)
+{
+    fields.insert(fields.end(), rMore.begin(), rMore.end());
+    return fields;
+}
+
 TEST_F(CurrentControlledPages, BuildTheLineWithAGain)
 {
     for (const TTwin& rTwin : kTwins)
@@ -58,7 +59,7 @@ TEST_F(CurrentControlledPages, BuildTheLineWithAGain)
             {
                 {"with the ground", {}, rTwin.sLetter + "1 a GND v1 2", ""},
                 {"between two nodes", {"negative-terminal=b"}, rTwin.sLetter + "1 a b v1 2", ""},
-                {"a controlling source V1",
+                {"a controlling source V1 passes as v1 does",
                  {"controlling-source=V1"},
                  rTwin.sLetter + "1 a GND V1 2",
                  ""},
@@ -83,7 +84,10 @@ TEST_F(CurrentControlledPages, BuildTheLineWithAPolynomial)
     for (const TTwin& rTwin : kTwins)
         gExpectLines(rTwin.pPage, kPolynomial,
                      {
-                         {"of one source", {}, rTwin.sLetter + "1 a GND POLY(1) v1 0 1", ""},
+                         {"of one source: no second one is asked for",
+                          {},
+                          rTwin.sLetter + "1 a GND POLY(1) v1 0 1",
+                          ""},
                          {"of two sources",
                           {"negative-terminal=b", "second-controlling-source=V2"},
                           rTwin.sLetter + "1 a b POLY(2) v1 V2 0 1",
@@ -105,7 +109,7 @@ TEST_F(CurrentControlledPages, BuildTheLineWithAPolynomial)
                           {"second-controlling-source=v2 ", "third-controlling-source=v3 "},
                           rTwin.sLetter + "1 a GND POLY(3) v1 v2  v3  0 1",
                           ""},
-                         {"a gain left over is ignored",
+                         {"a gain left over in the disabled field is ignored",
                           {"polynomial-sources=off", "gain=7", "polynomial-sources=on"},
                           rTwin.sLetter + "1 a GND POLY(1) v1 0 1",
                           ""},
@@ -220,19 +224,28 @@ TEST_F(CurrentControlledPages, CheckTheFurtherSourcesOfAPolynomial)
 TEST_F(CurrentControlledPages, LeaveTheLineSoFarWhenAFurtherSourceIsRefused)
 {
     for (const TTwin& rTwin : kTwins) {
-        for (TFieldValues more :
+        for (const TFieldValues& rMore :
              {TFieldValues{"second-controlling-source=x"},
               TFieldValues{"third-controlling-source=v3"},
-              TFieldValues{"second-controlling-source=v2", "third-controlling-source=x"}}) {
-            more.insert(more.begin(), kPolynomial.begin(), kPolynomial.end());
-            gExpectLeft(rTwin.pPage, more, rTwin.sLetter + "1 a GND POLY(");
-        }
-        gExpectLeft(rTwin.pPage, {"polynomial-sources=on", "name=1", "positive-terminal=a"}, "");
-        gExpectLeft(rTwin.pPage, {"name=1", "positive-terminal=a"}, "");
+              TFieldValues{"second-controlling-source=v2", "third-controlling-source=x"}})
+            gExpectLeft(rTwin.pPage, Joined(kPolynomial, rMore), rTwin.sLetter + "1 a GND POLY(");
     }
 }
 
-TEST_F(CurrentControlledPages, RememberWhatTheyBuiltWithTheGroundFilledIn)
+TEST_F(CurrentControlledPages, KeepTheLineBeforeWhenAFieldIsMissingOrTheFirstSourceIsRefused)
+{
+    for (const TTwin& rTwin : kTwins) {
+        for (const char* const pWrong :
+             {"name=", "positive-terminal=", "controlling-source=", "controlling-source=x"}) {
+            gExpectKept(rTwin.pPage, Joined(kGain, {pWrong}));
+            gExpectKept(rTwin.pPage, Joined(kPolynomial, {pWrong}));
+        }
+        gExpectKept(rTwin.pPage, Joined(kGain, {"gain="}));
+        gExpectKept(rTwin.pPage, Joined(kPolynomial, {"coefficients="}));
+    }
+}
+
+TEST_F(CurrentControlledPages, RememberWithAPolynomialTheGainThatIsDisabled)
 {
     gExpectRemembered("Current-controlled",
                       {"gain= 7 ", "polynomial-sources=on", "name= 1 ", "positive-terminal= a ",
@@ -242,6 +255,19 @@ TEST_F(CurrentControlledPages, RememberWhatTheyBuiltWithTheGroundFilledIn)
                       {"name=1", "positive-terminal=a", "negative-terminal=GND",
                        "controlling-source=v1", "gain=7", "coefficients=0\n1",
                        "second-controlling-source=v2 ", "third-controlling-source=v3"});
+}
+
+TEST_F(CurrentControlledPages, RememberWithAGainWhatWasTypedForAPolynomial)
+{
+    gExpectRemembered("Current-controlled",
+                      {"polynomial-sources=on", "coefficients= 0\n1 ",
+                       "second-controlling-source= x ", "third-controlling-source=y",
+                       "polynomial-sources=off", "name=1", "positive-terminal=a",
+                       "controlling-source=v1", "gain=2"},
+                      {"gain="},
+                      {"name=1", "positive-terminal=a", "negative-terminal=GND",
+                       "controlling-source=v1", "gain=2", "coefficients=0\n1",
+                       "second-controlling-source= x ", "third-controlling-source=y"});
 }
 
 TEST_F(CurrentControlledPages, RememberTheCheckBoxEachForItself)
@@ -324,16 +350,29 @@ TEST_F(CurrentControlledPages, StartANewLineWithReturnInTheCoefficients)
 
 TEST_F(CurrentControlledPages, ShowTheirFields)
 {
-    for (const TTwin& rTwin : kTwins)
-        EXPECT_EQ(
-            gShownBy(rTwin.pClass),
-            (std::vector<std::string>{
-                rTwin.pGroup, std::string("name: ") + rTwin.pNameLabel,
-                "positive-terminal: &Positive terminal:",
-                "negative-terminal: &Negative terminal (GND):",
-                "controlling-source: C&ontrolling voltage source:", "'Po&lynomial sources'",
-                std::string("gain: ") + rTwin.pGainLabel, "coefficients: Pol&ynomial coefficients:",
-                "second-controlling-source: Con&trolling voltage source #2:",
-                "third-controlling-source: Cont&rolling voltage source #3:"}));
+    EXPECT_EQ(gShownBy("CCurrentSourceCurrentControlledPage"), R"(
+'Current-controlled current source'
+  name: &CCCS name:
+  positive-terminal: &Positive terminal:
+  negative-terminal: &Negative terminal (GND):
+  controlling-source: C&ontrolling voltage source:
+  polynomial-sources: Po&lynomial sources
+  gain: C&urrent gain:
+  coefficients: Pol&ynomial coefficients: (lines)
+  second-controlling-source: Con&trolling voltage source #2:
+  third-controlling-source: Cont&rolling voltage source #3:
+)");
+    EXPECT_EQ(gShownBy("CVoltageSourceCurrentControlledPage"), R"(
+'Current-controlled voltage source'
+  name: &CCVS name:
+  positive-terminal: &Positive terminal:
+  negative-terminal: &Negative terminal (GND):
+  controlling-source: C&ontrolling voltage source:
+  polynomial-sources: Po&lynomial sources
+  gain: Tr&ansresistance (in Ohm):
+  coefficients: Pol&ynomial coefficients: (lines)
+  second-controlling-source: Con&trolling voltage source #2:
+  third-controlling-source: Cont&rolling voltage source #3:
+)");
 }
 } // namespace

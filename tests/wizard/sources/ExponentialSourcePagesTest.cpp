@@ -114,19 +114,23 @@ TEST_F(ExponentialSourcePages, PutTheirLetterInFrontUnlessTheNameBeginsWithIt)
 
 TEST_F(ExponentialSourcePages, LeaveTheLineSoFarWhenTheFallIsRefused)
 {
-    gExpectLeft(
-        "Current source/Exponential",
-        {"name=1", "positive-terminal=a", "initial=1", "peak=5", "rise-delay=2", "fall-delay=1"},
-        "I1 a GND EXP (1 5 2");
-    gExpectLeft("Voltage source/Exponential",
-                {"name=1", "positive-terminal=a", "initial=1", "peak=5", "rise-time-constant=2",
-                 "fall-time-constant=1"},
-                "V1 a GND EXP (1 5 0");
+    const TFieldValues common{"name=1", "positive-terminal=a", "initial=1", "peak=5",
+                              "rise-delay=2"};
+    for (const TFieldValues& rMore :
+         {TFieldValues{"fall-delay=1"}, TFieldValues{"fall-time-constant=1"},
+          TFieldValues{"rise-time-constant=2", "fall-time-constant=1"}}) {
+        TFieldValues fields = common;
+        fields.insert(fields.end(), rMore.begin(), rMore.end());
+        gExpectLeftByBoth("Exponential", fields, "1 a GND EXP (1 5 2");
+    }
 }
 
-TEST_F(ExponentialSourcePages, LeaveTheCommandAsItWasWhenAFieldIsMissing)
+TEST_F(ExponentialSourcePages, KeepTheLineBeforeWhenAFieldIsMissing)
 {
-    gExpectLeft("Voltage source/Exponential", {"name=1", "positive-terminal=a", "initial=1"}, "");
+    gExpectKeptByBoth("Exponential", {"positive-terminal=a", "initial=1", "peak=5"});
+    gExpectKeptByBoth("Exponential", {"name=1", "initial=1", "peak=5"});
+    gExpectKeptByBoth("Exponential", {"name=1", "positive-terminal=a", "peak=5"});
+    gExpectKeptByBoth("Exponential", {"name=1", "positive-terminal=a", "initial=1"});
 }
 
 TEST_F(ExponentialSourcePages,
@@ -149,25 +153,47 @@ TEST_F(ExponentialSourcePages,
 
 TEST_F(ExponentialSourcePages, ShowTheirFieldsWithTheirUnits)
 {
-    EXPECT_EQ(gShownBy("CCurrentSourceExponentialPage"),
-              (std::vector<std::string>{
-                  "'Name'", "name: &Current source name:", "positive-terminal: &Positive terminal:",
-                  "negative-terminal: &Negative terminal (GND):", "'&DC value'", "dc-value",
-                  "'(default is the time=0 value of the transient waveform)'", "'Current'",
-                  "initial: Ini&tial: [A]", "peak: P&eak: [A]", "'AC values'",
-                  "ac-magnitude: &Magnitude (0): [A]", "ac-phase: P&hase (0): [deg]", "'Rise'",
-                  "rise-delay: Dela&y before rise (0): [sec]",
-                  "rise-time-constant: Time c&onstant:", "'Fall'",
-                  "fall-delay: De&lay before fall: [sec]", "fall-time-constant: Time con&stant:"}));
-    EXPECT_EQ(gShownBy("CVoltageSourceExponentialPage"),
-              (std::vector<std::string>{
-                  "'Name'", "name: &Voltage source name:", "positive-terminal: &Positive terminal:",
-                  "negative-terminal: &Negative terminal (GND):", "'&DC value'", "dc-value",
-                  "'(default is the time=0 value of the transient waveform)'", "'Voltage'",
-                  "initial: Ini&tial: [V]", "peak: P&eak: [V]", "'AC values'",
-                  "ac-magnitude: &Magnitude (0): [V]", "ac-phase: P&hase (0): [deg]", "'Rise'",
-                  "rise-delay: Dela&y before rise (0): [sec]",
-                  "rise-time-constant: Time c&onstant:", "'Fall'",
-                  "fall-delay: De&lay before fall: [sec]", "fall-time-constant: Time con&stant:"}));
+    EXPECT_EQ(gShownBy("CCurrentSourceExponentialPage"), R"(
+'Name'
+  name: &Current source name:
+  positive-terminal: &Positive terminal:
+  negative-terminal: &Negative terminal (GND):
+'&DC value'
+  dc-value
+  '(default is the time=0 value of the transient waveform)'
+'Current'
+  initial: Ini&tial: [A]
+  peak: P&eak: [A]
+'AC values'
+  ac-magnitude: &Magnitude (0): [A]
+  ac-phase: P&hase (0): [deg]
+'Rise'
+  rise-delay: Dela&y before rise (0): [sec]
+  rise-time-constant: Time c&onstant:
+'Fall'
+  fall-delay: De&lay before fall: [sec]
+  fall-time-constant: Time con&stant:
+)");
+    EXPECT_EQ(gShownBy("CVoltageSourceExponentialPage"), R"(
+'Name'
+  name: &Voltage source name:
+  positive-terminal: &Positive terminal:
+  negative-terminal: &Negative terminal (GND):
+'&DC value'
+  dc-value
+  '(default is the time=0 value of the transient waveform)'
+'Voltage'
+  initial: Ini&tial: [V]
+  peak: P&eak: [V]
+'AC values'
+  ac-magnitude: &Magnitude (0): [V]
+  ac-phase: P&hase (0): [deg]
+'Rise'
+  rise-delay: Dela&y before rise (0): [sec]
+  rise-time-constant: Time c&onstant:
+'Fall'
+  fall-delay: De&lay before fall: [sec]
+  fall-time-constant: Time con&stant:
+)");
 }
 } // namespace

@@ -102,14 +102,16 @@ TEST_F(FMSourcePages, PutTheirLetterInFrontUnlessTheNameBeginsWithIt)
 
 TEST_F(FMSourcePages, LeaveTheLineSoFarWhenTheCarrierIsMissing)
 {
-    gExpectLeft("Current source/FM",
-                {"name=1", "positive-terminal=a", "peak-amplitude=5", "signal-frequency=1"},
-                "I1 a GND SFFM (0 5");
+    for (const char* const pMore : {"modulation-index=1", "signal-frequency=1"})
+        gExpectLeftByBoth("FM", {"name=1", "positive-terminal=a", "peak-amplitude=5", pMore},
+                          "1 a GND SFFM (0 5");
 }
 
-TEST_F(FMSourcePages, LeaveTheCommandAsItWasWhenAFieldIsMissing)
+TEST_F(FMSourcePages, KeepTheLineBeforeWhenAFieldIsMissing)
 {
-    gExpectLeft("Voltage source/FM", {"name=1", "positive-terminal=a"}, "");
+    gExpectKeptByBoth("FM", {"positive-terminal=a", "peak-amplitude=5"});
+    gExpectKeptByBoth("FM", {"name=1", "peak-amplitude=5"});
+    gExpectKeptByBoth("FM", {"name=1", "positive-terminal=a"});
 }
 
 TEST_F(FMSourcePages, RememberWhatTheyBuiltWithTheDefaultsFilledInAndNothingOfALaterFailure)
@@ -130,27 +132,43 @@ TEST_F(FMSourcePages, RememberWhatTheyBuiltWithTheDefaultsFilledInAndNothingOfAL
 
 TEST_F(FMSourcePages, ShowTheirFieldsWithTheirUnits)
 {
-    EXPECT_EQ(gShownBy("CCurrentSourceFMPage"),
-              (std::vector<std::string>{
-                  "'Single frequency FM source'", "'Name'",
-                  "name: &Current source name:", "positive-terminal: &Positive terminal:",
-                  "negative-terminal: &Negative terminal (GND):", "'&DC value'", "dc-value",
-                  "'(default is the time=0 value of the transient waveform)'", "'Signal'",
-                  "offset: C&urrent offset (0): [A]", "peak-amplitude: P&eak amplitude: [A]",
-                  "carrier-frequency: C&arrier frequency (1/tstop): [Hz]",
-                  "modulation-index: M&odulation index (0):",
-                  "signal-frequency: &Signal frequency (1/tstop): [Hz]", "'AC values'",
-                  "ac-magnitude: &Magnitude: [A]", "ac-phase: P&hase: [deg]"}));
-    EXPECT_EQ(gShownBy("CVoltageSourceFMPage"),
-              (std::vector<std::string>{
-                  "'Single frequency FM source'", "'Name'",
-                  "name: &Voltage source name:", "positive-terminal: &Positive terminal:",
-                  "negative-terminal: &Negative terminal (GND):", "'&DC value'", "dc-value",
-                  "'(default is the time=0 value of the transient waveform)'", "'Signal'",
-                  "offset: Vo&ltage offset (0): [V]", "peak-amplitude: P&eak amplitude: [V]",
-                  "carrier-frequency: C&arrier frequency (1/tstop): [Hz]",
-                  "modulation-index: M&odulation index (0):",
-                  "signal-frequency: &Signal frequency (1/tstop): [Hz]", "'AC values'",
-                  "ac-magnitude: &Magnitude: [V]", "ac-phase: P&hase: [deg]"}));
+    EXPECT_EQ(gShownBy("CCurrentSourceFMPage"), R"(
+'Single frequency FM source'
+  'Name'
+    name: &Current source name:
+    positive-terminal: &Positive terminal:
+    negative-terminal: &Negative terminal (GND):
+  '&DC value'
+    dc-value
+    '(default is the time=0 value of the transient waveform)'
+  'Signal'
+    offset: C&urrent offset (0): [A]
+    peak-amplitude: P&eak amplitude: [A]
+    carrier-frequency: C&arrier frequency (1/tstop): [Hz]
+    modulation-index: M&odulation index (0):
+    signal-frequency: &Signal frequency (1/tstop): [Hz]
+  'AC values'
+    ac-magnitude: &Magnitude: [A]
+    ac-phase: P&hase: [deg]
+)");
+    EXPECT_EQ(gShownBy("CVoltageSourceFMPage"), R"(
+'Single frequency FM source'
+  'Name'
+    name: &Voltage source name:
+    positive-terminal: &Positive terminal:
+    negative-terminal: &Negative terminal (GND):
+  '&DC value'
+    dc-value
+    '(default is the time=0 value of the transient waveform)'
+  'Signal'
+    offset: Vo&ltage offset (0): [V]
+    peak-amplitude: P&eak amplitude: [V]
+    carrier-frequency: C&arrier frequency (1/tstop): [Hz]
+    modulation-index: M&odulation index (0):
+    signal-frequency: &Signal frequency (1/tstop): [Hz]
+  'AC values'
+    ac-magnitude: &Magnitude: [V]
+    ac-phase: P&hase: [deg]
+)");
 }
 } // namespace

@@ -14,7 +14,7 @@ TEST_F(PiecewiseLinearSourcePages, BuildTheLine)
     gExpectLinesOfBoth(
         "Piecewise linear", kCommon,
         {
-            {"the corners alone", {}, "1 a GND PWL (0 0 1n 5)", ""},
+            {"four corners alone pass", {}, "1 a GND PWL (0 0 1n 5)", ""},
             {"between two nodes", {"negative-terminal=b"}, "1 a b PWL (0 0 1n 5)", ""},
             {"the DC value stands before the waveform",
              {"dc-value=2"},
@@ -38,14 +38,20 @@ TEST_F(PiecewiseLinearSourcePages, CountTheValuesOfTheCornersAndNothingElse)
     gExpectLinesOfBoth(
         "Piecewise linear", kCommon,
         {
-            {"three values", {"corners=0 0 1n"}, "", pOdd},
+            {"three values are odd", {"corners=0 0 1n"}, "", pOdd},
             {"one value", {"corners=0"}, "", pOdd},
-            {"words are values", {"corners=a b"}, "1 a GND PWL (a b)", ""},
+            {"words are values, for only their number counts",
+             {"corners=a b"},
+             "1 a GND PWL (a b)",
+             ""},
             {"times need no order", {"corners=2 0 1 5"}, "1 a GND PWL (2 0 1 5)", ""},
             {"several blanks", {"corners=0   0 1n  5"}, "1 a GND PWL (0   0 1n  5)", ""},
             {"on several lines", {"corners=0 0\n1n 5"}, "1 a GND PWL (0 0 1n 5)", ""},
             {"three on two lines", {"corners=0 0\n1n"}, "", pOdd},
-            {"a line that ends in a blank", {"corners=0 0 \n1n 5"}, "1 a GND PWL (0 0  1n 5)", ""},
+            {"a line that ends in a blank counts each value once",
+             {"corners=0 0 \n1n 5"},
+             "1 a GND PWL (0 0  1n 5)",
+             ""},
             {"a line that begins with a blank",
              {"corners=0 0\n 1n 5"},
              "1 a GND PWL (0 0  1n 5)",
@@ -145,10 +151,12 @@ TEST_F(PiecewiseLinearSourcePages, PutTheirLetterInFrontUnlessTheNameBeginsWithI
     gExpectOneLetter("Piecewise linear", kCommon, " a GND PWL (0 0 1n 5)");
 }
 
-TEST_F(PiecewiseLinearSourcePages, LeaveTheCommandAsItWasWhenTheyRefuse)
+TEST_F(PiecewiseLinearSourcePages, KeepTheLineBeforeWhenTheyRefuse)
 {
-    gExpectLeft("Current source/Piecewise linear", {"name=1", "positive-terminal=a", "corners=1"},
-                "");
+    gExpectKeptByBoth("Piecewise linear", {"positive-terminal=a", "corners=0 1"});
+    gExpectKeptByBoth("Piecewise linear", {"name=1", "corners=0 1"});
+    gExpectKeptByBoth("Piecewise linear", {"name=1", "positive-terminal=a"});
+    gExpectKeptByBoth("Piecewise linear", {"name=1", "positive-terminal=a", "corners=1"});
 }
 
 TEST_F(PiecewiseLinearSourcePages, RememberWhatTheyBuiltWithTheLinesOfTheCorners)
@@ -172,23 +180,37 @@ TEST_F(PiecewiseLinearSourcePages, ReturnStartsANewLineInTheCorners)
 
 TEST_F(PiecewiseLinearSourcePages, ShowTheirFieldsWithTheirUnits)
 {
-    EXPECT_EQ(gShownBy("CCurrentSourcePiecewiseLinearPage"),
-              (std::vector<std::string>{
-                  "'Piecewise linear waveform'", "'Name'",
-                  "name: &Current source name:", "positive-terminal: &Positive terminal:",
-                  "negative-terminal: &Negative terminal (GND):", "'&DC value'", "dc-value",
-                  "'(default is the time=0 value of the transient waveform)'", "'Waveform'",
-                  "corners: C&orners: (t0 i0 t1 i1 t2 i2 ...), t in seconds, i in amps",
-                  "rounding: Corner &rounding parameter (0): [sec]", "'AC values'",
-                  "ac-magnitude: &Magnitude (0): [A]", "ac-phase: P&hase (0): [deg]"}));
-    EXPECT_EQ(gShownBy("CVoltageSourcePiecewiseLinearPage"),
-              (std::vector<std::string>{
-                  "'Piecewise linear waveform'", "'Name'",
-                  "name: &Voltage source name:", "positive-terminal: &Positive terminal:",
-                  "negative-terminal: &Negative terminal (GND):", "'&DC value'", "dc-value",
-                  "'(default is the time=0 value of the transient waveform)'", "'Waveform'",
-                  "corners: &Corners: (t0 v0 t1 v1 t2 v2 ...), t in seconds, v in volts",
-                  "rounding: Corner &rounding parameter (0): [sec]", "'AC values'",
-                  "ac-magnitude: &Magnitude (0): [V]", "ac-phase: P&hase (0): [deg]"}));
+    EXPECT_EQ(gShownBy("CCurrentSourcePiecewiseLinearPage"), R"(
+'Piecewise linear waveform'
+  'Name'
+    name: &Current source name:
+    positive-terminal: &Positive terminal:
+    negative-terminal: &Negative terminal (GND):
+  '&DC value'
+    dc-value
+    '(default is the time=0 value of the transient waveform)'
+  'Waveform'
+    corners: C&orners: (t0 i0 t1 i1 t2 i2 ...), t in seconds, i in amps (lines)
+    rounding: Corner &rounding parameter (0): [sec]
+  'AC values'
+    ac-magnitude: &Magnitude (0): [A]
+    ac-phase: P&hase (0): [deg]
+)");
+    EXPECT_EQ(gShownBy("CVoltageSourcePiecewiseLinearPage"), R"(
+'Piecewise linear waveform'
+  'Name'
+    name: &Voltage source name:
+    positive-terminal: &Positive terminal:
+    negative-terminal: &Negative terminal (GND):
+  '&DC value'
+    dc-value
+    '(default is the time=0 value of the transient waveform)'
+  'Waveform'
+    corners: &Corners: (t0 v0 t1 v1 t2 v2 ...), t in seconds, v in volts (lines)
+    rounding: Corner &rounding parameter (0): [sec]
+  'AC values'
+    ac-magnitude: &Magnitude (0): [V]
+    ac-phase: P&hase (0): [deg]
+)");
 }
 } // namespace

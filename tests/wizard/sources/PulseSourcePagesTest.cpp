@@ -49,7 +49,7 @@ TEST_F(PulseSourcePages, WriteAsManyTimesAsAreGiven)
              {"delay=3n", "rise-time=1n", "fall-time=2n"},
              "1 a GND PULSE (0 5 3n 1n 2n )",
              ""},
-            {"a width",
+            {"a width without a period: three values behind the slot of the delay",
              {"rise-time=1n", "fall-time=2n", "width=10n"},
              "1 a GND PULSE (0 5 0 1n 2n 10n)",
              ""},
@@ -158,19 +158,21 @@ TEST_F(PulseSourcePages, PutTheirLetterInFrontUnlessTheNameBeginsWithIt)
 
 TEST_F(PulseSourcePages, LeaveTheLineSoFarWhenTheTimesAreRefused)
 {
-    gExpectLeft("Current source/Pulse",
-                {"name=1", "positive-terminal=a", "peak=5", "dc-value=1", "period=1"},
-                "I1 a GND dc 1 PULSE (0 5");
-    gExpectLeft("Voltage source/Pulse",
-                {"name=v1", "positive-terminal=a", "peak=5", "delay=2n", "width=1"},
-                "v1 a GND PULSE (0 5 2n");
-    gExpectLeft("Voltage source/Pulse", {"name=1", "positive-terminal=a", "peak=5", "fall-time=1"},
-                "V1 a GND PULSE (0 5");
+    gExpectLeftByBoth("Pulse",
+                      {"name=1", "positive-terminal=a", "peak=5", "dc-value=1", "period=1"},
+                      "1 a GND dc 1 PULSE (0 5");
+    // Meant: a delay is there, but none holds the place of an empty one.
+    gExpectLeftByBoth("Pulse", {"name=1", "positive-terminal=a", "peak=5", "delay=2n", "width=1"},
+                      "1 a GND PULSE (0 5 2n");
+    gExpectLeftByBoth("Pulse", {"name=1", "positive-terminal=a", "peak=5", "fall-time=1"},
+                      "1 a GND PULSE (0 5");
 }
 
-TEST_F(PulseSourcePages, LeaveTheCommandAsItWasWhenAFieldIsMissing)
+TEST_F(PulseSourcePages, KeepTheLineBeforeWhenAFieldIsMissing)
 {
-    gExpectLeft("Current source/Pulse", {"name=1", "positive-terminal=a"}, "");
+    gExpectKeptByBoth("Pulse", {"positive-terminal=a", "peak=5"});
+    gExpectKeptByBoth("Pulse", {"name=1", "peak=5"});
+    gExpectKeptByBoth("Pulse", {"name=1", "positive-terminal=a"});
 }
 
 TEST_F(PulseSourcePages, RememberWhatTheyBuiltWithTheDefaultsFilledInAndNothingOfALaterFailure)
@@ -188,49 +190,51 @@ TEST_F(PulseSourcePages, RememberWhatTheyBuiltWithTheDefaultsFilledInAndNothingO
 
 TEST_F(PulseSourcePages, ShowTheirFieldsWithTheirUnits)
 {
-    EXPECT_EQ(gShownBy("CCurrentSourcePulsePage"),
-              (std::vector<std::string>{"'Pulse source'",
-                                        "'Name'",
-                                        "name: &Current source name:",
-                                        "positive-terminal: &Positive terminal:",
-                                        "negative-terminal: &Negative terminal (GND):",
-                                        "'&DC value'",
-                                        "dc-value",
-                                        "'(default is the time=0 value of the transient waveform)'",
-                                        "'Current'",
-                                        "initial: Ini&tial (0): [A]",
-                                        "peak: P&eak: [A]",
-                                        "'AC values'",
-                                        "ac-magnitude: &Magnitude (0): [A]",
-                                        "ac-phase: P&hase (0): [deg]",
-                                        "'Pulse waveform'",
-                                        "rise-time: &Rise time: [sec]",
-                                        "fall-time: &Fall time: [sec]",
-                                        "width: P&ulse width: [sec]",
-                                        "period: Pu&lse period: [sec]",
-                                        "delay: Initi&al delay (0): [sec]",
-                                        "rounding: C&orner rounding (0): [sec]"}));
-    EXPECT_EQ(gShownBy("CVoltageSourcePulsePage"),
-              (std::vector<std::string>{"'Pulse source'",
-                                        "'Name'",
-                                        "name: &Voltage source name:",
-                                        "positive-terminal: &Positive terminal:",
-                                        "negative-terminal: &Negative terminal (GND):",
-                                        "'&DC value'",
-                                        "dc-value",
-                                        "'(default is the time=0 value of the transient waveform)'",
-                                        "'Voltage'",
-                                        "initial: Ini&tial (0): [V]",
-                                        "peak: P&eak: [V]",
-                                        "'AC values'",
-                                        "ac-magnitude: &Magnitude (0): [V]",
-                                        "ac-phase: P&hase (0): [deg]",
-                                        "'Pulse waveform'",
-                                        "rise-time: &Rise time: [sec]",
-                                        "fall-time: &Fall time: [sec]",
-                                        "width: P&ulse width: [sec]",
-                                        "period: Pu&lse period: [sec]",
-                                        "delay: Initi&al delay (0): [sec]",
-                                        "rounding: C&orner rounding (0): [sec]"}));
+    EXPECT_EQ(gShownBy("CCurrentSourcePulsePage"), R"(
+'Pulse source'
+  'Name'
+    name: &Current source name:
+    positive-terminal: &Positive terminal:
+    negative-terminal: &Negative terminal (GND):
+  '&DC value'
+    dc-value
+    '(default is the time=0 value of the transient waveform)'
+  'Current'
+    initial: Ini&tial (0): [A]
+    peak: P&eak: [A]
+  'AC values'
+    ac-magnitude: &Magnitude (0): [A]
+    ac-phase: P&hase (0): [deg]
+  'Pulse waveform'
+    rise-time: &Rise time: [sec]
+    fall-time: &Fall time: [sec]
+    width: P&ulse width: [sec]
+    period: Pu&lse period: [sec]
+    delay: Initi&al delay (0): [sec]
+    rounding: C&orner rounding (0): [sec]
+)");
+    EXPECT_EQ(gShownBy("CVoltageSourcePulsePage"), R"(
+'Pulse source'
+  'Name'
+    name: &Voltage source name:
+    positive-terminal: &Positive terminal:
+    negative-terminal: &Negative terminal (GND):
+  '&DC value'
+    dc-value
+    '(default is the time=0 value of the transient waveform)'
+  'Voltage'
+    initial: Ini&tial (0): [V]
+    peak: P&eak: [V]
+  'AC values'
+    ac-magnitude: &Magnitude (0): [V]
+    ac-phase: P&hase (0): [deg]
+  'Pulse waveform'
+    rise-time: &Rise time: [sec]
+    fall-time: &Fall time: [sec]
+    width: P&ulse width: [sec]
+    period: Pu&lse period: [sec]
+    delay: Initi&al delay (0): [sec]
+    rounding: C&orner rounding (0): [sec]
+)");
 }
 } // namespace

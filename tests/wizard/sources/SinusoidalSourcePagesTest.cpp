@@ -57,8 +57,8 @@ TEST_F(SinusoidalSourcePages, FillThePlacesBeforeDelayDampingAndPhaseAdvance)
     gExpectLinesOfBoth(
         "Sinusoidal", {"name=1", "positive-terminal=a", "peak-amplitude=1", "frequency=1k"},
         {
-            {"a delay", {"delay=2n"}, "1 a GND SIN (0 1 1k 2n)", ""},
-            {"a damping", {"damping=3"}, "1 a GND SIN (0 1 1k 0 3)", ""},
+            {"a delay alone", {"delay=2n"}, "1 a GND SIN (0 1 1k 2n)", ""},
+            {"a damping alone", {"damping=3"}, "1 a GND SIN (0 1 1k 0 3)", ""},
             {"a phase advance", {"phase-advance=45"}, "1 a GND SIN (0 1 1k 0 0 45)", ""},
             {"delay and damping", {"delay=2n", "damping=3"}, "1 a GND SIN (0 1 1k 2n 3)", ""},
             {"delay and phase advance",
@@ -180,18 +180,21 @@ TEST_F(SinusoidalSourcePages, DoubleACapitalLetterOfTheNameUnlessItIsTheWholeNam
 
 TEST_F(SinusoidalSourcePages, LeaveTheLineSoFarWhenAmplitudeOrFrequencyIsMissing)
 {
-    gExpectLeft("Current source/Sinusoidal", {"name=1", "positive-terminal=a", "frequency=1k"},
-                "I1 a GND SIN (");
-    gExpectLeft("Voltage source/Sinusoidal",
-                {"name=1", "positive-terminal=a", "offset=2", "dc-value=3", "delay=1"},
-                "V1 a GND dc 3 SIN (2");
-    gExpectLeft("Voltage source/Sinusoidal",
-                {"name=1", "positive-terminal=a", "peak-amplitude=2", "delay=1"}, "V1 a GND SIN (");
+    gExpectLeftByBoth("Sinusoidal", {"name=1", "positive-terminal=a", "frequency=1k"},
+                      "1 a GND SIN (");
+    // Meant: an offset is there, but none holds the place of an empty one.
+    gExpectLeftByBoth("Sinusoidal",
+                      {"name=1", "positive-terminal=a", "offset=2", "dc-value=3", "delay=1"},
+                      "1 a GND dc 3 SIN (2");
+    gExpectLeftByBoth("Sinusoidal",
+                      {"name=1", "positive-terminal=a", "peak-amplitude=2", "delay=1"},
+                      "1 a GND SIN (");
 }
 
-TEST_F(SinusoidalSourcePages, LeaveTheCommandAsItWasWhenTheNameIsMissing)
+TEST_F(SinusoidalSourcePages, KeepTheLineBeforeWhenAFieldIsMissing)
 {
-    gExpectLeft("Voltage source/Sinusoidal", {"positive-terminal=a"}, "");
+    gExpectKeptByBoth("Sinusoidal", {"positive-terminal=a"});
+    gExpectKeptByBoth("Sinusoidal", {"name=1"});
 }
 
 TEST_F(SinusoidalSourcePages, RememberWhatTheyBuiltWithThePlacesFilledIn)
@@ -230,27 +233,45 @@ TEST_F(SinusoidalSourcePages, LeaveTheControlsAsTypedAndBuildTheSameAgain)
 
 TEST_F(SinusoidalSourcePages, ShowTheirFieldsWithTheirUnits)
 {
-    EXPECT_EQ(
-        gShownBy("CCurrentSourceSinusoidalPage"),
-        (std::vector<std::string>{
-            "'Sinusoidal waveform'", "'Name'",
-            "name: &Current source name:", "positive-terminal: &Positive terminal:",
-            "negative-terminal: &Negative terminal (GND):", "'&DC value'", "dc-value",
-            "'(default is the time=0 value of the transient waveform)'", "'Waveform'",
-            "offset: C&urrent offset (0): [A]", "peak-amplitude: P&eak amplitude: [A]",
-            "frequency: &Frequency: [Hz]", "delay: Dela&y time (0): [sec]",
-            "damping: D&amping factor (0): [1/sec]", "phase-advance: Pha&se advance (0): [deg]",
-            "'AC values'", "ac-magnitude: &Magnitude: [A]", "ac-phase: P&hase: [deg]"}));
-    EXPECT_EQ(
-        gShownBy("CVoltageSourceSinusoidalPage"),
-        (std::vector<std::string>{
-            "'Sinusoidal waveform'", "'Name'",
-            "name: &Voltage source name:", "positive-terminal: &Positive terminal:",
-            "negative-terminal: &Negative terminal (GND):", "'&DC value'", "dc-value",
-            "'(default is the time=0 value of the transient waveform)'", "'Waveform'",
-            "offset: V&oltage offset (0): [V]", "peak-amplitude: P&eak amplitude: [V]",
-            "frequency: &Frequency: [Hz]", "delay: Dela&y time (0): [sec]",
-            "damping: D&amping factor (0): [1/sec]", "phase-advance: Pha&se advance (0): [deg]",
-            "'AC values'", "ac-magnitude: &Magnitude: [V]", "ac-phase: P&hase: [deg]"}));
+    EXPECT_EQ(gShownBy("CCurrentSourceSinusoidalPage"), R"(
+'Sinusoidal waveform'
+  'Name'
+    name: &Current source name:
+    positive-terminal: &Positive terminal:
+    negative-terminal: &Negative terminal (GND):
+  '&DC value'
+    dc-value
+    '(default is the time=0 value of the transient waveform)'
+  'Waveform'
+    offset: C&urrent offset (0): [A]
+    peak-amplitude: P&eak amplitude: [A]
+    frequency: &Frequency: [Hz]
+    delay: Dela&y time (0): [sec]
+    damping: D&amping factor (0): [1/sec]
+    phase-advance: Pha&se advance (0): [deg]
+  'AC values'
+    ac-magnitude: &Magnitude: [A]
+    ac-phase: P&hase: [deg]
+)");
+    EXPECT_EQ(gShownBy("CVoltageSourceSinusoidalPage"), R"(
+'Sinusoidal waveform'
+  'Name'
+    name: &Voltage source name:
+    positive-terminal: &Positive terminal:
+    negative-terminal: &Negative terminal (GND):
+  '&DC value'
+    dc-value
+    '(default is the time=0 value of the transient waveform)'
+  'Waveform'
+    offset: V&oltage offset (0): [V]
+    peak-amplitude: P&eak amplitude: [V]
+    frequency: &Frequency: [Hz]
+    delay: Dela&y time (0): [sec]
+    damping: D&amping factor (0): [1/sec]
+    phase-advance: Pha&se advance (0): [deg]
+  'AC values'
+    ac-magnitude: &Magnitude: [V]
+    ac-phase: P&hase: [deg]
+)");
 }
 } // namespace

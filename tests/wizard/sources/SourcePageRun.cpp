@@ -6,12 +6,17 @@
 #include "support/Steps.h"
 #include "support/TranslationScope.h"
 
+#include <algorithm>
 #include <array>
-#include <map>
+#include <set>
+#include <span>
 #include <utility>
 
 namespace
 {
+/// What another page has inserted before a page refuses.
+constexpr const char* kLineBefore = ".temp 27";
+
 std::vector<std::string> OneOrNone(const std::string& rsText)
 {
     return rsText.empty() ? std::vector<std::string>() : std::vector<std::string>{rsText};
@@ -35,15 +40,47 @@ CScript OnPage(const std::string& rsPage)
     return CScript().Do({steps::Open(rsPage)});
 }
 
+std::string KeyOf(const std::string& rsField)
+{
+    return rsField.substr(0, rsField.find('='));
+}
+
 /// Looks whether each field has its value; lines are joined by LF.
-void LookAt(CScript& rScript, const TFieldValues& rFields, bool bEmpty = false)
+void LookAt(CScript& rScript, const TFieldValues& rFields)
 {
     for (const std::string& rsField : rFields) {
-        const std::size_t nEquals = rsField.find('=');
-        CString sText(bEmpty ? "" : rsField.substr(nEquals + 1));
+        CString sText(rsField.substr(rsField.find('=') + 1));
         sText.Replace("\n", "\r\n");
-        rScript.Look({look::Text(rsField.substr(0, nEquals), sText.GetString())});
+        rScript.Look({look::Text(KeyOf(rsField), sText.GetString())});
     }
+}
+
+/// Looks whether each field is empty, whatever its value here.
+void LookAtNone(CScript& rScript, const TFieldValues& rFields)
+{
+    for (const std::string& rsField : rFields)
+        rScript.Look({look::Text(KeyOf(rsField), "")});
+}
+
+/// How many group boxes of the template stand around this row.
+std::size_t DepthOf(const TControlRow& rRow, std::span<const TControlRow> rows)
+{
+    return static_cast<std::size_t>(std::ranges::count_if(rows, [&rRow](const TControlRow& rGroup) {
+        return rGroup.kind == EControl::Group && &rGroup != &rRow &&
+               rGroup.rect.Contains(rRow.rect);
+    }));
+}
+
+std::string ShownBy(const TControlRow& rRow)
+{
+    const std::string sKey = rRow.pKey;
+    if (gIsInput(rRow.kind))
+        return sKey + (rRow.kind == EControl::MultilineEdit ? " (lines)" : "");
+    if (rRow.kind == EControl::Label || rRow.kind == EControl::CheckBox)
+        return sKey + ": " + rRow.pLabel;
+    if (rRow.kind == EControl::RadioButton)
+        return sKey + (rRow.nFlags & kFirstOfGroup ? ", first: " : ", next: ") + rRow.pLabel;
+    return std::string("'") + rRow.pLabel + '\'';
 }
 } // namespace
 
@@ -113,7 +150,7 @@ void gExpectRemembered(const std::string& rsKind, const TFieldValues& rInserted,
         CScript next = OnPage(sPage);
         LookAt(next, rShown);
         next.Do({steps::Open(sTwin)});
-        LookAt(next, rShown, true);
+        LookAtNone(next, rShown);
         gRunWizard(std::move(next));
     }
 }
@@ -122,29 +159,58 @@ void gExpectLeft(const std::string& rsPage, const TFieldValues& rFields, const s
 {
     SCOPED_TRACE(rsPage);
     CRememberedBase::ResetAll();
-    const auto outcome = gRunWizard(
-        OnPage(rsPage).Fill(rFields).Do({steps::Insert()}).Look({look::Command(rsLeft)}));
-    EXPECT_EQ(outcome.inserted, std::vector<std::string>{});
+    const auto outcome = gRunWizard(OnPage("Settings/Temperature")
+                                        .Fill({"temperature-list=27"})
+                                        .Do({steps::Insert()})
+                                        .Look({look::Command(kLineBefore)})
+                                        .Do({steps::Open(rsPage)})
+                                        .Fill(rFields)
+                                        .Do({steps::Insert()})
+                                        .Look({look::Command(rsLeft)}));
+    EXPECT_EQ(outcome.inserted, std::vector<std::string>{kLineBefore});
     EXPECT_EQ(outcome.messages.size(), 1U);
 }
 
-std::vector<std::string> gShownBy(std::string_view sClass)
+void gExpectKept(const std::string& rsPage, const TFieldValues& rFields)
+{
+    gExpectLeft(rsPage, rFields, kLineBefore);
+}
+
+void gExpectLeftByBoth(const std::string& rsKind, const TFieldValues& rFields,
+                       const std::string& rsLeft)
+{
+    gExpectLeft("Current source/" + rsKind, rFields, "I" + rsLeft);
+    gExpectLeft("Voltage source/" + rsKind, rFields, "V" + rsLeft);
+}
+
+void gExpectKeptByBoth(const std::string& rsKind, const TFieldValues& rFields)
+{
+    gExpectKept("Current source/" + rsKind, rFields);
+    gExpectKept("Voltage source/" + rsKind, rFields);
+}
+
+std::string gShownBy(std::string_view sClass)
 {
     const auto pPage = CRuntimeClass::FromName(sClass)->CreateObject();
-    std::vector<std::string> shown;
-    std::map<std::string_view, std::size_t> fields; // by key, where they stand
-    for (const TControlRow& rRow : dynamic_cast<CDialog&>(*pPage).GetTemplate().rows) {
-        const std::string sKey = rRow.pKey;
-        if (gIsInput(rRow.kind) && !fields.contains(rRow.pKey)) {
-            shown.push_back(sKey);
-        } else if (rRow.kind == EControl::Label && fields.contains(rRow.pKey)) {
-            shown[fields[rRow.pKey]] += std::string(" [") + rRow.pLabel + ']';
-        } else if (rRow.kind == EControl::Label) {
-            fields[rRow.pKey] = shown.size();
-            shown.push_back(sKey + ": " + rRow.pLabel);
-        } else if (!gIsInput(rRow.kind)) {
-            shown.push_back(std::string("'") + rRow.pLabel + '\'');
-        }
+    const std::span<const TControlRow> rows = dynamic_cast<CDialog&>(*pPage).GetTemplate().rows;
+    std::string sShown = "\n";
+    std::set<std::string_view> fields; // the keys of those that a label has told
+    for (const TControlRow& rRow : rows) {
+        const bool bTold = fields.contains(rRow.pKey);
+        const bool bLabel = rRow.kind == EControl::Label;
+        const auto append = [&sShown](const std::string& rsText) {
+            sShown.insert(sShown.size() - 1, rsText); // to the line before
+        };
+        if (bTold && rRow.kind == EControl::MultilineEdit)
+            append(rRow.nFlags & kWantReturn ? " (lines)" : " (lines without Return)");
+        if (bTold && bLabel)
+            append(std::string(" [") + rRow.pLabel + ']');
+        if (bTold && (bLabel || gIsInput(rRow.kind)))
+            continue;
+        sShown.append(2 * DepthOf(rRow, rows), ' ');
+        if (bLabel)
+            fields.insert(rRow.pKey);
+        sShown += ShownBy(rRow) + '\n';
     }
-    return shown;
+    return sShown;
 }

@@ -40,9 +40,20 @@ void gExpectOneLetter(const std::string& rsKind, const TFieldValues& rCommon,
 void gExpectRemembered(const std::string& rsKind, const TFieldValues& rInserted,
                        const TFieldValues& rRefused, const TFieldValues& rShown);
 
-/// The page refuses these fields and leaves this text in the run's command string.
+/// After another page has inserted its line, the page refuses these fields and leaves this text in
+/// the run's command string.
 void gExpectLeft(const std::string& rsPage, const TFieldValues& rFields, const std::string& rsLeft);
 
-/// What the template of this class shows, in its order: a group's title or a note in quotes, a
-/// field as `key: label [unit]`.
-std::vector<std::string> gShownBy(std::string_view sClass);
+/// The same, and the line of the other page stays.
+void gExpectKept(const std::string& rsPage, const TFieldValues& rFields);
+
+/// The two for both pages of this kind. `rsLeft`: without the source's letter in front.
+void gExpectLeftByBoth(const std::string& rsKind, const TFieldValues& rFields,
+                       const std::string& rsLeft);
+void gExpectKeptByBoth(const std::string& rsKind, const TFieldValues& rFields);
+
+/// What the template of this class shows, a line for each, behind an empty one: in its order, two
+/// blanks further right for each group box around it, a group's title or a note in quotes, a field
+/// as `key: label [unit]`, one of several lines with ` (lines)` behind it, a check box as
+/// `key: label`, a button of a radio group as `key, first: label`, the following with `next`.
+std::string gShownBy(std::string_view sClass);

@@ -161,6 +161,30 @@ TEST_F(VoltageControlledModes, TheExpressionsStandInTheControllingTerminalsAfter
                    look::Label("second-control-field", "Con&trolling negative terminal (GND):")}));
 }
 
+TEST_F(VoltageControlledModes, TheExpressionOfAVoltageStandsInTheControllingTerminalToo)
+{
+    gRunWizard(CScript()
+                   .Do({Open("Voltage source/Voltage-controlled"), Choose("mode", 2),
+                        Set("first-control-field", "v(c)"), Choose("mode", 0)})
+                   .Look({look::Text("first-control-field", "v(c)"),
+                          look::Text("second-control-field", ""),
+                          look::Label("first-control-field", "&Controlling positive terminal:"),
+                          look::Shown("second-control-field")}));
+}
+
+TEST_F(VoltageControlledModes, TheArrowsGoAroundTheirButtonsAndNoFurther)
+{
+    for (const char* const pPage :
+         {"Current source/Voltage-controlled", "Voltage source/Voltage-controlled"}) {
+        CScript script;
+        script.Do({Open(pPage), Choose("mode", 0), Focus("mode")});
+        for (const auto& [pKey, nMode] :
+             {std::pair{"down", 1}, {"down", 2}, {"down", 0}, {"up", 2}, {"right", 0}, {"left", 2}})
+            script.Do({Key(pKey)}).Look({look::Checked("mode", nMode)});
+        gRunWizard(std::move(script.Do({Key("tab")}).Look({look::Focused("first-control-field")})));
+    }
+}
+
 TEST_F(VoltageControlledModes, TheLetterOfTheLabelGoesToTheFieldThatItStandsFor)
 {
     gRunWizard(CScript()
@@ -191,32 +215,43 @@ TEST_F(VoltageControlledModes, NoTwoControlsShareALetterInAnyOfThem)
                 }));
 }
 
-std::vector<std::string> ShownWith(const char* pGroup, const char* pName, const char* pGain)
-{
-    return {pGroup,
-            std::string("name: ") + pName,
-            "positive-terminal: P&ositive terminal:",
-            "negative-terminal: N&egative terminal (GND):",
-            "'Sources'",
-            "'&Linear'",
-            "'&Polynomial'",
-            "'&Non-linear expression'",
-            "first-control-field: &Controlling positive terminal:",
-            "second-control-field: Con&trolling negative terminal (GND):",
-            std::string("gain: ") + pGain,
-            "coefficients",
-            "second-positive: Controllin&g positive terminal #2:",
-            "second-negative: Controlling negative ter&minal #2 (GND):",
-            "third-positive: Controlling po&sitive terminal #3:",
-            "third-negative: Controlling negative termin&al #3 (GND):"};
-}
-
 TEST_F(VoltageControlledModes, TheTemplateHoldsTheFieldsOfAll)
 {
-    EXPECT_EQ(gShownBy("CCurrentSourceVoltageControlledPage"),
-              ShownWith("'Voltage-controlled current source'",
-                        "&VCCS name:", "T&ransconductance (in 1/Ohm):"));
-    EXPECT_EQ(gShownBy("CVoltageSourceVoltageControlledPage"),
-              ShownWith("'Voltage-controlled voltage source'", "&VCVS name:", "Volt&age gain:"));
+    EXPECT_EQ(gShownBy("CCurrentSourceVoltageControlledPage"), R"(
+'Voltage-controlled current source'
+  name: &VCCS name:
+  positive-terminal: P&ositive terminal:
+  negative-terminal: N&egative terminal (GND):
+  'Sources'
+    mode, first: &Linear
+    mode, next: &Polynomial
+    mode, next: &Non-linear expression
+  first-control-field: &Controlling positive terminal:
+  second-control-field: Con&trolling negative terminal (GND):
+  gain: T&ransconductance (in 1/Ohm):
+  coefficients (lines)
+  second-positive: Controllin&g positive terminal #2:
+  second-negative: Controlling negative ter&minal #2 (GND):
+  third-positive: Controlling po&sitive terminal #3:
+  third-negative: Controlling negative termin&al #3 (GND):
+)");
+    EXPECT_EQ(gShownBy("CVoltageSourceVoltageControlledPage"), R"(
+'Voltage-controlled voltage source'
+  name: &VCVS name:
+  positive-terminal: P&ositive terminal:
+  negative-terminal: N&egative terminal (GND):
+  'Sources'
+    mode, first: &Linear
+    mode, next: &Polynomial
+    mode, next: &Non-linear expression
+  first-control-field: &Controlling positive terminal:
+  second-control-field: Con&trolling negative terminal (GND):
+  gain: Volt&age gain:
+  coefficients (lines)
+  second-positive: Controllin&g positive terminal #2:
+  second-negative: Controlling negative ter&minal #2 (GND):
+  third-positive: Controlling po&sitive terminal #3:
+  third-negative: Controlling negative termin&al #3 (GND):
+)");
 }
 } // namespace
