@@ -412,6 +412,7 @@ TEST(Call, Store)
             Gives("SetParamValue", "4,null,0", R"({"kind":"int","value":0})"),
             Fails(R"({"fn":"SetParamValue","args":[1,null,0]})",
                   "boost::bad_any_cast: failed conversion using boost::any_cast"),
+            Gives("gGetModelsFilePath", R"("Sim","dat")", R"("SimModels_v2021.264.dat")"),
             Gives("CompareTolerant", "1,2,1e-12", "-1"),
             Gives("CompareTolerant", "1,1.000000000001,1e-12", "0"),
             Gives("CompareTolerant", R"("uninitialized","uninitialized",1)", "1"),

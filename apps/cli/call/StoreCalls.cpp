@@ -2,6 +2,7 @@
 #include "cli/call/CallTable.h"
 #include "cli/params/StoreArguments.h"
 #include "params/CompareTolerant.h"
+#include "params/ModelsFilePath.h"
 #include "params/SetParamValue.h"
 #include "params/SubcktTable.h"
 
@@ -76,6 +77,7 @@ std::vector<TCallFunction> gStoreCalls()
                       return CompareModelClassHeaders(rLeft, rRight);
                   }),
         gCallable("TBidirectionalStringToIntMap", LiveTable),
+        gCallable("gGetModelsFilePath", gGetModelsFilePath),
     };
 }
 
