@@ -1,3 +1,4 @@
+#include "params/CircuitParams.h"
 #include "support/RunProgram.h"
 #include "support/TempFolder.h"
 
@@ -96,20 +97,25 @@ TEST(Params, CheckFindsNothingInAnExample)
 TEST(Params, CheckTellsDanglingLinks)
 {
     const CTempFolder folder;
-    // One subcircuit, one class; a model of a class that isn't there; a device of no model.
-    const std::string sFile =
-        "22 serialization::archive 17 0 0 0 0 0 0 1 0 0 0 0 0 1 a 2 0 0 2 0 0  1 b "
-        "0 0 0 0 0 0 0 0 0 0 1 0 0 0 1 0 0 1 0 0 0 2 n1 1 0\n"
-        "0 0 0 1 2 n1 4 MOS1 1 n -1 0 0 0 0 0 0 1 0 0 0 1 0 0 1 0 0 0 2 d1 0 0 0 0 1 2 d1 7 2 n9 "
-        "4 MOS2 1 n -1 -1 0 0 0 0\n";
-    const TProgramRun run =
-        gRunQuorvawiz({"params", folder.Write("a", sFile), "check", "--verbose"});
+    TCircuitParams store;
+    store.AddSubckt("a", 2);
+    store.AddSubckt("b", 1); // takes the other one out of the table
+    TModelData model;
+    model.mModelHeader = {1, "n1", "MOS1", "n"};
+    store.AddModel(model);
+    TDeviceData device;
+    device.mDeviceHeader = {3, "d1"};
+    device.mModelHeader = {7, "n9", "MOS2", "n"};
+    store.AddDevice(device);
+    store.WriteThis(folder.Path("a"), "");
+    const TProgramRun run = gRunQuorvawiz({"params", folder.Path("a"), "check", "--verbose"});
     EXPECT_EQ(run.sError, "");
     EXPECT_EQ(run.sOut, "subcircuit \"a\": its id 2 isn't its own in the table\n"
                         "model \"n1\" in subcircuit 1: there is no class \"MOS1\"\n"
-                        "device \"d1\" in subcircuit 1: there is no class \"MOS2\"\n"
-                        "device \"d1\" in subcircuit 1: there is no model \"n9\" in subcircuit 7\n"
-                        "dangling links: 4\n");
+                        "subcircuit 3 has devices and no name\n"
+                        "device \"d1\" in subcircuit 3: there is no class \"MOS2\"\n"
+                        "device \"d1\" in subcircuit 3: there is no model \"n9\" in subcircuit 7\n"
+                        "dangling links: 5\n");
     EXPECT_EQ(run.nExitCode, 1);
 }
 

@@ -38,6 +38,12 @@ void CTextScanner::Refuse(TError::exception_code eCode, const char* pReason) con
     throw CParamsArchiveError(eCode, mnToken, pReason);
 }
 
+/// Refuses a file in which more should follow, at its end.
+void CTextScanner::RefuseEnd() const
+{
+    throw CParamsArchiveError(TError::input_stream_error, mnFilled, "the file ends here");
+}
+
 /// Moves what isn't used to the buffer's front and fills it up. Result: whether more came.
 bool CTextScanner::Fill()
 {
@@ -68,7 +74,7 @@ void CTextScanner::ToToken()
     }
     mnToken = OffsetOf(mpAt);
     if (mpAt == mpEnd) {
-        Refuse(TError::input_stream_error, "the file ends here");
+        RefuseEnd();
     }
 }
 
@@ -77,7 +83,7 @@ void CTextScanner::EndToken(const char* pEnd)
 {
     mpAt = pEnd;
     if (mpAt == mpEnd && !Fill()) {
-        Refuse(TError::input_stream_error, "the file ends here");
+        RefuseEnd();
     }
     if (!IsSpace(*mpAt)) {
         Refuse(TError::input_stream_error, "no white space follows");
@@ -135,7 +141,7 @@ std::string_view CTextScanner::ReadText()
     const auto nSize = static_cast<std::size_t>(nLength);
     while (static_cast<std::size_t>(mpEnd - mpAt) <= nSize) { // with the byte behind it
         if (!Fill()) {
-            Refuse(TError::input_stream_error, "the file ends here");
+            RefuseEnd();
         }
     }
     const std::string_view sText(mpAt, nSize);
@@ -149,7 +155,7 @@ std::string_view CTextScanner::ReadLongText(std::uint64_t nLength)
     msLong.clear();
     while (msLong.size() < nLength) {
         if (mpEnd - mpAt < 2 && !Fill() && mpAt == mpEnd) {
-            Refuse(TError::input_stream_error, "the file ends here");
+            RefuseEnd();
         }
         const bool bCrLf = mbCrLf && mpEnd - mpAt > 1 && mpAt[0] == '\r' && mpAt[1] == '\n';
         mpAt += bCrLf ? 1 : 0;

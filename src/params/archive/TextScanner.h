@@ -52,6 +52,7 @@ public:
                              const char* pReason) const;
 
 private:
+    [[noreturn]] void RefuseEnd() const;
     void ToToken();
     void EndToken(const char* pEnd);
     bool Fill();
