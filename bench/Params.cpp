@@ -133,6 +133,7 @@ void BM_DeviceNoCase(benchmark::State& rState)
     }
     std::shuffle(names.begin(), names.end(), std::mt19937(1));
     names.resize(std::min<std::size_t>(names.size(), 10'000));
+    lowered.reserve(names.size());
     for (auto [sSubckt, sName] : names) {
         // Some capital letters don't lead back to the small one, so both are lowered.
         lowered.emplace_back(sSubckt.MakeLower(), sName.MakeLower());

@@ -10,17 +10,24 @@
 namespace quorvaapi
 {
 
-#define QUORVAWIZ_CARRY(TArchive)                                                                  \
-    template void serialize(TArchive&, TDevicePin&, unsigned);                                     \
-    template void serialize(TArchive&, TNodeDeviceConnections&, unsigned);                         \
-    template void serialize(TArchive&, TSubcktDefinition&, unsigned);                              \
-    template void serialize(TArchive&, TSubcktLexicon&, unsigned);
+template void serialize(boost::archive::text_iarchive&, TDevicePin&, unsigned);
+template void serialize(boost::archive::text_iarchive&, TNodeDeviceConnections&, unsigned);
+template void serialize(boost::archive::text_iarchive&, TSubcktDefinition&, unsigned);
+template void serialize(boost::archive::text_iarchive&, TSubcktLexicon&, unsigned);
 
-QUORVAWIZ_CARRY(boost::archive::text_iarchive)
-QUORVAWIZ_CARRY(boost::archive::text_oarchive)
-QUORVAWIZ_CARRY(CTextIArchive)
-QUORVAWIZ_CARRY(CTextOArchive)
+template void serialize(boost::archive::text_oarchive&, TDevicePin&, unsigned);
+template void serialize(boost::archive::text_oarchive&, TNodeDeviceConnections&, unsigned);
+template void serialize(boost::archive::text_oarchive&, TSubcktDefinition&, unsigned);
+template void serialize(boost::archive::text_oarchive&, TSubcktLexicon&, unsigned);
 
-#undef QUORVAWIZ_CARRY
+template void serialize(CTextIArchive&, TDevicePin&, unsigned);
+template void serialize(CTextIArchive&, TNodeDeviceConnections&, unsigned);
+template void serialize(CTextIArchive&, TSubcktDefinition&, unsigned);
+template void serialize(CTextIArchive&, TSubcktLexicon&, unsigned);
+
+template void serialize(CTextOArchive&, TDevicePin&, unsigned);
+template void serialize(CTextOArchive&, TNodeDeviceConnections&, unsigned);
+template void serialize(CTextOArchive&, TSubcktDefinition&, unsigned);
+template void serialize(CTextOArchive&, TSubcktLexicon&, unsigned);
 
 } // namespace quorvaapi

@@ -7,12 +7,12 @@
 
 #include <boost/archive/archive_exception.hpp>
 #include <fcntl.h>
-#include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <optional>
 #include <system_error>
 #include <utility>
