@@ -161,7 +161,7 @@ void CComposer::Insert()
 {
     mbInserted = true;
     CDialog& rWizardDialog = *gOutermostDialog();
-    const TStep step{.op = EStep::Click, .sKey = "insert"};
+    const TStep step{.op = EStep::Click, .sKey = "insert", .bOnFrame = true};
     if (!gRunStep(rWizardDialog, step).IsDone())
         throw CStopped("the page on display has no command to insert");
 }

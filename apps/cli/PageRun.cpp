@@ -29,7 +29,8 @@ void gSelectPage(CDialog& rWizardDialog, const TPage& rPage)
 {
     if (!rPage.HasNode())
         return;
-    const TStep step{.op = EStep::SelectPath, .sKey = "tree", .sText = rPage.sPath};
+    const TStep step{
+        .op = EStep::SelectPath, .sKey = "tree", .sText = rPage.sPath, .bOnFrame = true};
     if (!gRunStep(rWizardDialog, step).IsDone())
         throw std::logic_error("the wizard's tree has no node for the page " + rPage.Name());
 }

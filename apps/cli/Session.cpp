@@ -126,7 +126,7 @@ void CSession::Reply(CDialog* pInnermost)
 void CSession::Do(const TStepRequest& rRequest, CDialog* pInnermost)
 {
     WhileOpen(pInnermost);
-    CDialog& rDialog = rRequest.bOnFrame ? *gOutermostDialog() : *pInnermost;
+    CDialog& rDialog = rRequest.step.bOnFrame ? *gOutermostDialog() : *pInnermost;
     const TStepResult result = gRunStep(rDialog, rRequest.step);
     if (!result.IsDone())
         throw CRequestError(gStepError(rDialog, rRequest.step, result));

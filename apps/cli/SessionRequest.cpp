@@ -23,12 +23,13 @@ constexpr const char* kTree = "tree";
 
 TRequest OnField(TStep step)
 {
-    return TStepRequest{std::move(step), false};
+    return TStepRequest{std::move(step)};
 }
 
 TRequest OnFrame(TStep step)
 {
-    return TStepRequest{std::move(step), true};
+    step.bOnFrame = true;
+    return TStepRequest{std::move(step)};
 }
 
 TRequest ReadOpen(const TMembers& rMembers)

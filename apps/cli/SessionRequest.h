@@ -14,8 +14,7 @@ namespace quorvawiz::cli
 
 /// One line of the session's input, read. docs/session.md says what each does.
 struct TStepRequest {
-    TStep step;
-    bool bOnFrame = false; ///< the step is meant for the wizard's own frame, not for a field
+    TStep step; ///< one on the frame is meant for the wizard's own
 };
 struct TOpenRequest {
     std::string sPage; ///< UTF-8

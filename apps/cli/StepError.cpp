@@ -99,7 +99,7 @@ std::string Refused(CDialog& rDialog, const TStep& rStep, EUserResult refusal,
 {
     if (rStep.op == EStep::Key)
         return RefusedKey(rDialog, rStep, gUserResultText(refusal));
-    const TFieldView field = gFindField(rDialog, rStep.sKey);
+    const TFieldView field = gFieldOf(rDialog, rStep);
     const std::string_view sRefusal = RefusalText(rStep, field.kind, refusal);
     const std::string sField = gQuoted(rsPrefix + rStep.sKey);
     if (rStep.op == EStep::Choose)
@@ -108,7 +108,8 @@ std::string Refused(CDialog& rDialog, const TStep& rStep, EUserResult refusal,
     std::string sError = sField + ' ' + std::string(sRefusal);
     std::vector<TFieldView> fields = gShownFields(rDialog);
     const bool bAway = refusal == EUserResult::Disabled || refusal == EUserResult::Hidden;
-    if (!bAway || std::ranges::find(fields, rStep.sKey, &TFieldView::sKey) == fields.end())
+    if (!bAway || rStep.bOnFrame ||
+        std::ranges::find(fields, rStep.sKey, &TFieldView::sKey) == fields.end())
         return sError;
     std::erase_if(fields, [](const TFieldView& rField) { return !gIsUsable(rField); });
     return sError + NearestUsable(rStep.sKey, gKeysToActOn(fields), rsPrefix);
@@ -132,13 +133,13 @@ std::string gStepError(CDialog& rDialog, const TStep& rStep, const TStepResult& 
     case EStepEnd::UnknownField:
         return gNoField(gShownFields(rDialog), rStep.sKey, sPrefix);
     case EStepEnd::UnknownEntry:
-        return UnknownEntry(gFindField(rDialog, rStep.sKey), rStep, gQuoted(sFullName));
+        return UnknownEntry(gFieldOf(rDialog, rStep), rStep, gQuoted(sFullName));
     case EStepEnd::Refused:
         return Refused(rDialog, rStep, rResult.refusal, std::string(sPrefix));
     case EStepEnd::WrongKind:
         if (rStep.op == EStep::Key)
             return "the key means nothing here";
-        return gQuoted(sFullName) + ' ' + WrongKind(gFindField(rDialog, rStep.sKey).kind, rStep.op);
+        return gQuoted(sFullName) + ' ' + WrongKind(gFieldOf(rDialog, rStep).kind, rStep.op);
     }
     return {};
 }

@@ -163,7 +163,7 @@ TEST(SessionRequest, IsReadAsTheStepThatItMeans)
         EXPECT_EQ(request.step.sKey, rCase.step.sKey) << rCase.pLine;
         EXPECT_EQ(request.step.sText, rCase.step.sText) << rCase.pLine;
         EXPECT_EQ(request.step.nIndex, rCase.step.nIndex) << rCase.pLine;
-        EXPECT_EQ(request.bOnFrame, rCase.bOnFrame) << rCase.pLine;
+        EXPECT_EQ(request.step.bOnFrame, rCase.bOnFrame) << rCase.pLine;
     }
 }
 

@@ -123,5 +123,58 @@ TEST_F(EndToEnd, ATransientWithASweepGoesIntoTheFile)
     });
     ExpectInserted(".tran 1u 800u sweep dec param rs 1k 100k 3");
 }
+
+TEST_F(EndToEnd, AWholeOptimizationGoesIntoTheFileByKeys)
+{
+    const auto alt = [this](Qt::Key key) { mUser.Press(QKeySequence(Qt::ALT | key)); };
+    const auto fill = [this, &alt](Qt::Key key, const char* pText) {
+        alt(key);
+        mUser.Press(QKeySequence::SelectAll);
+        mUser.Press(QKeySequence(Qt::Key_Delete));
+        mUser.Type(QString::fromLatin1(pText));
+    };
+    // Another control has the letter of "Continue", too: it leads from one to the other.
+    const auto continueBySharedLetter = [this, &alt] {
+        alt(Qt::Key_C);
+        alt(Qt::Key_C);
+        mUser.Press(QKeySequence(Qt::Key_Return));
+    };
+    InWizard([&](QWidget& rWizard) {
+        mUser.OpenPage(rWizard, QStringLiteral("Optimization"), QStringLiteral("Wizard"));
+        fill(Qt::Key_O, "o1");
+        alt(Qt::Key_A);
+        for (int i = 0; i < 3; ++i)
+            mUser.Press(QKeySequence(Qt::Key_Down)); // to the transient analysis
+        alt(Qt::Key_C);
+
+        fill(Qt::Key_M, "delay");
+        fill(Qt::Key_T, "1n");
+        alt(Qt::Key_A);
+        fill(Qt::Key_M, "rise");
+        fill(Qt::Key_T, "2n");
+        fill(Qt::Key_W, "");
+        fill(Qt::Key_N, "");
+        alt(Qt::Key_A);
+        continueBySharedLetter();
+
+        alt(Qt::Key_P);
+        for (const char* pText : {"w", "1u", "5u", "", "2u"}) {
+            mUser.Type(QString::fromLatin1(pText));
+            mUser.Press(QKeySequence(Qt::Key_Tab));
+        }
+        alt(Qt::Key_C);
+
+        fill(Qt::Key_N, "m1");
+        continueBySharedLetter();
+        alt(Qt::Key_I);
+        EXPECT_TRUE(rWizard.isVisible());
+    });
+    ExpectInserted(".optimize o1 model=m1 analysisname=tran\n"
+                   ".paramlimits o1 w minval=1u maxval=5u guess=2u\n"
+                   ".optgoal o1 delay=1n minval=1e-12 weight=1\n"
+                   ".optgoal o1 rise=2n\n"
+                   ".model m1 opt cendif=1e-9 close=0.001 cut=2 difsiz=1e-3 grad=1e-6\n"
+                   "+      itropt=20 max=600000 parmin=0.1 relin=0.001 relout=0.001");
+}
 } // namespace
 } // namespace quorvawiz::host

@@ -4,6 +4,7 @@
 #include "platform/headless/TreePath.h"
 #include "platform/ui/Button.h"
 #include "platform/ui/ComboBox.h"
+#include "platform/ui/Edit.h"
 #include "platform/ui/FieldView.h"
 #include "platform/ui/SampleDialog.h"
 #include "platform/ui/TreeCtrl.h"
@@ -119,6 +120,54 @@ void AddChoices(CVisit& rVisit, const std::string& rsName)
     }
 }
 
+/// Types something into every empty field that the user sees, and adds it to the list if there is
+/// one.
+void FillStep()
+{
+    const auto fields = gCollectFields(gCurrentPane(gFrontDialog()));
+    for (const TFieldView& rField : fields)
+        if (auto* const pEdit = dynamic_cast<CEdit*>(rField.pControl);
+            pEdit && pEdit->IsWindowVisible() && pEdit->GetWindowText().IsEmpty())
+            pEdit->UserType(CString(rField.sKey.substr(0, 1)) + "1");
+    for (const TFieldView& rField : fields)
+        if (auto* const pButton = dynamic_cast<CButton*>(rField.pControl);
+            pButton && rField.sKey.ends_with("-add"))
+            pButton->UserClick();
+}
+
+/// Looks at a step with the focus on each of its fields that say something by it.
+void AddHelps(CVisit& rVisit, const std::string& rsName)
+{
+    CDialog& rPane = gCurrentPane(gFrontDialog());
+    const CWnd* const pHelp = gFindField(rPane, "description").pControl;
+    if (!pHelp || !pHelp->IsWindowVisible())
+        return;
+    for (const TFieldView& rField : gCollectFields(rPane))
+        if (rField.kind == EControl::Edit && rField.pControl->IsWindowVisible()) {
+            rVisit.Add([rField] { rField.pControl->AcceptUser(); });
+            rVisit.AddLook(rsName + "-" + std::string(rField.sKey));
+        }
+}
+
+/// Walks the steps of a page that has any, and looks at each and at its choices.
+void AddSteps(CVisit& rVisit, const std::string& rsPage, int nStep = 1)
+{
+    rVisit.Add([&rVisit, rsPage, nStep] {
+        const TFieldView next = gFindField(gFrontDialog(), "continue");
+        if (!next.pControl || !next.pControl->IsWindowVisible())
+            return;
+        FillStep();
+        dynamic_cast<CButton&>(*next.pControl).UserClick();
+        rVisit.Insert([&rVisit, &rsPage, nStep] {
+            const std::string sName = rsPage + "-step-" + std::to_string(nStep + 1);
+            rVisit.AddLook(sName);
+            AddChoices(rVisit, sName);
+            AddHelps(rVisit, sName);
+            AddSteps(rVisit, rsPage, nStep + 1);
+        });
+    });
+}
+
 void AddNode(CVisit& rVisit, HTREEITEM hNode)
 {
     rVisit.Add([&rVisit, hNode] {
@@ -128,6 +177,7 @@ void AddNode(CVisit& rVisit, HTREEITEM hNode)
         rVisit.Insert([&rVisit, sName] {
             rVisit.AddLook(sName);
             AddChoices(rVisit, sName);
+            AddSteps(rVisit, sName);
         });
     });
 }

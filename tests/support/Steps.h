@@ -56,16 +56,23 @@ inline TStep Key(std::string_view sName)
 /// Goes to a page of the wizard by its path in the tree.
 inline TStep Open(const CString& rsPath)
 {
-    return {EStep::SelectPath, "tree", rsPath};
+    return {.op = EStep::SelectPath, .sKey = "tree", .sText = rsPath, .bOnFrame = true};
+}
+
+/// A step on a field of the dialog's own, even if its pane has one of that key.
+inline TStep OnFrame(TStep step)
+{
+    step.bOnFrame = true;
+    return step;
 }
 
 inline TStep Insert()
 {
-    return Click("insert");
+    return OnFrame(Click("insert"));
 }
 
 inline TStep Close()
 {
-    return Click("close");
+    return OnFrame(Click("close"));
 }
 } // namespace steps

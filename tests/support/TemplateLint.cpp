@@ -28,6 +28,18 @@ bool IsTabStop(EControl kind)
            (HasOwnText(kind) && kind != EControl::Group);
 }
 
+/// A further button of a radio group. The group is one stop, where its first button stands, and its
+/// buttons can head lines of fields that the stop leads past.
+bool IsFurtherButton(const TControlRow& rRow)
+{
+    return rRow.kind == EControl::RadioButton && (rRow.nFlags & kFirstOfGroup) == 0;
+}
+
+bool HasPlaceInOrder(const TControlRow& rRow)
+{
+    return IsTabStop(rRow.kind) && !IsFurtherButton(rRow);
+}
+
 /// The least height in dialog units at which the kind's text isn't clipped; 0: no text of one line.
 int LeastHeight(EControl kind)
 {
@@ -217,7 +229,7 @@ TRows ReadingOrder(const DialogTemplate& rTemplate, bool bColumns)
     };
     std::map<const TControlRow*, TRows> inside;
     for (const TControlRow& rRow : rTemplate.rows)
-        if (IsTabStop(rRow.kind) || rRow.kind == EControl::Group)
+        if (HasPlaceInOrder(rRow) || rRow.kind == EControl::Group)
             inside[around(rRow)].push_back(&rRow);
     TRows order;
     const std::function<void(const TControlRow*)> read = [&](const TControlRow* pAround) {
@@ -248,7 +260,7 @@ std::string OrderFinding(const DialogTemplate& rTemplate)
 {
     TRows order;
     for (const TControlRow& rRow : rTemplate.rows)
-        if (IsTabStop(rRow.kind))
+        if (HasPlaceInOrder(rRow))
             order.push_back(&rRow);
     const TRows wanted = ReadingOrder(rTemplate, false);
     if (IsRotation(order, wanted) || IsRotation(order, ReadingOrder(rTemplate, true)))
@@ -257,6 +269,20 @@ std::string OrderFinding(const DialogTemplate& rTemplate)
     for (const TControlRow* pRow : wanted)
         sFinding += ' ' + Name(*pRow);
     return sFinding;
+}
+
+/// Arrow keys walk through a radio group from button to button.
+void LintButtonOrder(const DialogTemplate& rTemplate, TFindings& rFindings)
+{
+    const TControlRow* pBefore = nullptr;
+    for (const TControlRow& rRow : rTemplate.rows) {
+        if (rRow.kind != EControl::RadioButton)
+            continue;
+        if (pBefore && IsFurtherButton(rRow) && rRow.rect.y <= pBefore->rect.y &&
+            rRow.rect.x <= pBefore->rect.x)
+            rFindings.push_back(Name(rRow) + " stands before the button in front of it");
+        pBefore = &rRow;
+    }
 }
 
 void LintTabOrder(const DialogTemplate& rTemplate, TFindings& rFindings)
@@ -285,6 +311,7 @@ std::vector<std::string> gLintTemplate(const DialogTemplate& rTemplate)
     LintNames(rTemplate, findings);
     LintLabels(rTemplate, findings);
     LintPlaces(rTemplate, findings);
+    LintButtonOrder(rTemplate, findings);
     LintTabOrder(rTemplate, findings);
     return findings;
 }

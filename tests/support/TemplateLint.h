@@ -13,5 +13,6 @@
 /// none;
 /// nothing lies outside the dialog, nothing is lower than its text needs, and no two controls
 /// that can be visible together overlap, but a group and what it surrounds; the tab order is the
-/// reading order, line by line or column by column, up to a rotation.
+/// reading order, line by line or column by column, up to a rotation, with a radio group standing
+/// where its first button does; and the buttons of a group go down or to the right.
 std::vector<std::string> gLintTemplate(const DialogTemplate& rTemplate);

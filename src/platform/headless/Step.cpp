@@ -152,12 +152,17 @@ TStepResult WalkTree(CWnd& rControl, const TStep& rStep)
 }
 } // namespace
 
+TFieldView gFieldOf(CDialog& rDialog, const TStep& rStep)
+{
+    return rStep.bOnFrame ? gFindOwnField(rDialog, rStep.sKey) : gFindField(rDialog, rStep.sKey);
+}
+
 TStepResult gRunStep(CDialog& rDialog, const TStep& rStep)
 {
     if (rStep.op == EStep::Key)
         return Ended(gUserKey(rStep.key));
 
-    const TFieldView field = gFindField(rDialog, rStep.sKey);
+    const TFieldView field = gFieldOf(rDialog, rStep);
     if (!field.pControl)
         return Failed(EStepEnd::UnknownField);
     CWnd& rControl = *field.pControl;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/base/StringA.h"
+#include "platform/ui/FieldView.h"
 #include "platform/ui/UserKey.h"
 
 #include <string>
@@ -31,6 +32,8 @@ struct TStep {
     CString sText{}; ///< Set, SelectEntry: the text; SelectPath...: the path, labels joined by '/'
     int nIndex = 0;  ///< Select, Choose: the index; Check: 1 or 0
     TUserKey key{};  ///< Key
+    /// The field is the dialog's own, even if its pane has one of that key.
+    bool bOnFrame = false;
 };
 
 /// What became of a step. Everything but `Done` means that nothing has changed.
@@ -47,6 +50,9 @@ struct TStepResult {
     EUserResult refusal = EUserResult::Done;
     bool IsDone() const { return end == EStepEnd::Done; }
 };
+
+/// The field that a step is for; one without a control when there is none.
+TFieldView gFieldOf(CDialog& rDialog, const TStep& rStep);
 
 /// Lets the user do one thing in the innermost dialog `rDialog`. Posted messages are left to the
 /// caller (`gPumpPostedMessages`).

@@ -62,9 +62,13 @@ CDialog& gCurrentPane(CDialog& rDialog)
 
 TFieldView gFindField(CDialog& rDialog, std::string_view sKey)
 {
-    for (CDialog* pPane : {&gCurrentPane(rDialog), &rDialog})
-        for (const TFieldView& rField : gCollectFields(*pPane))
-            if (rField.sKey == sKey)
-                return rField;
-    return {};
+    const TFieldView inPane = gFindOwnField(gCurrentPane(rDialog), sKey);
+    return inPane.pControl ? inPane : gFindOwnField(rDialog, sKey);
+}
+
+TFieldView gFindOwnField(CDialog& rDialog, std::string_view sKey)
+{
+    const std::vector<TFieldView> fields = gCollectFields(rDialog);
+    const auto found = std::ranges::find(fields, sKey, &TFieldView::sKey);
+    return found == fields.end() ? TFieldView() : *found;
 }

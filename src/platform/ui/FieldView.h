@@ -31,3 +31,7 @@ CDialog& gCurrentPane(CDialog& rDialog);
 /// The field with this key in the dialog's current pane or else in the dialog itself; one without a
 /// control when there is none.
 TFieldView gFindField(CDialog& rDialog, std::string_view sKey);
+
+/// The dialog's own field with this key, whatever its panes hold; one without a control when there
+/// is none.
+TFieldView gFindOwnField(CDialog& rDialog, std::string_view sKey);

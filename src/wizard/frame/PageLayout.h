@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ui/TemplateRows.h"
+#include "platform/ui/Translate.h"
 #include "wizard/frame/CommandPage.h"
 
 #include <algorithm>
@@ -11,6 +12,12 @@
 // A page as a list of lines from top to bottom, from which the places of its controls follow. A
 // block is one line or several; blocks are stacked, framed, set side by side or laid over each
 // other. All measures are dialog units.
+
+/// A translatable literal as a template holds it: without the marker.
+constexpr const char* Unmarked(const char* pLiteral)
+{
+    return pLiteral + xlang::kTranslationMarker.size();
+}
 
 /// A control in a block, and the edges of the pane that it reaches: a group box around it, or a
 /// neighbour beside it, moves those.
@@ -156,14 +163,17 @@ constexpr TBlock<2> DropDownLine(const TColumns& rColumns, int nId, const char* 
 }
 
 /// A one-line edit as wide as the pane with its label above.
-constexpr TBlock<2> WideEdit(int nId, const char* pKey, const char* pLabel)
+/// `nLabelLines`: the lines that the label needs.
+constexpr TBlock<2> WideEdit(int nId, const char* pKey, const char* pLabel, int nLabelLines = 1)
 {
     using namespace PageLayout;
+    const int nLabelHeight = nLabelLines * kLabelHeight;
+    const int nTop = nLabelHeight + 2;
     const auto field =
-        Moved(Whole(nId, pKey, EControl::Edit, "", kEditHeight, kLineGap), 0, kAboveField, 0);
-    const TPlacedRow label{LabelFor(field.rows[0].row, pLabel, {kLeft, 0, kWidth, kLabelHeight}),
+        Moved(Whole(nId, pKey, EControl::Edit, "", kEditHeight, kLineGap), 0, nTop, 0);
+    const TPlacedRow label{LabelFor(field.rows[0].row, pLabel, {kLeft, 0, kWidth, nLabelHeight}),
                            true, true};
-    return {{label, field.rows[0]}, kAboveField + kEditHeight, kLineGap};
+    return {{label, field.rows[0]}, nTop + kEditHeight, kLineGap};
 }
 
 /// The same with a unit behind the edit. `nUnit`: the unit's left edge.
@@ -311,18 +321,25 @@ template <class... TBlocks> constexpr auto Tight(TBlocks... blocks)
     return Lines(blocks...);
 }
 
+/// The keys of a list's buttons, for a page that has more than one list.
+struct TListKeys {
+    const char* pAdd = "add";
+    const char* pDelete = "delete";
+    const char* pClear = "clear";
+};
+
 namespace PageLayout
 {
 /// The buttons beside a list, the last two disabled as an empty list has them.
 constexpr auto ListButtons(const TChoice& rAdd, const TChoice& rDelete, const TChoice& rClear,
-                           unsigned nAddFlags)
+                           unsigned nAddFlags, const TListKeys& rKeys = {})
 {
     const auto button = [](const TChoice& rButton, const char* pKey, unsigned nFlags) {
         return At(Row(rButton.nId, pKey, EControl::PushButton, rButton.pLabel,
                       {kRight - kListButtonWidth, 0, kListButtonWidth, 14}, nFlags));
     };
-    return Lines(button(rAdd, "add", nAddFlags), button(rDelete, "delete", kDisabled),
-                 button(rClear, "clear", kDisabled));
+    return Lines(button(rAdd, rKeys.pAdd, nAddFlags), button(rDelete, rKeys.pDelete, kDisabled),
+                 button(rClear, rKeys.pClear, kDisabled));
 }
 
 constexpr TRect ListRect(int nHeight)
@@ -344,11 +361,12 @@ constexpr auto ListLines(int nList, const char* pKey, int nHeight, const TChoice
 /// The same with a label above the list and all three buttons disabled, for a page that enables
 /// "add" when there is something to be added.
 constexpr auto LabelledListLines(int nList, const char* pKey, const char* pLabel, int nHeight,
-                                 const TChoice& rAdd, const TChoice& rDelete, const TChoice& rClear)
+                                 const TChoice& rAdd, const TChoice& rDelete, const TChoice& rClear,
+                                 const TListKeys& rKeys = {})
 {
     using namespace PageLayout;
     return SameTop(LabelledAt(Row(nList, pKey, EControl::ListBox, "", ListRect(nHeight)), pLabel),
-                   Moved(ListButtons(rAdd, rDelete, rClear, kDisabled), 0, kAboveField, 0));
+                   Moved(ListButtons(rAdd, rDelete, rClear, kDisabled, rKeys), 0, kAboveField, 0));
 }
 
 /// The block with these flags added to all its controls.

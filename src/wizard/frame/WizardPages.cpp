@@ -60,13 +60,13 @@ const TTreeRow kTree[] = {
     Page<class CInitializationInitialConditionPage>(1, "__$$Translatable$$_Initial condition"),
 
     Category<class COutputPage>("__$$Translatable$$_Output"),
-    NotBuilt(0, "__$$Translatable$$_AC results", "COutputACResultsPage"),
-    NotBuilt(1, "__$$Translatable$$_AC small-signal model", "COutputACSmallSignalModelPage"),
-    NotBuilt(2, "__$$Translatable$$_DC results", "COutputDCResultsPage"),
-    NotBuilt(3, "__$$Translatable$$_Power", "COutputPowerPage"),
-    NotBuilt(4, "__$$Translatable$$_Transient results", "COutputTransientResultsPage"),
-    NotBuilt(5, "__$$Translatable$$_Noise results", "COutputNoiseResultsPage"),
-    NotBuilt(6, "__$$Translatable$$_Measure", "COutputMeasurePage"),
+    Page<class COutputACResultsPage>(0, "__$$Translatable$$_AC results"),
+    Page<class COutputACSmallSignalModelPage>(1, "__$$Translatable$$_AC small-signal model"),
+    Page<class COutputDCResultsPage>(2, "__$$Translatable$$_DC results"),
+    Page<class COutputPowerPage>(3, "__$$Translatable$$_Power"),
+    Page<class COutputTransientResultsPage>(4, "__$$Translatable$$_Transient results"),
+    Page<class COutputNoiseResultsPage>(5, "__$$Translatable$$_Noise results"),
+    Page<class COutputMeasurePage>(6, "__$$Translatable$$_Measure"),
 
     Category<class CSettingsPage>("__$$Translatable$$_Settings"),
     Page<class CSettingsBusDefinitionPage>(0, "__$$Translatable$$_Bus definition"),
@@ -88,7 +88,7 @@ const TTreeRow kTree[] = {
     Page<class CVoltageSourceVoltageControlledPage>(9, "__$$Translatable$$_Voltage-controlled"),
 
     Category<class COptimizationPage>("__$$Translatable$$_Optimization"),
-    NotBuilt(0, "__$$Translatable$$_Wizard", "COptimizationWizardPage"),
+    Page<class COptimizationWizardPage>(0, "__$$Translatable$$_Wizard"),
 };
 // clang-format on
 

@@ -1,5 +1,4 @@
 #include "platform/ui/RuntimeClassDefinition.h"
-#include "platform/ui/Translate.h"
 #include "wizard/frame/CommandPage.h"
 #include "wizard/frame/PageLayout.h"
 #include "wizard/sources/VoltageControlledForm.h"
@@ -9,12 +8,6 @@
 namespace
 {
 using namespace VoltageControlled;
-
-/// A label of the twin as a template holds it.
-constexpr const char* Unmarked(const char* pLiteral)
-{
-    return pLiteral + xlang::kTranslationMarker.size();
-}
 
 /// The radio buttons of the mode beside each other.
 constexpr auto ModeLine()

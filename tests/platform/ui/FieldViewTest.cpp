@@ -152,4 +152,17 @@ TEST(FieldViewTest, AKeyIsFoundInThePaneThenInTheDialog)
         }
     });
 }
+
+TEST(FieldViewTest, AKeyOfTheDialogsOwnIsFoundWhateverThePaneHolds)
+{
+    CSampleDialog dialog;
+    CPropertyPage pane(kPaneTemplate);
+    gLookInto(dialog, [&] {
+        ASSERT_TRUE(pane.CreatePane(dialog));
+        pane.ShowWindow(SW_SHOW);
+        EXPECT_EQ(gFindOwnField(dialog, "name").pControl, dialog.GetDlgItem(kName));
+        EXPECT_EQ(gFindOwnField(dialog, "delay").pControl, nullptr) << "of the pane";
+        EXPECT_EQ(gFindOwnField(pane, "delay").pControl, pane.GetDlgItem(1));
+    });
+}
 } // namespace

@@ -12,8 +12,8 @@ TExampleLines gAllExamples()
 {
     TExampleLines all;
     for (const TExampleLines* pExamples :
-         {&gAnalysisExamples(), &gSetupExamples(), &gWaveformExamples(), &gDigitalSourceExamples(),
-          &gControlledSourceExamples()})
+         {&gAnalysisExamples(), &gOutputExamples(), &gSetupExamples(), &gWaveformExamples(),
+          &gDigitalSourceExamples(), &gControlledSourceExamples(), &gOptimizationExamples()})
         all.insert(all.end(), pExamples->begin(), pExamples->end());
     return all;
 }

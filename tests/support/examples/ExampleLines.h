@@ -19,10 +19,12 @@ TExampleLine gNamed(std::string sName, TExampleLine example);
 
 /// The examples of the pages of a category, or of a family of sources.
 const TExampleLines& gAnalysisExamples();
+const TExampleLines& gOutputExamples();
 const TExampleLines& gSetupExamples();
 const TExampleLines& gWaveformExamples();
 const TExampleLines& gDigitalSourceExamples();
 const TExampleLines& gControlledSourceExamples();
+const TExampleLines& gOptimizationExamples();
 
 /// All of them.
 TExampleLines gAllExamples();

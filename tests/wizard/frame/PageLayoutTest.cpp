@@ -55,6 +55,20 @@ TEST(PageLayoutTest, WideFieldsHaveTheirLabelAbove)
                   {4, {7, 144, 235, 18}}});
 }
 
+TEST(PageLayoutTest, AWideFieldHasRoomForALabelOfSeveralLines)
+{
+    ExpectPlaces(PageRows(WideEdit(1, "a", "A:", 2), WideEdit(2, "b", "B:")),
+                 {{LabelOf(1), {7, 7, 235, 18}},
+                  {1, {7, 27, 235, 13}},
+                  {LabelOf(2), {7, 44, 235, 9}},
+                  {2, {7, 55, 235, 13}}});
+}
+
+TEST(PageLayoutTest, ALabelIsALiteralWithoutItsMarker)
+{
+    EXPECT_EQ(std::string_view(Unmarked("__$$Translatable$$_&Time:")), "&Time:");
+}
+
 TEST(PageLayoutTest, AUnitStandsBehindAFieldBelowItsLabelToo)
 {
     ExpectPlaces(PageRows(GroupBox(1, "g", "G",
@@ -220,6 +234,16 @@ TEST(PageLayoutTest, AListWithALabelHasAllItsButtonsDisabled)
     EXPECT_EQ(kRows[1].nFlags, kNoFlags) << "its label is its own";
     for (const std::size_t nButton : {2U, 3U, 4U})
         EXPECT_EQ(kRows[nButton].nFlags, kDisabled);
+}
+
+TEST(PageLayoutTest, ASecondListHasButtonsWithKeysOfItsOwn)
+{
+    constexpr auto kRows =
+        PageRows(LabelledListLines(1, "list", "&List:", 80, {2, "&Add"}, {3, "&Delete"},
+                                   {4, "&Clear"}, {"l-add", "l-delete", "l-clear"}));
+    EXPECT_STREQ(kRows[2].pKey, "l-add");
+    EXPECT_STREQ(kRows[3].pKey, "l-delete");
+    EXPECT_STREQ(kRows[4].pKey, "l-clear");
 }
 
 TEST(PageLayoutTest, TheFirstOfTheRadioLinesBeginsTheGroup)

@@ -373,7 +373,11 @@ TEST_F(CWholeTreeTest, EveryCategoryButtonSelectsThePageAtItsOwnPlaceAndItsLabel
                         EXPECT_EQ(SelectedPath(),
                                   bLeads ? sCategory + '/' + Bracketed(rCategory.pages[n].pLabel)
                                          : sCategory);
-                        EXPECT_EQ(mDialog.GetDlgItem(IDOK)->IsWindowEnabled(), bLeads);
+                        // The optimization wizard has something to insert on its last step only.
+                        const bool bAtOnce =
+                            bLeads && rCategory.pages[n].pClass !=
+                                          std::string_view("COptimizationWizardPage");
+                        EXPECT_EQ(mDialog.GetDlgItem(IDOK)->IsWindowEnabled(), bAtOnce);
                     }));
         }
     }

@@ -16,8 +16,8 @@ using TFieldValues = std::vector<std::string>; ///< `key=value`
 struct TSourceCase {
     const char* pName;
     TFieldValues fields;
-    std::string sLine;    ///< what is inserted; empty when nothing is
-    std::string sMessage; ///< what the page says when it refuses
+    std::string sLine;         ///< what is inserted; empty when nothing is
+    std::string sMessage = {}; ///< what the page says when it refuses
 };
 
 /// Runs the cases on the page of this path, each in a fresh process. `rCommon`: fields that are
