@@ -33,7 +33,7 @@ constexpr const char* kRulesHere = "unix";
 
 constexpr const char* kPageHelp = "Tree path in any letter case, or class name";
 
-constexpr const char* kWordHelp = "Only those that have it in their name or explanation";
+constexpr const char* kWordHelp = "Only those that have it in their name, key or explanation";
 
 constexpr const char* kCommonFooter =
     "--code-page and --rules may be given, too; quorvawiz --help tells them.";

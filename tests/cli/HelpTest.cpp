@@ -100,7 +100,7 @@ TEST(Help, Options)
 Usage: quorvawiz options [OPTIONS] [WORD]
 
 Positionals:
-  WORD                        Only those that have it in their name or explanation
+  WORD                        Only those that have it in their name, key or explanation
 
 Options:
   -h,--help                   Print this help and exit

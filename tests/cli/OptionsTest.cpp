@@ -148,7 +148,7 @@ TEST(Options, ExplanationsAreTheSameUnderAnyCodePage)
 TEST(Options, AWordThatNoOptionHasIsSaidAndEndsWithOne)
 {
     const std::string sComplaint =
-        "quorvawiz: no option has \"foo\" in its name or its explanation\n";
+        "quorvawiz: no option has \"foo\" in its name, its key or its explanation\n";
     EXPECT_EQ(gRunQuorvawiz({"options", "foo"}), (TProgramRun{"", sComplaint, 1}));
     EXPECT_EQ(gRunQuorvawiz({"options", "foo", "--json"}), (TProgramRun{"[]\n", sComplaint, 1}));
 }

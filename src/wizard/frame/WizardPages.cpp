@@ -1,6 +1,6 @@
 #include "wizard/frame/WizardPages.h"
 
-// A page joins the wizard by its row: NotBuilt(...) becomes Page<class C...Page>(...).
+// A page joins the wizard by its row.
 // Nothing else has to know the class; its own source instantiates gRuntimeClass for it.
 
 namespace
@@ -15,11 +15,6 @@ template <class TPage> TTreeRow Page(int nOrder, const char* pLabel)
 {
     const CRuntimeClass& rClass = gRuntimeClass<TPage>();
     return {nOrder, pLabel, rClass.GetName(), &rClass, false};
-}
-
-TTreeRow NotBuilt(int nOrder, const char* pLabel, std::string_view sClass)
-{
-    return {nOrder, pLabel, sClass, nullptr, false};
 }
 
 } // namespace

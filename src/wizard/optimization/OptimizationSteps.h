@@ -170,7 +170,7 @@ constexpr auto LimitsLines()
 
 constexpr auto AlgorithmLines()
 {
-    constexpr int kDescriptionHeight = 41; // five lines
+    constexpr int kDescriptionHeight = 43; // five lines, in larger letters too
     constexpr TColumns kLeft{.nField = 80};
     constexpr TColumns kRight{.nField = 180};
     return Tight(Space(2),

@@ -39,11 +39,11 @@ TEST_F(PowerPage, BuildsThePowerCommandAndMissesItsSourceUntranslated)
 
 TEST_F(PowerPage, ItsTextsAreThoseOfTheTemplate)
 {
-    EXPECT_EQ(
-        gShownBy("COutputPowerPage"),
-        (std::vector<std::string>{
-            "source: &Voltage source or resistor through which to compute power dissipated:",
-            "start-time: &Start time (0): [sec]", "end-time: &End time (simulation end): [sec]"}));
+    EXPECT_EQ(gShownBy("COutputPowerPage"), R"(
+source: &Voltage source or resistor through which to compute power dissipated:
+start-time: &Start time (0): [sec]
+end-time: &End time (simulation end): [sec]
+)");
 }
 
 TEST_F(PowerPage, ASuccessIsRememberedWithItsSourceTrimmedAndItsTimesAsTyped)

@@ -155,6 +155,8 @@ const TAddCase kAddCases[] = {
     {"general: a value alone", gGeneral("", "2u"), false},
     {"general: both", gGeneral("w", "2u"), true},
     {"general: the value taken away", gJoin({gGeneral("w", "2u"), {Set("third", "")}}), false},
+    {"general: the name after the value", {Set("third", "2u"), Set("second", "w")}, true},
+    {"general: the name taken away", gJoin({gGeneral("w", "2u"), {Set("second", "")}}), false},
     {"blanks are texts", gGeneral(" ", " "), true},
     {"a change of type disables it",
      gJoin({gGeneral("w", "2u"), {Select("parameter-type", "Optimization")}}), false},

@@ -103,8 +103,12 @@ std::vector<CScript::TAction> Looks(const TOption& rOption)
     std::vector<CScript::TAction> looks{
         look::Selected("option-list", rOption.nIndex), look::Text("explanation", pExplanation),
         look::Label(pValue, rOption.pLabel), look::Text("unit", rOption.pUnit), ValueIn(pValue)};
-    if (bEdit)
+    if (bEdit) {
+        // The list that isn't shown starts anew, too.
+        looks.push_back(look::Entries("value-list", Bracketed({"Off", "On"})));
+        looks.push_back(look::Selected("value-list", -1));
         return looks;
+    }
     looks.push_back(look::Entries("value-list", Bracketed(gChoicesOf(rOption).entries)));
     looks.push_back(look::Text("value-list", "[" + std::string(rOption.pChosen) + "]"));
     return looks;

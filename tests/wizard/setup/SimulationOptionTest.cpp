@@ -2,6 +2,7 @@
 
 #include "wizard/setup/SimulationOption.h"
 
+#include "support/TranslationScope.h"
 #include "support/options/OptionRows.h"
 #include "wizard/setup/SimulationOptionTable.h"
 
@@ -93,8 +94,9 @@ const TCase kCases[] = {
     {"behind the options", 102, 0, "9", "Internal Error! Unrecognized option selection!"},
 };
 
-TEST(SimulationOption, TheCommandGoesByTheKind)
+TEST(SimulationOption, TheCommandGoesByTheKindAndIsNotTranslated)
 {
+    const CBracketTranslation translation;
     for (const TCase& rCase : kCases) {
         EXPECT_EQ(gOptionCommand(rCase.nOption, rCase.nChoice, rCase.pText), rCase.pCommand)
             << rCase.pName;
