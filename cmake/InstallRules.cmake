@@ -10,7 +10,7 @@ install(TARGETS quorvawiz-core EXPORT quorvawizTargets)
 if(TARGET quorvawiz-cli)
     install(TARGETS quorvawiz-cli)
     install(FILES "${PROJECT_SOURCE_DIR}/docs/cli.md" "${PROJECT_SOURCE_DIR}/docs/session.md"
-        "${PROJECT_SOURCE_DIR}/docs/call.md"
+        "${PROJECT_SOURCE_DIR}/docs/call.md" "${PROJECT_SOURCE_DIR}/docs/params.md"
         DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 endif()
 

@@ -39,7 +39,7 @@ quorvawiz_add_shared(quorvaplatform platform foundation qt)
 target_link_libraries(quorvaplatform PUBLIC Qt6::Widgets Boost::headers PRIVATE ICU::uc)
 
 quorvawiz_add_shared(quorvawiz params wizard browser exports)
-target_link_libraries(quorvawiz PUBLIC quorvaplatform PRIVATE ICU::uc)
+target_link_libraries(quorvawiz PUBLIC quorvaplatform PRIVATE ICU::uc Boost::serialization)
 set(exportedSymbols "${CMAKE_CURRENT_SOURCE_DIR}/exports/ExportedSymbols.map")
 target_link_options(quorvawiz PRIVATE "LINKER:--version-script=${exportedSymbols}")
 set_target_properties(quorvawiz PROPERTIES LINK_DEPENDS "${exportedSymbols}")

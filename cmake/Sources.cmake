@@ -32,6 +32,6 @@ function(quorvawiz_add_floor name)
     set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
     target_include_directories(${target} PRIVATE
         "${PROJECT_SOURCE_DIR}/src" "${PROJECT_BINARY_DIR}/generated")
-    target_link_libraries(${target} PRIVATE quorvawiz-flags ICU::uc Boost::headers)
+    target_link_libraries(${target} PRIVATE quorvawiz-flags ICU::uc Boost::serialization)
     target_sources(quorvawiz-core PRIVATE $<TARGET_OBJECTS:${target}>)
 endfunction()

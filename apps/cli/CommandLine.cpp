@@ -12,6 +12,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
+#include <limits>
 #include <span>
 #include <string>
 #include <string_view>
@@ -63,6 +65,16 @@ constexpr const char* kCallFooter =
   {"fn":"gConcatenatePaths","args":["C:\\a","\\b"]}
   {"ok":true,"result":"C:\\b"}
 The document call.md tells all functions; --list lists them.)";
+
+constexpr const char* kParamsFooter =
+    R"(Each ACTION does one thing with the file:
+  info      counts what is in it
+  check     looks for names that lead nowhere
+  dump      tells everything as JSON
+  save OUT  writes it anew
+
+Exit code: 0 done, 1 the file can't be read or written, or check found such a
+name, 2 an argument is wrong.)";
 
 void AddJsonFlag(CLI::App& rCommand, bool& rbJson)
 {
@@ -134,6 +146,32 @@ struct TCallArguments {
     bool bList = false;
 };
 
+/// The options of `make-example` as they were written.
+struct TExampleArguments {
+    std::string sOut;
+    std::string sDevices = "1000";
+    std::string sSeed = "1";
+};
+
+template <class TNumber>
+TNumber ReadWhole(const char* pOption, const std::string& rsNumber, TNumber nMost)
+{
+    TNumber nNumber = 0;
+    const char* const pEnd = rsNumber.data() + rsNumber.size();
+    const auto read = std::from_chars(rsNumber.data(), pEnd, nNumber);
+    if (read.ec != std::errc() || read.ptr != pEnd || nNumber > nMost || rsNumber[0] == '-')
+        throw CUsageError(std::string(pOption) + " takes a number from 0 to " +
+                          std::to_string(nMost) + ", not " + gQuoted(rsNumber));
+    return nNumber;
+}
+
+TMakeExampleOptions ReadExampleOptions(const TExampleArguments& rArguments)
+{
+    constexpr int mostDevices = 10'000'000;
+    return {rArguments.sOut, ReadWhole("--devices", rArguments.sDevices, mostDevices),
+            ReadWhole("--seed", rArguments.sSeed, std::numeric_limits<std::uint64_t>::max())};
+}
+
 TCallOptions ReadCallOptions(const TCallArguments& rArguments)
 {
     TCallOptions options;
@@ -168,6 +206,7 @@ public:
 private:
     CLI::App* AddCommand(const char* pName, const char* pDescription);
     void AddCall();
+    void AddParams();
     void ThrowLeftOver() const;
     TCommandLine Collect();
 
@@ -180,12 +219,16 @@ private:
     TComposeOptions mCompose;
     TOptionsOptions mOptions;
     TCallArguments mCall;
+    TParamsOptions mParams;
+    TExampleArguments mExample;
     CLI::App* mpPages;
     CLI::App* mpDescribe;
     CLI::App* mpCompose;
     CLI::App* mpOptions;
     CLI::App* mpSession;
     CLI::App* mpCall = nullptr;
+    CLI::App* mpParams = nullptr;
+    CLI::App* mpExample = nullptr;
     CLI::Option* mpVariables = nullptr;
     CLI::Option* mpActions;
 };
@@ -225,6 +268,7 @@ CParser::CParser()
     mpSession->footer(std::string(kSessionFooter) + "\n" + kCommonFooter);
 
     AddCall();
+    AddParams();
 }
 
 void CParser::AddCall()
@@ -248,6 +292,29 @@ void CParser::AddCall()
     mpCall->add_flag("--log", mCall.bLog, "Tell the path logger's lines in each reply");
     mpCall->add_flag("--list", mCall.bList, "List the functions and exit");
     mpCall->footer(std::string(kCallFooter) + "\n" + kCommonFooter);
+}
+
+void CParser::AddParams()
+{
+    mpParams = AddCommand("params", "Look into a params file, or write it anew");
+    mpParams->add_option("FILE", mParams.sFile, "The params file")->type_name("")->required();
+    mpParams->add_option("ACTION", mParams.sAction, "What to do: info, check, dump or save")
+        ->type_name("")
+        ->required();
+    mpParams->add_option("OUT", mParams.sOut, "For save: the file to write")->type_name("");
+    AddJsonFlag(*mpParams, mParams.bJson);
+    mpParams->add_flag("--xml", mParams.bXml, "For save: as XML, which can't be read back");
+    mpParams->add_flag("--verbose", mParams.bVerbose, "Tell where a file is refused, and why");
+    mpParams->footer(std::string(kParamsFooter) + "\n" + kCommonFooter);
+
+    mpExample = AddCommand("make-example", "Write a params file of a plausible circuit");
+    mpExample->add_option("OUT", mExample.sOut, "The file to write")->type_name("")->required();
+    mpExample->add_option("--devices", mExample.sDevices, "How many devices")
+        ->type_name("NUMBER")
+        ->capture_default_str();
+    mpExample->add_option("--seed", mExample.sSeed, "The same seed makes the same file")
+        ->type_name("NUMBER")
+        ->capture_default_str();
 }
 
 CLI::App* CParser::AddCommand(const char* pName, const char* pDescription)
@@ -285,8 +352,8 @@ std::variant<TCommandLine, TInformation> CParser::Read(int nArguments,
 /// Where a command is missing, the parser doesn't say what stands in its place.
 void CParser::ThrowLeftOver() const
 {
-    static const std::vector<std::string> sCommands{"pages",   "describe", "compose",
-                                                    "options", "session",  "call"};
+    static const std::vector<std::string> sCommands{
+        "pages", "describe", "compose", "options", "session", "call", "params", "make-example"};
     const std::vector<std::string> rest = mApp.remaining();
     if (!mApp.get_subcommands().empty() || rest.empty())
         return;
@@ -316,6 +383,10 @@ TCommandLine CParser::Collect()
     } else if (mpCall->parsed()) {
         mCall.variables = mpVariables->results();
         line.command = ReadCallOptions(mCall);
+    } else if (mpParams->parsed()) {
+        line.command = mParams;
+    } else if (mpExample->parsed()) {
+        line.command = ReadExampleOptions(mExample);
     } else {
         line.command = TSessionOptions();
     }

@@ -5,6 +5,8 @@
 #include "cli/OptionsCommand.h"
 #include "cli/PagesCommand.h"
 #include "cli/call/CallCommand.h"
+#include "cli/example/MakeExampleCommand.h"
+#include "cli/params/ParamsCommand.h"
 #include "platform/base/CodePage.h"
 
 #include <string>
@@ -22,7 +24,7 @@ struct TCommandLine {
     unsigned nCodePage = kCodePageUtf8; ///< known
     bool bUnixRules = false;            ///< path rules of the Unix side
     std::variant<TPagesOptions, TDescribeOptions, TComposeOptions, TOptionsOptions, TSessionOptions,
-                 TCallOptions>
+                 TCallOptions, TParamsOptions, TMakeExampleOptions>
         command;
 };
 

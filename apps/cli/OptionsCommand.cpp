@@ -138,7 +138,8 @@ int gRunOptions(const TOptionsOptions& rOptions)
     gWriteOut(gTellOptions(rOptions));
     if (!Find(rOptions.sWord).empty())
         return kDone;
-    gComplain("no option has " + gQuoted(rOptions.sWord) + " in its name, its key or its explanation");
+    gComplain("no option has " + gQuoted(rOptions.sWord) +
+              " in its name, its key or its explanation");
     return kNothingDone;
 }
 

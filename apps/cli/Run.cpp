@@ -22,6 +22,8 @@ struct TRunCommand {
     int operator()(const TOptionsOptions& rOptions) const { return gRunOptions(rOptions); }
     int operator()(const TSessionOptions&) const { return gRunSession(); }
     int operator()(const TCallOptions& rOptions) const { return gRunCall(rOptions); }
+    int operator()(const TParamsOptions& rOptions) const { return gRunParams(rOptions); }
+    int operator()(const TMakeExampleOptions& rOptions) const { return gRunMakeExample(rOptions); }
 };
 
 int Run(int nArguments, const char* const* ppArguments)

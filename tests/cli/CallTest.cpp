@@ -389,4 +389,49 @@ TEST(Call, OptionsThatCantBeRead)
         EXPECT_EQ(gRunQuorvawiz(rCase.arguments),
                   (TProgramRun{"", "quorvawiz: " + rCase.sError + '\n', 2}));
 }
+TEST(Call, Store)
+{
+    const std::string sUnset = R"({"kind":"double","value":"uninitialized"})";
+    ExpectReplies(
+        {},
+        {
+            Gives("ParamValueToText", "1500.0", R"("1.5k")"),
+            Gives("ParamValueToText", "-7", R"("-7")"),
+            Gives("ParamValueToText", "true", R"("true")"),
+            Gives("ParamValueToText", sUnset, R"("<uninitialized>")"),
+            Gives("ParamValueToText", R"({"kind":"double","value":"nan"})", R"("NaN")"),
+            Gives("ParamValueToText", R"({"kind":"double","value":"-inf"})", R"("-inf")"),
+            Gives("ParamValueToText", R"({"hex":"c3a9"})", "\"\u00e9\""),
+            Gives("SetParamValue", "1,2.5,0", R"({"kind":"bool","value":true})"),
+            Gives("SetParamValue", "2,2.5,0", R"({"kind":"int","value":3})"),
+            Gives("SetParamValue", R"(2,{"kind":"double","value":"inf"},0)",
+                  R"({"kind":"int","value":2147483647})"),
+            Gives("SetParamValue", "3,true,0", R"({"kind":"double","value":1.0})"),
+            Gives("SetParamValue", R"(5,"a",0)", R"({"kind":"text","value":"a"})"),
+            Gives("SetParamValue", "7,null,0", sUnset),
+            Gives("SetParamValue", "4,null,0", R"({"kind":"int","value":0})"),
+            Fails(R"({"fn":"SetParamValue","args":[1,null,0]})",
+                  "boost::bad_any_cast: failed conversion using boost::any_cast"),
+            Gives("gGetModelsFilePath", R"("Sim","dat")", R"("SimModels_v2021.264.dat")"),
+            Gives("CompareTolerant", "1,2,1e-12", "-1"),
+            Gives("CompareTolerant", "1,1.000000000001,1e-12", "0"),
+            Gives("CompareTolerant", R"("uninitialized","uninitialized",1)", "1"),
+            Gives("CompareTolerant", R"("nan",1,1)", "0"),
+            Gives("CompareModelClassHeaders", R"({"type":"zz"},{"type":"aaa"})", "true"),
+            Gives("CompareModelClassHeaders",
+                  R"({"name":"a","level":2,"version":1.5},{"name":"a","level":2})", "false"),
+            Fails(R"({"fn":"CompareModelClassHeaders","args":[{},{"x":1}]})",
+                  "CompareModelClassHeaders(class header, class header): argument 2 isn't a class "
+                  "header: its members are name, type, level, version and description"),
+            Gives("TBidirectionalStringToIntMap",
+                  R"([["Add","a",5],["Add","b",2],["Add","a",9],["Find","a"],["GetName",2],)"
+                  R"(["GetName",5],["GetCount"]])",
+                  R"({"results":[5,2,5,5,"b","",3],"index":[{"name":"a","id":5},)"
+                  R"({"name":"b","id":2}],"table":["","","b"]})"),
+            Fails(R"({"fn":"TBidirectionalStringToIntMap","args":[[["Add","a",1000001]]]})",
+                  "TBidirectionalStringToIntMap(operations): operation 1 takes ids up to 1000000 "
+                  "only"),
+        });
+}
+
 } // namespace

@@ -30,6 +30,8 @@ Subcommands:
   options                     List the options of the simulator
   session                     Drive the wizard by lines of JSON
   call                        Call functions of the foundation by lines of JSON
+  params                      Look into a params file, or write it anew
+  make-example                Write a params file of a plausible circuit
 )");
 }
 
@@ -155,4 +157,49 @@ TEST(Help, TheShortFormIsTheSame)
     ExpectHelp({"compose", "-h"}, gRunQuorvawiz({"compose", "--help"}).sOut);
     ExpectHelp({"compose", "Settings", "x", "--help"}, gRunQuorvawiz({"compose", "-h"}).sOut);
 }
+TEST(Help, Params)
+{
+    ExpectHelp({"params", "--help"}, R"(Look into a params file, or write it anew
+Usage: quorvawiz params [OPTIONS] FILE ACTION [OUT]
+
+Positionals:
+  FILE REQUIRED               The params file
+  ACTION REQUIRED             What to do: info, check, dump or save
+  OUT                         For save: the file to write
+
+Options:
+  -h,--help                   Print this help and exit
+  --json                      One line of JSON instead of text
+  --xml                       For save: as XML, which can't be read back
+  --verbose                   Tell where a file is refused, and why
+
+Each ACTION does one thing with the file:
+  info      counts what is in it
+  check     looks for names that lead nowhere
+  dump      tells everything as JSON
+  save OUT  writes it anew
+
+Exit code: 0 done, 1 the file can't be read or written, or check found such a
+name, 2 an argument is wrong.
+--code-page and --rules may be given, too; quorvawiz --help tells them.
+)");
+}
+
+TEST(Help, MakeExample)
+{
+    ExpectHelp({"make-example", "--help"}, R"(Write a params file of a plausible circuit
+Usage: quorvawiz make-example [OPTIONS] OUT
+
+Positionals:
+  OUT REQUIRED                The file to write
+
+Options:
+  -h,--help                   Print this help and exit
+  --devices NUMBER=1000       How many devices
+  --seed NUMBER=1             The same seed makes the same file
+
+--code-page and --rules may be given, too; quorvawiz --help tells them.
+)");
+}
+
 } // namespace

@@ -30,10 +30,11 @@ TEST(Tour, InsertsItsCommandsAndTakesAPictureOfEachWindow)
                                   ".tran 1u 800u sweep lin param rs 5k 20k 5k\n"
                                   ".ac dec 20 10 1meg\n"
                                   ".dc source V1 lin 11 0 1\n"
+                                  ".measure tran delay trig at=0 targ v(out) val=0.5 cross=1\n"
                                   ".end\n");
     EXPECT_EQ(CFileFolder::Read(sPath), netlist);
     const QStringList pictures = QDir(sPictures).entryList(QDir::Files, QDir::Name);
-    EXPECT_EQ(pictures.size(), 17);
+    EXPECT_EQ(pictures.size(), 18);
     for (const QString& rsPicture : pictures)
         EXPECT_FALSE(QImage(QDir(sPictures).filePath(rsPicture)).isNull())
             << rsPicture.toStdString();

@@ -15,7 +15,7 @@ std::vector<TCallFunction> MakeTable()
 {
     std::vector<TCallFunction> table;
     for (auto* const pFamily :
-         {gNumberCalls, gPathCalls, gDiskCalls, gStringCalls, gTextFileCalls}) {
+         {gNumberCalls, gPathCalls, gDiskCalls, gStringCalls, gTextFileCalls, gStoreCalls}) {
         std::vector<TCallFunction> family = pFamily();
         std::ranges::move(family, std::back_inserter(table));
     }

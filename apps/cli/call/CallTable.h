@@ -14,6 +14,7 @@ std::vector<TCallFunction> gPathCalls();
 std::vector<TCallFunction> gDiskCalls();
 std::vector<TCallFunction> gStringCalls();
 std::vector<TCallFunction> gTextFileCalls();
+std::vector<TCallFunction> gStoreCalls();
 
 /// Every function that can be called, in the order of their names.
 const std::vector<TCallFunction>& gCallTable();

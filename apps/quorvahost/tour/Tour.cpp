@@ -80,6 +80,7 @@ void CTour::VisitWizard(QWidget& rWizard)
     InsertTransient(rWizard);
     InsertAC(rWizard);
     InsertDC(rWizard);
+    InsertMeasure(rWizard);
     mUser.Press(QKeySequence(Qt::Key_Escape));
 }
 
@@ -159,6 +160,20 @@ void CTour::InsertDC(QWidget& rWizard)
     CUser::Click(CWizardUser::Control(rWizard, "sweep-1"));
     CUser::Click(CWizardUser::Control(rWizard, "insert"));
     Picture(rWizard, "dc");
+}
+
+/// When the output has risen to half of the input, counted from the beginning.
+void CTour::InsertMeasure(QWidget& rWizard)
+{
+    mUser.OpenPage(rWizard, QStringLiteral("Output"), QStringLiteral("Measure"));
+    mUser.Press(QKeySequence(Qt::ALT | Qt::Key_Y));
+    mUser.Type(QStringLiteral("Transient"));
+    mUser.Fill(rWizard, "result-name", QStringLiteral("delay"));
+    mUser.Fill(rWizard, "at-value", QStringLiteral("0"));
+    mUser.Fill(rWizard, "target-signal", QStringLiteral("v(out)"));
+    mUser.Fill(rWizard, "target-value", QStringLiteral("0.5"));
+    CUser::Click(CWizardUser::Control(rWizard, "insert"));
+    Picture(rWizard, "measure");
 }
 
 void CTour::VisitFindBar()

@@ -29,6 +29,7 @@ private:
     void InsertTransient(QWidget& rWizard);
     void InsertAC(QWidget& rWizard);
     void InsertDC(QWidget& rWizard);
+    void InsertMeasure(QWidget& rWizard);
     void VisitFindBar();
     void VisitFileDialogs();
     void VisitAbout();

@@ -34,3 +34,8 @@ std::string gToSystemFileName(const CString& rsName)
     return nCodePage == kCodePageUtf8 ? ToPosix(sName)
                                       : gToSystemPath(gMultiByteToWide(sName, nCodePage));
 }
+
+std::string gToSystemPathOfUtf8(std::string_view sPath)
+{
+    return ToPosix(sPath);
+}

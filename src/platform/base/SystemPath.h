@@ -15,3 +15,8 @@
 /// gToSystemPath. Where the code page is UTF-8, bytes that are no characters stay as they are.
 /// @param rsName 8-bit text in the system's code page
 [[nodiscard]] std::string gToSystemFileName(const CString& rsName);
+
+/// A path in UTF-8 as the calls of a POSIX system take it: as gToSystemPath, but bytes that are no
+/// characters stay as they are, whatever the system's code page is.
+/// @param sPath 8-bit text in UTF-8
+[[nodiscard]] std::string gToSystemPathOfUtf8(std::string_view sPath);

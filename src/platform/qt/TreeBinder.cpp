@@ -30,6 +30,8 @@ public:
         Widget().setFocusPolicy(Qt::StrongFocus);
         gSpaceRows(Widget());
         gNameField(rWnd, Widget());
+        // Less than the style's, so that the longest label of the wizard's tree stands whole.
+        Widget().setIndentation(14);
         connect(&Widget(), &QTreeWidget::itemSelectionChanged, this, [this] { OnMoved(); });
         connect(&Widget(), &QTreeWidget::currentItemChanged, this, [this] { OnMoved(); });
         connect(&Widget(), &QTreeWidget::itemExpanded, this,
