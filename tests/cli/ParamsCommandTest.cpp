@@ -208,3 +208,9 @@ TEST(Params, WrongArguments)
 }
 
 } // namespace
+    EXPECT_EQ(gRunQuorvawiz({"params", "/proc/self/mem", "info", "--verbose"}),
+              (TProgramRun{"",
+                           "Error reading data file '/proc/self/mem': Params file ReadThis() "
+                           "operation failed!\n"
+                           "quorvawiz: byte 0: the system can't read the file here\n",
+                           1}));

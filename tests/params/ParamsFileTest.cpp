@@ -216,6 +216,18 @@ TEST(ParamsFileTest, TheDetailTellsByteAndReason)
     }
 }
 
+TEST(ParamsFileTest, ARefusalOfTheSystemHasItsByteToo)
+{
+    TCircuitParams store;
+    try {
+        store.ReadThis("/proc/self/mem", ""); // which can be opened; nothing is at its begin
+        ADD_FAILURE();
+    } catch (const CParamsFileError& rError) {
+        EXPECT_STREQ(rError.what(), kReadFailed);
+        EXPECT_EQ(rError.GetDetail(), "byte 0: the system can't read the file here");
+    }
+}
+
 TEST(ParamsFileTest, AFileInTextModeOnTheDisk)
 {
     const CTempFolder folder;
