@@ -283,9 +283,12 @@ TEST(ParamsFileTest, XmlHasItsElementsAndDoesNotRoundTrip)
     std::string sOther = sXml;
     sOther.replace(sOther.find("cCircuitParams"), 14, "CircuitParams");
     sOther.replace(sOther.find("cCircuitParams"), 14, "CircuitParams");
-    TCircuitParams read;
-    read.ReadThis(folder.Write("q", sOther), "XML");
-    EXPECT_EQ(gDescribe(read), gDescribe(store));
+    for (const char* const pFormat : {"XML", "xml", "xMl"}) {
+        TCircuitParams read;
+        EXPECT_EQ(read.ReadThis(folder.Write("q", sOther), pFormat), 0);
+        EXPECT_EQ(gDescribe(read), gDescribe(store)) << pFormat;
+    }
+    EXPECT_EQ(ReadIt(folder.Path("q"), "XML "), kReadFailed); // no text archive
 }
 
 TEST(ParamsFileTest, XmlOfAnyClassCanNotBeWritten)
