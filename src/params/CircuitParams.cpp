@@ -146,3 +146,17 @@ std::vector<TDeviceListEntry> TCircuitParams::GetDeviceList(int nSubckt) const
     }
     return list;
 }
+
+// The two that look things up in the store stand with it, so that a model or a device by itself
+// needn't know the store.
+
+void TModelData::LinkClass(const TCircuitParams& rStore) const
+{
+    mpModelClassDef = rStore.GetModelClass(mModelHeader.msClass);
+}
+
+void TDeviceData::Link(const TCircuitParams& rStore) const
+{
+    mpModelClassDef = rStore.GetModelClass(mModelHeader.msClass);
+    mpModelData = rStore.GetModelData(mModelHeader.mnSubckt, mModelHeader.msName);
+}

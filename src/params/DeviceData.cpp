@@ -1,13 +1,5 @@
 #include "params/DeviceData.h"
 
-#include "params/CircuitParams.h"
-
-void TDeviceData::Link(const TCircuitParams& rStore) const
-{
-    mpModelClassDef = rStore.GetModelClass(mModelHeader.msClass);
-    mpModelData = rStore.GetModelData(mModelHeader.mnSubckt, mModelHeader.msName);
-}
-
 std::vector<TParamDef> TDeviceData::GetModelParams() const
 {
     return mpModelData != nullptr ? mpModelData->GetParams() : std::vector<TParamDef>();

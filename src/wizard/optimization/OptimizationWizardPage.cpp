@@ -86,7 +86,7 @@ public:
         for (CString& rsValue : mAlgorithm.mValues)
             gTrimLeft(rsValue);
         if (mAlgorithm.msName.IsEmpty())
-            return gReportFailure(*this, msMessage, "Missing model name."); // meant: in English
+            return gReportFailure(*this, msMessage, "Missing model name."); // Meant: in English
         UpdateData(false);
         rsCommand = gOptimizationBlock(
             {msOptimizationName, msAnalysisName, msGoalLines, msLimitsLines, mAlgorithm});

@@ -90,7 +90,7 @@ const char* AppendFoundWhen(const TFields& rFields, const TEvent& rEvent, const 
 {
     if (rFields.mnFindChoice == kFindValue) {
         if (rFields.msFindSignal.IsEmpty())
-            return "__$$Translatable$$_Missing output signal #1"; // meant: no full stop here
+            return "__$$Translatable$$_Missing output signal #1"; // Meant: no full stop
         rsPart += "find " + rFields.msFindSignal + " ";
     }
     if (rEvent.msSignal.IsEmpty())

@@ -18,7 +18,7 @@ constexpr TPlotType kTypes[] = {
      .nLayers = kFirstLayer | kTerminalLayer | kFormatLayer,
      .pFirstLabel = kDeviceLabel,
      .pSecondLabel = kTerminalNumberLabel,
-     .needs = {{{kFirstName, kMissingNode}}}, // meant: not the device
+     .needs = {{{kFirstName, kMissingNode}}}, // Meant: not the device
      .pBody = "i%f%t(%1)",
      .formatTexts = kComplexTexts},
     {.pEntry = "Current (by node name)",
@@ -40,7 +40,7 @@ constexpr TPlotPage kPage{
     .pKeyword = ".print ac",
     .types = kTypes,
     .bFormats = true,
-    .bOpensRefreshed = false, // meant, other than its siblings
+    .bOpensRefreshed = false, // Meant, other than its siblings
     .add = kNameTrimmed,
     .build = kNameTrimmed,
 };
