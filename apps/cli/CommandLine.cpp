@@ -89,7 +89,9 @@ CUsageError AsUsageError(const CLI::Error& rError)
     std::string sText = gPrintable(rError.what());
     while (sText.ends_with('\n') || sText.ends_with('.'))
         sText.pop_back();
-    if (!sText.empty() && !sText.starts_with("PAGE"))
+    // An argument's name, such as "PAGE", stays as the help shows it.
+    const auto isCapital = [](char c) { return c >= 'A' && c <= 'Z'; };
+    if (!sText.empty() && !(sText.size() > 1 && isCapital(sText[1])))
         sText.front() = gToLowerAscii(sText.front());
     return CUsageError(sText + kSeeHelp);
 }

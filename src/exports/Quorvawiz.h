@@ -20,8 +20,8 @@ namespace quorvawiz
 /// The current desktop (`gSetDesktop`) shows the dialog. Exceptions of the target pass through.
 void gInvokeSpiceCommandWizard(CWnd* pParent, QuorvaCommandWizardTarget* pTarget);
 
-/// Reads a params file, which the simulator writes, into a new store. Throws nothing but what the
-/// memory's end throws, and shows nothing.
+/// Reads a params file, which the simulator writes, into a new store. Throws nothing, not
+/// even where the memory is at its end, and shows nothing.
 /// `rsPath`: the file.
 /// Result: an empty text, or a message for the user; and the store, which is never null. After a
 /// failure it has what was read so far, so that the text is what to ask.

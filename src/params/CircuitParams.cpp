@@ -104,6 +104,8 @@ const TDeviceData* TCircuitParams::GetDeviceDataNoCase(const CStringU& rsSubckt,
         for (std::size_t nAt = 0; nAt < mSubcktTable.mTable.size(); ++nAt) {
             for (const TDeviceListEntry& rEntry : GetDeviceList(static_cast<int>(nAt))) {
                 const TDeviceKey key(mSubcktTable.mTable[nAt], rEntry.msName);
+                // Of keys that differ in their case alone the first one stays, in the order of this
+                // walk: subcircuits by their ids, not by their names.
                 mDeviceNameIndex.emplace(key, key);
             }
         }

@@ -109,21 +109,20 @@ public:
     }
 
     /// Reads a params file into this store, which is empty. Where the read breaks off, the store
-    /// has what was read so far.
+    /// has what was read so far. A text archive may hold any bytes. An XML archive is read by the
+    /// library as it is, and must come from whom one trusts: a damaged one can crash.
     /// @param rsPath the file, whose path's bytes go to the system
     /// @param rsFormat "XML" in any case for the XML archive, anything else for the text archive
     /// @return the version of a text archive; 0 for XML
-    /// @throws CParamsFileError "Params file open failed!" if the file can't be opened, "Params
-    /// file
-    ///         ReadThis() operation failed!" for everything else
+    /// @throws CParamsFileError "Params file open failed!" if the file can't be opened,
+    ///         "Params file ReadThis() operation failed!" for everything else
     int ReadThis(const CStringU& rsPath, const CStringU& rsFormat);
 
     /// Writes this store to a params file. A file that is there stays whole if that fails. In the
     /// values of devices NaN becomes 123456789.0, in this store too, although it is constant.
     /// @param rsPath, rsFormat as ReadThis. A store with any class can't be written as XML
-    /// @throws CParamsFileError "Params file open failed!" if the file can't be opened, "Params
-    /// file
-    ///         WriteThis() operation failed!" where it can't be written; another exception's own
-    ///         text, such as that of the memory's end
+    /// @throws CParamsFileError "Params file open failed!" if the file can't be opened,
+    ///         "Params file WriteThis() operation failed!" where it can't be written; another
+    ///         exception's own text, such as that of the memory's end
     void WriteThis(const CStringU& rsPath, const CStringU& rsFormat) const;
 };

@@ -16,6 +16,7 @@ struct TReadParamsFile {
     int mnArchiveVersion = 0;                  ///< on success that of the file
 };
 
-/// Reads a params file into a new store. Throws nothing but what the memory's end throws.
+/// Reads a params file into a new store, and tells in a message what goes wrong. Where there is no
+/// memory for that message either, it is "Out of memory".
 /// @param rsPath the file
-[[nodiscard]] TReadParamsFile gReadParamsFile(const CStringU& rsPath);
+[[nodiscard]] TReadParamsFile gReadParamsFile(const CStringU& rsPath) noexcept;

@@ -4,7 +4,8 @@
 
 class TCircuitParams;
 
-/// Reads an XML archive into a store, whose element is "CircuitParams".
+/// Reads an XML archive into a store, whose element is "CircuitParams". The library reads it as it
+/// is, and doesn't check its ids: only for files that are trusted, as a damaged one can crash.
 /// @param rSource the archive
 /// @param rStore an empty store
 /// @throws boost::archive::archive_exception for what isn't such an archive, which is all that

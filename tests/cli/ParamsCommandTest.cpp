@@ -1,3 +1,4 @@
+#include "cli/Shell.h"
 #include "params/CircuitParams.h"
 #include "support/RunProgram.h"
 #include "support/TempFolder.h"
@@ -54,7 +55,8 @@ TEST(MakeExample, WrongArguments)
               (TProgramRun{
                   "", "quorvawiz: --devices takes a number from 0 to 10000000, not \"-1\"\n", 2}));
     EXPECT_EQ(gRunQuorvawiz({"make-example", sOut, "--seed", "x"}).nExitCode, 2);
-    EXPECT_EQ(gRunQuorvawiz({"make-example"}).nExitCode, 2);
+    EXPECT_EQ(gRunQuorvawiz({"make-example"}),
+              (TProgramRun{"", "quorvawiz: OUT is required; --help tells what is possible\n", 2}));
     EXPECT_EQ(gRunQuorvawiz({"make-example", folder.Path("none/a")}),
               (TProgramRun{"", "Params file open failed!\n", 1}));
     EXPECT_FALSE(std::filesystem::exists(sOut));
@@ -149,6 +151,120 @@ TEST(Params, DumpTellsEverythingAsJson)
     EXPECT_EQ(dump["models"][1]["models"].size(), 5U);
 }
 
+/// A store with one of everything, and every kind of value.
+void FillKinds(TCircuitParams& rStore)
+{
+    rStore.AddSubckt("top", 0);
+    rStore.AddSubckt("x3", 3); // leaves a gap
+    TModelClassDef definition;
+    definition.mHeader = {"MOS1", "nmos", 7, 2.5, "a transistor"};
+    TParamDef def;
+    def.msName = "vto";
+    def.mValue = 3;
+    def.mIsSet = true;
+    definition.mDeviceParamDefs.push_back(def);
+    rStore.AddModelClass(definition);
+    TModelData model;
+    model.mModelHeader = {0, "n1", "MOS1", "nmos"};
+    model.mModelParamValues["a"] = true;
+    model.mModelParamValues["bb"] = CStringU(u"\u00E9");
+    rStore.AddModel(model);
+    model.mModelHeader = {3, "lost", "none", "x"};
+    model.mModelParamValues.clear();
+    rStore.AddModel(model);
+    TDeviceData device;
+    device.mDeviceHeader = {3, "m1"};
+    device.mModelHeader = {0, "n1", "MOS1", "nmos"};
+    device.mDeviceParamValues["m"] = -4;
+    device.mDeviceParamValues["ww"] = 0.5;
+    device.mStateParamValues["on"] = false;
+    device.mStateParamValues["vgs"] = kUninitializedParamValue;
+    rStore.AddDevice(device);
+    device = {};
+    device.mDeviceHeader = {3, "r10"};
+    rStore.AddDevice(device);
+}
+
+TEST(Params, DumpOfEveryField)
+{
+    const CTempFolder folder;
+    TCircuitParams store;
+    FillKinds(store);
+    store.WriteThis(folder.Path("a"), "");
+    const TProgramRun run = gRunQuorvawiz({"params", folder.Path("a"), "dump"});
+    EXPECT_EQ(run.nExitCode, 0);
+    const json expected = json::parse(R"({
+      "subcircuits": {"index": [{"name": "x3", "id": 3}, {"name": "top", "id": 0}],
+                      "table": ["top", "", "", "x3"]},
+      "classes": [{"key": "MOS1", "name": "MOS1", "type": "nmos", "level": 7, "version": 2.5,
+                   "description": "a transistor", "model_params": [], "state_params": [],
+                   "device_params": [{"name": "vto", "kind": "int", "value": 3, "is_set": true,
+                                      "units": "", "description": "", "aliases": []}]}],
+      "optical_classes": [],
+      "models": [
+        {"subcircuit": 0, "models": [
+          {"key": "n1", "has_class": true,
+           "model": {"subcircuit": 0, "name": "n1", "class": "MOS1", "type": "nmos"},
+           "values": [{"name": "a", "kind": "bool", "value": true},
+                      {"name": "bb", "kind": "text", "value": "\u00E9"}]}]},
+        {"subcircuit": 3, "models": [
+          {"key": "lost", "has_class": false,
+           "model": {"subcircuit": 3, "name": "lost", "class": "none", "type": "x"},
+           "values": []}]}],
+      "devices": [
+        {"subcircuit": 0, "devices": []},
+        {"subcircuit": 3, "devices": [
+          {"key": "m1", "has_class": true, "has_model": true,
+           "device": {"subcircuit": 3, "name": "m1"},
+           "model": {"subcircuit": 0, "name": "n1", "class": "MOS1", "type": "nmos"},
+           "values": [{"name": "m", "kind": "int", "value": -4},
+                      {"name": "ww", "kind": "double", "value": 0.5}],
+           "state": [{"name": "on", "kind": "bool", "value": false},
+                     {"name": "vgs", "kind": "double", "value": "uninitialized"}]},
+          {"key": "r10", "has_class": false, "has_model": false,
+           "device": {"subcircuit": 3, "name": "r10"},
+           "model": {"subcircuit": 0, "name": "", "class": "", "type": ""},
+           "values": [], "state": []}]}]})");
+    EXPECT_EQ(json::parse(run.sOut), expected) << run.sOut;
+}
+
+TEST(Params, InfoTellsTheVersionOfTheFile)
+{
+    const CTempFolder folder;
+    MakeExample(folder, "a", 1);
+    std::string sFile = folder.Read("a");
+    sFile.replace(sFile.find("archive 17 "), 11, "archive 9 ");
+    const TProgramRun run = gRunQuorvawiz({"params", folder.Write("b", sFile), "info"});
+    EXPECT_THAT(run.sOut, testing::HasSubstr("\narchive version  9\n"));
+    const json info =
+        json::parse(gRunQuorvawiz({"params", folder.Path("b"), "info", "--json"}).sOut);
+    EXPECT_EQ(info["archive_version"], 9);
+}
+
+TEST(Params, SaveAsXmlWithoutAnyClass)
+{
+    const CTempFolder folder;
+    TCircuitParams store;
+    store.AddSubckt("top", 0);
+    TDeviceData device;
+    device.mDeviceHeader = {0, "d1"};
+    store.AddDevice(device);
+    store.WriteThis(folder.Path("a"), "");
+    EXPECT_EQ(gRunQuorvawiz({"params", folder.Path("a"), "save", folder.Path("b"), "--xml"}),
+              (TProgramRun{"", "", 0}));
+    const std::string sXml = folder.Read("b");
+    EXPECT_TRUE(sXml.starts_with("<?xml version=\"1.0\""));
+    EXPECT_THAT(sXml, testing::HasSubstr("<s>d1</s>"));
+    EXPECT_TRUE(sXml.ends_with("</cCircuitParams>\n</boost_serialization>\n\n"));
+}
+
+TEST(Params, SaveToAPipe)
+{
+    const CTempFolder folder;
+    const std::string sPath = MakeExample(folder, "a", 450); // more than a pipe holds at once
+    EXPECT_EQ(gRunShell("quorvawiz params " + sPath + " save /dev/stdout | cat"), folder.Read("a"));
+}
+
 TEST(Params, SaveWritesTheSameFileAndXmlOnlyWithoutClasses)
 {
     const CTempFolder folder;
@@ -174,6 +290,12 @@ TEST(Params, AFileThatCanNotBeRead)
     }
     EXPECT_EQ(gRunQuorvawiz({"params", sPath, "info", "--verbose"}),
               (TProgramRun{"", sMessage + "quorvawiz: byte 34: the file ends here\n", 1}));
+    EXPECT_EQ(gRunQuorvawiz({"params", "/proc/self/mem", "info", "--verbose"}),
+              (TProgramRun{"",
+                           "Error reading data file '/proc/self/mem': Params file ReadThis() "
+                           "operation failed!\n"
+                           "quorvawiz: byte 0: the system can't read the file here\n",
+                           1}));
     const std::string sNone = folder.Path("none");
     EXPECT_EQ(gRunQuorvawiz({"params", sNone, "info"}),
               (TProgramRun{"", "Error reading data file '" + sNone + "': File not found\n", 1}));
@@ -199,8 +321,11 @@ TEST(Params, WrongArguments)
         EXPECT_EQ(gRunQuorvawiz(arguments),
                   (TProgramRun{"", "quorvawiz: " + row.sMessage + '\n', 2}));
     }
-    EXPECT_EQ(gRunQuorvawiz({"params", sPath}).nExitCode, 2);
-    EXPECT_EQ(gRunQuorvawiz({"params"}).nExitCode, 2);
+    EXPECT_EQ(
+        gRunQuorvawiz({"params", sPath}),
+        (TProgramRun{"", "quorvawiz: ACTION is required; --help tells what is possible\n", 2}));
+    EXPECT_EQ(gRunQuorvawiz({"params"}),
+              (TProgramRun{"", "quorvawiz: FILE is required; --help tells what is possible\n", 2}));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // QUORVAWIZ_RUN_LOCALE names the locale in which the tests of this program run, in both libraries.
-// The ctest entry foundation.comma-locale gives one with a decimal comma, and the run fails without
-// it.
+// The ctest entries foundation.comma-locale and params.comma-locale give one with a decimal comma,
+// and the run fails without it.
 
 #include <gtest/gtest.h>
 

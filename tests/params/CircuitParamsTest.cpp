@@ -180,6 +180,21 @@ TEST(CircuitParamsTest, OfDevicesThatDifferInCaseTheFirstInTheMapIsFound)
     EXPECT_EQ(store.mDeviceNameIndex.size(), 1U);
 }
 
+// Not that of the lesser name, which is "X1".
+TEST(CircuitParamsTest, OfSubcircuitsThatDifferInCaseThatOfTheLowerIdIsFound)
+{
+    TCircuitParams store;
+    store.AddSubckt("x1", 1);
+    store.AddSubckt("X1", 2);
+    store.AddDevice(gDevice(1, "m1", {}));
+    store.AddDevice(gDevice(2, "m1", {}));
+    ASSERT_LT(CStringU("X1"), CStringU("x1"));
+    for (const char* const pSubckt : {"x1", "X1"}) {
+        EXPECT_EQ(store.GetDeviceDataNoCase(pSubckt, "M1"), store.GetDeviceData(1, "m1"));
+    }
+    EXPECT_EQ(store.mDeviceNameIndex.size(), 1U);
+}
+
 TEST(CircuitParamsTest, TheDeviceIndexIsFilledOnce)
 {
     TCircuitParams store;

@@ -9,6 +9,7 @@
 #include <boost/archive/text_oarchive.hpp>
 #include <gtest/gtest.h>
 
+#include <locale>
 #include <sstream>
 #include <string>
 
@@ -18,6 +19,7 @@ namespace
 template <class T> std::string StockOf(const T& rValue)
 {
     std::ostringstream stream;
+    stream.imbue(std::locale::classic());
     stream << "22 serialization::archive 17 ";
     {
         boost::archive::text_oarchive archive(stream, boost::archive::no_header);
@@ -49,6 +51,7 @@ template <class T> void ExpectBothAlike(const T& rValue, const std::string& rsEx
     EXPECT_EQ(OursOf(ours), sHead + rsExpected);
     T stock{};
     std::istringstream stream(OursOf(rValue));
+    stream.imbue(std::locale::classic());
     boost::archive::text_iarchive stockArchive(stream);
     stockArchive >> stock;
     EXPECT_EQ(StockOf(stock), sHead + rsExpected);

@@ -216,6 +216,18 @@ TEST(ParamsFileTest, TheDetailTellsByteAndReason)
     }
 }
 
+TEST(ParamsFileTest, ARefusalOfTheSystemHasItsByteToo)
+{
+    TCircuitParams store;
+    try {
+        store.ReadThis("/proc/self/mem", ""); // which can be opened; nothing is at its begin
+        ADD_FAILURE();
+    } catch (const CParamsFileError& rError) {
+        EXPECT_STREQ(rError.what(), kReadFailed);
+        EXPECT_EQ(rError.GetDetail(), "byte 0: the system can't read the file here");
+    }
+}
+
 TEST(ParamsFileTest, AFileInTextModeOnTheDisk)
 {
     const CTempFolder folder;
@@ -271,9 +283,12 @@ TEST(ParamsFileTest, XmlHasItsElementsAndDoesNotRoundTrip)
     std::string sOther = sXml;
     sOther.replace(sOther.find("cCircuitParams"), 14, "CircuitParams");
     sOther.replace(sOther.find("cCircuitParams"), 14, "CircuitParams");
-    TCircuitParams read;
-    read.ReadThis(folder.Write("q", sOther), "XML");
-    EXPECT_EQ(gDescribe(read), gDescribe(store));
+    for (const char* const pFormat : {"XML", "xml", "xMl"}) {
+        TCircuitParams read;
+        EXPECT_EQ(read.ReadThis(folder.Write("q", sOther), pFormat), 0);
+        EXPECT_EQ(gDescribe(read), gDescribe(store)) << pFormat;
+    }
+    EXPECT_EQ(ReadIt(folder.Path("q"), "XML "), kReadFailed); // no text archive
 }
 
 TEST(ParamsFileTest, XmlOfAnyClassCanNotBeWritten)

@@ -1,5 +1,7 @@
 #include "params/PeakMemory.h"
 
+#include "params/FailingMemory.h"
+
 #include <malloc.h>
 
 #include <algorithm>
@@ -11,6 +13,7 @@ namespace
 
 std::size_t gnNow = 0;
 std::size_t gnPeak = 0;
+CFailingMemory* gpFailing = nullptr;
 
 void* Allocate(std::size_t nSize) noexcept
 {
@@ -22,6 +25,9 @@ void* Allocate(std::size_t nSize) noexcept
 
 void* AllocateOrThrow(std::size_t nSize)
 {
+    if (gpFailing != nullptr) {
+        gpFailing->Count();
+    }
     void* const pBlock = Allocate(nSize);
     if (pBlock == nullptr) {
         throw std::bad_alloc();
@@ -50,6 +56,30 @@ std::size_t CPeakMemory::GetPeak() const noexcept
 std::size_t CPeakMemory::GetNow() const noexcept
 {
     return gnNow - mnBefore;
+}
+
+CFailingMemory::CFailingMemory(int nGood, bool bOnce, EError eError) noexcept
+    : mnGood(nGood), mbOnce(bOnce), meError(eError)
+{
+    gpFailing = this;
+}
+
+CFailingMemory::~CFailingMemory()
+{
+    gpFailing = nullptr;
+}
+
+void CFailingMemory::Count()
+{
+    if (mnGood-- > 0 || (mbOnce && mbFailed)) {
+        return;
+    }
+    mnGood = 0;
+    mbFailed = true;
+    if (meError == EError::Stranger) {
+        throw TStranger();
+    }
+    throw std::bad_alloc();
 }
 
 // In the place of the library's, for all of the program. Each form that allocates by malloc has its

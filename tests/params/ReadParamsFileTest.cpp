@@ -78,6 +78,38 @@ TEST(ReadCircuitParametersTest, EveryDamagedFormGivesTheMessage)
     }
 }
 
+// Whatever can be written can be read by the same name.
+TEST(ReadCircuitParametersTest, NamesThatAreNotUtf8)
+{
+    const CTempFolder folder;
+    for (const char* const pName : {"p\xE9.params", "\x80", "\xC3\xA9\xFF", "p\xED\xA0\x80"}) {
+        const CStringU sPath(folder.Path(pName), TTextKind::Utf8IfNeeded);
+        EXPECT_EQ(MessageOf(sPath), "Error reading data file '" + sPath + "': File not found");
+        TCircuitParams store;
+        gFillSample(store);
+        store.WriteThis(sPath, "");
+        EXPECT_EQ(folder.Read(pName), gSampleFile());
+        EXPECT_EQ(MessageOf(sPath), "");
+    }
+    std::filesystem::create_directory(folder.Path("d\xE9"));
+    const CStringU sFolder(folder.Path("d\xE9"), TTextKind::Utf8IfNeeded);
+    EXPECT_EQ(MessageOf(sFolder), "Error reading data file '" + sFolder + "': File not found");
+}
+
+TEST(ReadCircuitParametersTest, ABackslashSeparatesFoldersInWritingAndInReading)
+{
+    const CTempFolder folder;
+    const CStringU sPath = folder.Path("a\\b");
+    folder.Write("a\\b", gSampleFile()); // by the system's own rule, out of reach
+    EXPECT_EQ(MessageOf(sPath), "Error reading data file '" + sPath + "': File not found");
+    std::filesystem::create_directory(folder.Path("a"));
+    const TCircuitParams store;
+    store.WriteThis(sPath, "");
+    EXPECT_TRUE(std::filesystem::is_regular_file(folder.Path("a/b")));
+    EXPECT_EQ(MessageOf(sPath), "");
+    EXPECT_EQ(folder.Read("a\\b"), gSampleFile());
+}
+
 // A file system finds a file where there is none, as if it vanished at once.
 TEST(ReadCircuitParametersTest, AFileThatVanishesGivesTheOpenMessage)
 {

@@ -11,6 +11,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <locale>
 #include <map>
 #include <sstream>
 #include <stdexcept>
@@ -25,6 +26,7 @@ std::string gOursOf(const TCircuitParams& rStore)
 std::string gStockOf(const TCircuitParams& rStore)
 {
     std::ostringstream stream;
+    stream.imbue(std::locale::classic());
     stream << "22 serialization::archive 17 ";
     {
         boost::archive::text_oarchive archive(stream, boost::archive::no_header);
@@ -42,6 +44,7 @@ void gReadOurs(std::string_view sBytes, TCircuitParams& rStore)
 void gReadStock(const std::string& rsBytes, TCircuitParams& rStore)
 {
     std::istringstream stream(rsBytes);
+    stream.imbue(std::locale::classic());
     boost::archive::text_iarchive archive(stream);
     archive >> rStore;
 }

@@ -73,6 +73,33 @@ TEST(TolerantReadTest, ATextWithCrLfDoesNotMakeATextModeFile)
     EXPECT_EQ(gOursOf(read), sFile);
 }
 
+TEST(TolerantReadTest, TextModeCountsCrLfBehindALengthAsOneByte)
+{
+    TCircuitParams read;
+    gReadOurs(Replaced(InTextMode(gSampleFile()), " 4 nmos 1 1.5", " 4\r\nnmos 1 1.5"), read);
+    EXPECT_EQ(gOursOf(read), gSampleFile());
+    // Without that mode the LF is the text's first byte.
+    TCircuitParams plain;
+    gReadOurs(Replaced(gSampleFile(), " 4 nmos 1 1.5", " 5\r\nnmos 1 1.5"), plain);
+    EXPECT_EQ(plain.mModelClasses.at("MOS1").mHeader.msType, "\nnmos");
+}
+
+TEST(TolerantReadTest, NumbersTooSmallForADoubleAreWhatTheLibraryMakesOfThem)
+{
+    const std::string sLong = "0." + std::string(340, '0') + '1';
+    for (const std::string& rsNumber :
+         {std::string("1e-400"), std::string("-1e-400"), std::string("2e-324"),
+          std::string("3e-324"), std::string("1.5e-310"), std::string("+1e-999999"), sLong}) {
+        const std::string sFile = Replaced(gSampleFile(), "1.50000000000000000e+00", rsNumber);
+        TCircuitParams ours;
+        gReadOurs(sFile, ours);
+        TCircuitParams stock;
+        gReadStock(sFile, stock);
+        EXPECT_EQ(gDescribe(ours), gDescribe(stock)) << rsNumber;
+        EXPECT_LT(std::fabs(ours.mModelClasses.at("MOS1").mHeader.mdVersion), 1e-300);
+    }
+}
+
 TEST(TolerantReadTest, InfinitiesAndNan)
 {
     for (const char* const pNumber : {"inf", "-inf", "nan", "-nan", "-nan(ind)"}) {

@@ -2,11 +2,11 @@
 
 #include "foundation/StringU.h"
 #include "params/FileOpenException.h"
+#include "params/archive/ArchiveError.h"
 #include "params/archive/LineEnd.h"
 #include "platform/base/SystemError.h"
 #include "platform/base/SystemPath.h"
 
-#include <boost/archive/archive_exception.hpp>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -93,8 +93,9 @@ std::size_t CFileSource::Read(char* pRoom, std::size_t nRoom)
 {
     const ssize_t nRead = Retry([&] { return ::read(mnHandle, pRoom, nRoom); });
     if (nRead < 0) {
-        throw boost::archive::archive_exception(
-            boost::archive::archive_exception::input_stream_error);
+        throw CParamsArchiveError(boost::archive::archive_exception::input_stream_error, mnRead,
+                                  "the system can't read the file here");
     }
+    mnRead += static_cast<std::uint64_t>(nRead);
     return static_cast<std::size_t>(nRead);
 }

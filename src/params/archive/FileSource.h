@@ -23,6 +23,7 @@ private:
     [[nodiscard]] bool FindCrLf() const;
 
     int mnHandle;
+    std::uint64_t mnRead = 0; // bytes so far
     std::uint64_t mnSize = kUnknownSize;
     bool mbCrLf = false;
 };

@@ -50,6 +50,13 @@ std::optional<struct stat> StatusOf(const std::filesystem::path& rTarget)
     return ::stat(rTarget.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
 }
 
+/// Tells whether the text of the links led to the file itself. Links that the system makes, such as
+/// those to a program's open files, lead to what has no name: a pipe, or a file that is deleted.
+bool IsSameFile(const struct stat& rFile, const std::optional<struct stat>& rFollowed)
+{
+    return rFollowed && rFollowed->st_dev == rFile.st_dev && rFollowed->st_ino == rFile.st_ino;
+}
+
 /// The permissions that a new file gets.
 unsigned NewPermissions()
 {
@@ -62,23 +69,29 @@ unsigned NewPermissions()
 } // namespace
 
 CSavedFile::CSavedFile(const CStringU& rPath)
-    : mTarget(Followed(std::filesystem::path(gToSystemPathOfUtf8(rPath.Text()))))
 {
-    const auto status = StatusOf(mTarget);
-    if (!status && gGetLastError() == ENOENT && !mTarget.filename().empty()) {
+    const std::filesystem::path target(gToSystemPathOfUtf8(rPath.Text()));
+    const auto status = StatusOf(target);
+    const bool bNothing = !status && gGetLastError() == ENOENT;
+    mTarget = Followed(target);
+    if (bNothing && !mTarget.filename().empty()) {
         OpenBeside(rPath, NewPermissions());
-        return;
-    }
-    // What can't be opened for writing isn't replaced either. Nothing is cut yet.
-    mnHandle = ::open(mTarget.c_str(), O_WRONLY | O_CLOEXEC);
-    if (mnHandle < 0) {
-        ThrowOpenError(rPath);
-    }
-    if (status && S_ISREG(status->st_mode)) {
-        ::close(mnHandle);
-        mnHandle = -1;
+    } else if (status && S_ISREG(status->st_mode) && IsSameFile(*status, StatusOf(mTarget))) {
+        // What can't be opened for writing isn't replaced either. Nothing is cut yet.
+        Open(rPath, target, O_WRONLY);
+        ::close(std::exchange(mnHandle, -1));
         constexpr unsigned permissions = 07777;
         OpenBeside(rPath, status->st_mode & permissions);
+    } else {
+        Open(rPath, target, O_WRONLY | O_TRUNC);
+    }
+}
+
+void CSavedFile::Open(const CStringU& rPath, const std::filesystem::path& rTarget, int nFlags)
+{
+    mnHandle = ::open(rTarget.c_str(), nFlags | O_CLOEXEC);
+    if (mnHandle < 0) {
+        ThrowOpenError(rPath);
     }
 }
 

@@ -10,7 +10,8 @@ class CStringU;
 /// A file that is written whole or not at all. Where the target is a regular file, or nothing yet,
 /// the bytes go to a file of another name in its folder, which takes its place at the end; until
 /// then the old one stays as it is, whatever happens. A symbolic link is followed first. Any other
-/// target, such as a device, is written directly.
+/// target is opened, cut and written directly: a device, a pipe, an open file that has no name any
+/// more.
 class CSavedFile final : public IByteTarget
 {
 public:
@@ -29,6 +30,7 @@ public:
     void Finish();
 
 private:
+    void Open(const CStringU& rPath, const std::filesystem::path& rTarget, int nFlags);
     void OpenBeside(const CStringU& rPath, unsigned nPermissions);
     void Close();
 

@@ -3,7 +3,11 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <locale>
+#include <sstream>
+#include <string>
 #include <system_error>
+#include <type_traits>
 
 namespace
 {
@@ -18,6 +22,14 @@ constexpr std::ptrdiff_t kLongestNumber = 400;
 bool IsSpace(char chByte) noexcept
 {
     return chByte == ' ' || (chByte >= '\t' && chByte <= '\r');
+}
+
+/// Reads a number as the archive library does, slowly: one that is too small for a double is 0.
+bool ReadAsLibrary(const std::string& rsNumber, double& rdNumber)
+{
+    std::istringstream stream(rsNumber);
+    stream.imbue(std::locale::classic());
+    return static_cast<bool>(stream >> rdNumber);
 }
 
 } // namespace
@@ -95,7 +107,13 @@ template <class T> T CTextScanner::ReadNumber(const char* pReason)
     ToToken();
     const char* const pFirst = mpAt + (*mpAt == '+' ? 1 : 0); // which the library reads, too
     T number{};
-    const auto [pEnd, error] = std::from_chars(pFirst, mpEnd, number);
+    auto [pEnd, error] = std::from_chars(pFirst, mpEnd, number);
+    if constexpr (std::is_same_v<T, double>) {
+        if (error == std::errc::result_out_of_range && pEnd - mpAt <= kLongestNumber &&
+            ReadAsLibrary(std::string(pFirst, pEnd), number)) {
+            error = std::errc();
+        }
+    }
     if (error != std::errc() || pEnd - mpAt > kLongestNumber ||
         (pFirst != mpAt && *pFirst == '-')) {
         Refuse(TError::input_stream_error, pReason);
@@ -131,7 +149,11 @@ double CTextScanner::ReadDouble()
 std::string_view CTextScanner::ReadText()
 {
     const std::uint64_t nLength = ReadUnsigned();
-    ++mpAt; // of the white space behind the length exactly one byte
+    // Of the white space behind the length exactly one byte, or one line end.
+    if (mbCrLf && *mpAt == '\r' && (mpEnd - mpAt > 1 || Fill()) && mpAt[1] == '\n') {
+        ++mpAt;
+    }
+    ++mpAt;
     if (nLength > GetBytesLeft()) {
         Refuse(TError::input_stream_error, "a text is longer than the file");
     }

@@ -31,8 +31,9 @@ public:
     /// @throws CParamsArchiveError for anything else, and for one beyond 64 bits
     [[nodiscard]] std::uint64_t ReadUnsigned();
 
-    /// Reads a number, which may be an infinity or NaN.
-    /// @throws CParamsArchiveError for anything else, and for one that is no double
+    /// Reads a number, which may be an infinity or NaN. One that is too small for a double is 0, or
+    /// what else is nearest.
+    /// @throws CParamsArchiveError for anything else, and for one that is too big for a double
     [[nodiscard]] double ReadDouble();
 
     /// Reads a text.
