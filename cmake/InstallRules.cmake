@@ -11,7 +11,11 @@ if(TARGET quorvawiz-cli)
     install(TARGETS quorvawiz-cli)
     install(FILES "${PROJECT_SOURCE_DIR}/docs/cli.md" "${PROJECT_SOURCE_DIR}/docs/session.md"
         "${PROJECT_SOURCE_DIR}/docs/call.md" "${PROJECT_SOURCE_DIR}/docs/params.md"
+        "${PROJECT_SOURCE_DIR}/docs/options.md"
         DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+    install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/pages" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+    install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/images/pages"
+        DESTINATION "${CMAKE_INSTALL_DOCDIR}/images")
 endif()
 
 
