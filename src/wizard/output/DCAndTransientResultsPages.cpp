@@ -100,22 +100,9 @@ public:
     COutputDCResultsPage() : CCommandPage(kDCTemplate), mForm(*this, kDC, sDC) {}
 
     TMessageMap GetMessageMap() const override { return Handlers<COutputDCResultsPage>(); }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
-
     PlotForm& Form() { return mForm; }
 
 private:
@@ -133,22 +120,9 @@ public:
     }
 
     TMessageMap GetMessageMap() const override { return Handlers<COutputTransientResultsPage>(); }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
-
     PlotForm& Form() { return mForm; }
 
 private:

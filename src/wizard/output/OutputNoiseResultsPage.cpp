@@ -122,22 +122,9 @@ public:
     COutputNoiseResultsPage() : CCommandPage(kTemplate), mForm(*this, kPage, sRemembered) {}
 
     TMessageMap GetMessageMap() const override { return Handlers<COutputNoiseResultsPage>(); }
-
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CCommandPage::DoDataExchange(pDX);
-        mForm.Exchange(pDX);
-    }
-
-    bool OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        mForm.Restore();
-        return true;
-    }
-
+    void DoDataExchange(CDataExchange* pDX) override { mForm.Exchange(pDX); }
+    bool OnInitDialog() override { return mForm.InitDialog(); }
     bool BuildCommand(CString& rsCommand) override { return mForm.Build(rsCommand); }
-
     PlotForm& Form() { return mForm; }
 
 private:

@@ -50,8 +50,9 @@ void PlotForm::Exchange(CDataExchange* pDX)
     DDX_Text(pDX, kItemUnit, mFields.msItemUnit);
 }
 
-void PlotForm::Restore()
+bool PlotForm::InitDialog()
 {
+    mrPage.CDialog::OnInitDialog();
     mFields = mrRemembered.Get();
     mPlotType.SetCurSel(mFields.mnPlotType);
     mTerminal.SetCurSel(mFields.mnTerminal);
@@ -59,6 +60,7 @@ void PlotForm::Restore()
     mrPage.UpdateData(false);
     if (mrTable.bOpensRefreshed)
         OnPlotType();
+    return true;
 }
 
 // --- what the page shows

@@ -19,8 +19,8 @@ public:
              Remembered<Plot::TPlotFields>& rRemembered);
 
     void Exchange(CDataExchange* pDX);
-    /// Shows what the last success has left.
-    void Restore();
+    /// As `OnInitDialog` of a page: shows what the last success has left. Result: true.
+    bool InitDialog();
     /// As `BuildCommand` of a page.
     bool Build(CString& rsCommand);
 
