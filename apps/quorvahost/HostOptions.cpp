@@ -74,9 +74,9 @@ private:
     /// An option's value: behind its "=", or the next argument.
     QString Value(bool bHasValue, const QString& rsValue)
     {
-        if (bHasValue || mnNext == mrArguments.size())
+        if (bHasValue)
             return rsValue;
-        return mrArguments[mnNext++];
+        return mnNext < mrArguments.size() ? mrArguments[mnNext++] : QString();
     }
 
     void ReadAppend(const QString& rsFile)

@@ -49,7 +49,10 @@ CNetlistImport::~CNetlistImport()
 TImportOutcome CNetlistImport::Run(QWidget* pParent, const QString& rsNetlist,
                                    const QString& rsParams)
 {
-    // Labels without a maximum show that something is under way, and not how much of it.
+    if (!QFileInfo(msProgram).isExecutable())
+        return {EImportEnd::Failed, Say("The program that imports isn't there: \"%1\".")
+                                        .arg(QDir::toNativeSeparators(msProgram))};
+    // Without a maximum it shows that something is under way, and not how much of it.
     mpProgress =
         new QProgressDialog(Say("ngspice runs on \"%1\".").arg(QFileInfo(rsNetlist).fileName()),
                             Say("Cancel"), 0, 0, pParent);

@@ -139,7 +139,7 @@ TEST_F(HostImport, AProgramThatSaysNothingOrIsNotThereIsToldOf)
     Choose(Qt::Key_I);
 
     mpWindow->Parameters().SetImportProgram(mFolder.Path("nobody"));
-    MeetBox("Can't start \"");
+    MeetBox("The program that imports isn't there: \"");
     Choose(Qt::Key_I);
     EXPECT_FALSE(Action("devices").isEnabled());
 }

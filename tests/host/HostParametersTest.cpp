@@ -73,9 +73,9 @@ TEST_F(HostParameters, EachListOpensByItsLetter)
     Open();
     MeetTable("Quorva Devices", kDevices);
     Choose(Qt::Key_D);
-    MeetTable("Library Models", 6);
+    MeetTable("Library Models", 5);
     Choose(Qt::Key_L);
-    MeetTable("Quorva Models", 7);
+    MeetTable("Quorva Models", 6);
     Choose(Qt::Key_S);
 }
 
