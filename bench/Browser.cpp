@@ -21,8 +21,8 @@ void BM_DevicesTable(benchmark::State& rState)
     const CExampleFile file(rState.range(0));
     TCircuitParams store;
     store.ReadThis(file.Path(), "");
-    const TDeviceList devices = gMakeDeviceList(store, "");
-    const TParamTableData composed = gMakeDevicesTable(store, devices);
+    const std::vector<TDeviceListEntry> devices = store.GetDeviceList(-1);
+    const TParamTableData composed = gMakeDevicesTable(store, devices, "");
     // What was made stays to the end, so that giving it back doesn't count.
     struct TComposed {
         TParamTableData mTable;
@@ -34,7 +34,7 @@ void BM_DevicesTable(benchmark::State& rState)
         rState,
         [&] {
             TComposed& rComposed = ours.emplace_back();
-            rComposed.mTable = gMakeDevicesTable(store, devices);
+            rComposed.mTable = gMakeDevicesTable(store, devices, "");
             rComposed.msText = gMakeExportText(rComposed.mTable);
             return rComposed.msText.GetLength();
         },
