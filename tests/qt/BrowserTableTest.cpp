@@ -1,3 +1,4 @@
+#include "platform/ui/Dialog.h"
 #include "qt/BrowserUser.h"
 
 #include <QApplication>

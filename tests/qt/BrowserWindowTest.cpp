@@ -1,4 +1,5 @@
 #include "exports/Quorvawiz.h"
+#include "platform/ui/Dialog.h"
 #include "qt/BrowserUser.h"
 
 #include <gmock/gmock.h>
@@ -121,7 +122,11 @@ TEST_F(BrowserWindow, ListsGrowWithTheirTables)
 TEST_F(BrowserWindow, SheetsGrowWithTheirPages)
 {
     CPlayer player;
-    player.Do({"click table@10", "press Return"});
+    player.Then("select a device with a model", [] {
+        while (gCellText(gFrontTable().GetSelectedRow(), 1).empty())
+            gInput("press Down");
+    });
+    player.Do({"press Return"});
     ExpectTitle(player, "Device Parameters: ");
     DrawLarger(player, {"table", "tabs"}, {"export", "close"});
     player.Do({"click tabs@1"});
@@ -313,7 +318,7 @@ TEST_F(BrowserWindow, AFileThatIsThereIsAskedAbout)
     AnswerFileDialog(player, "there.csv");
     player.Then("answer", [] {
         EXPECT_TRUE(QApplication::activeModalWidget()->inherits("QMessageBox"));
-        gInput("press Alt+N");
+        gInput("press Escape");
     });
     player.Do({"press Escape", "press Escape"});
     PlayDevices(player);

@@ -102,6 +102,7 @@ int TakeAll(const QStringList& rOptions)
         gVisitWizard(TakePicture);
         gVisitSinglePages(TakePicture);
         gVisitSweep(TakePicture);
+        gVisitBrowser(TakePicture);
         gVisitSample(TakePicture);
         gVisitBoxes(TakePicture);
     }
