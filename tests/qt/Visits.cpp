@@ -17,6 +17,7 @@
 #include "wizard/frame/WizardPages.h"
 
 #include <QApplication>
+#include <QWidget>
 #include <algorithm>
 #include <deque>
 #include <functional>
@@ -308,7 +309,7 @@ void gVisitBrowser(const TLook& rLook)
         quorvawiz::gInvokeParamBrowserLibraryModelsDialog(nullptr, rStore, true);
     };
     const auto classes = [](const TCircuitParams& rStore) {
-        quorvawiz::gInvokeParamBrowserQuorvaModelsDialog(nullptr, rStore, "MOS1");
+        quorvawiz::gInvokeParamBrowserQuorvaModelsDialog(nullptr, rStore, "MOS3");
     };
     const TWindow windows[] = {
         {"devices", devices, {}, 1},
