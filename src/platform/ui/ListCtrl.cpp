@@ -126,6 +126,15 @@ EUserResult CListCtrl::UserSelect(int nRow)
     return EUserResult::Done;
 }
 
+EUserResult CListCtrl::UserSizeColumn(int nColumn, int nWidth)
+{
+    const auto isValid = [this, nColumn, nWidth] { return IsColumn(nColumn) && nWidth >= 0; };
+    if (const EUserResult result = AcceptUserIf(isValid); result != EUserResult::Done)
+        return result;
+    SetColumnWidth(nColumn, nWidth);
+    return EUserResult::Done;
+}
+
 EUserResult CListCtrl::UserDoubleClick()
 {
     const auto isValid = [this] { return mnSelected >= 0; };

@@ -67,6 +67,8 @@ public:
 
     /// The user selects a row.
     EUserResult UserSelect(int nRow);
+    /// The user draws a column to another width, in pixels.
+    EUserResult UserSizeColumn(int nColumn, int nWidth);
     /// The user double-clicks the selected row; notifies `DoubleClicked`. Without a selection there
     /// is none to click: `Invalid`.
     EUserResult UserDoubleClick();
