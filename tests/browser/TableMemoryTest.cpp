@@ -27,7 +27,7 @@ TEST(TableMemoryTest, ThePeakIsLittleMoreThanEntriesRowsAndText)
     for (const char* const pFilter : {"", "X3"}) {
         const CPeakMemory all;
         const TDeviceList devices = gMakeDeviceList(store, pFilter);
-        const TParamTableData table = gMakeDevicesTable(store, devices);
+        const TParamTableData table = gMakeDevicesTable(store, devices.mEntries, devices.msFilter);
         const CStringU sText = gMakeExportText(table);
         EXPECT_GT(all.GetNow(), static_cast<std::size_t>(sText.GetLength())) << pFilter;
         EXPECT_LT(static_cast<double>(all.GetPeak()), 1.01 * static_cast<double>(all.GetNow()))
