@@ -91,7 +91,8 @@ TBrowserWindow gComposeDevices(const TCircuitParams& rStore, const TParamsOption
     if (!sFilter.empty())
         FindSubckt(rStore, sFilter);
     const TDeviceList devices = gMakeDeviceList(rStore, NameOf(sFilter));
-    return MakeList(gMakeDevicesTitle(devices.msFilter), gMakeDevicesTable(rStore, devices));
+    return MakeList(gMakeDevicesTitle(devices.msFilter),
+                    gMakeDevicesTable(rStore, devices.mEntries, devices.msFilter));
 }
 
 TBrowserWindow gComposeModels(const TCircuitParams& rStore, const TParamsOptions&)
