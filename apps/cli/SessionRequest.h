@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/BrowserRequest.h"
 #include "cli/RequestError.h"
 #include "platform/headless/Step.h"
 #include "platform/ui/FileDialog.h"
@@ -32,7 +33,8 @@ struct TReopenRequest {
 struct TFreshRequest {
 };
 using TRequest = std::variant<TStepRequest, TOpenRequest, TAnswersRequest, TFileRequest,
-                              TStateRequest, TReopenRequest, TFreshRequest>;
+                              TStateRequest, TReopenRequest, TFreshRequest, TLoadRequest,
+                              TBrowseRequest, TDeviceDetailsRequest, TRowsRequest>;
 
 /// Reads a request.
 /// @param sLine one line without its end, of any length and content
