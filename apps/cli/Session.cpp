@@ -36,11 +36,18 @@ CDialog& WhileOpen(CDialog* pInnermost)
     return *pInnermost;
 }
 
-/// The wizard's own dialog; in the parameter browser each dialog has its own frame.
-CDialog& FrameOf(CDialog& rInnermost)
+/// The dialog that a step is for: the wizard's own for one on the frame. In the parameter browser
+/// each dialog has a frame, on which there is nothing but "Close".
+CDialog& DialogOf(const TStep& rStep, CDialog& rInnermost)
 {
     CDialog& rOutermost = *gOutermostDialog();
-    return dynamic_cast<CTreeDlg*>(&rOutermost) ? rOutermost : rInnermost;
+    if (!rStep.bOnFrame)
+        return rInnermost;
+    if (dynamic_cast<CTreeDlg*>(&rOutermost))
+        return rOutermost;
+    if (rStep.sKey != "close")
+        throw CRequestError("the wizard is closed");
+    return rInnermost;
 }
 
 void RefuseInFront(const CDialog* pInnermost)
@@ -164,8 +171,7 @@ void CSession::Reply(CDialog* pInnermost)
 
 void CSession::Do(const TStepRequest& rRequest, CDialog* pInnermost)
 {
-    CDialog& rInnermost = WhileOpen(pInnermost);
-    CDialog& rDialog = rRequest.step.bOnFrame ? FrameOf(rInnermost) : rInnermost;
+    CDialog& rDialog = DialogOf(rRequest.step, WhileOpen(pInnermost));
     const TStepResult result = gRunStep(rDialog, rRequest.step);
     if (!result.IsDone())
         throw CRequestError(gStepError(rDialog, rRequest.step, result));

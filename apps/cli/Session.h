@@ -17,7 +17,8 @@
 namespace quorvawiz::cli
 {
 
-/// The whole life of the wizard, and of the parameter browser, on a headless desktop, driven by requests (docs/session.md).
+/// The whole life of the wizard, and of the parameter browser, on a headless desktop, driven by
+/// requests (docs/session.md).
 ///
 /// A reply is written when the next request is about to be read. So a request that opens a modal
 /// dialog is answered from inside that dialog's run, and the requests that follow act in it.

@@ -76,7 +76,8 @@ TJson FieldsToJson(CDialog& rInnermost)
     return fields;
 }
 
-void AddWizardState(const std::vector<TPage>& rPages, CTreeDlg& rWizard, CDialog& rInnermost, TJson& rReply)
+void AddWizardState(const std::vector<TPage>& rPages, CTreeDlg& rWizard, CDialog& rInnermost,
+                    TJson& rReply)
 {
     rReply["command"] = gToUtf8(rWizard.GetCommand());
     rReply["insert_enabled"] = rWizard.GetDlgItem(IDOK)->IsWindowEnabled();

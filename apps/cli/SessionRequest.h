@@ -15,7 +15,7 @@ namespace quorvawiz::cli
 
 /// One line of the session's input, read. docs/session.md says what each does.
 struct TStepRequest {
-    TStep step; ///< one on the frame is meant for the wizard's own
+    TStep step; ///< one on the frame is meant for the wizard's own, where that is open
 };
 struct TOpenRequest {
     std::string sPage; ///< UTF-8

@@ -28,7 +28,7 @@ Subcommands:
   describe                    Tell every control of a page
   compose                     Fill in a page and print its command
   options                     List the options of the simulator
-  session                     Drive the wizard by lines of JSON
+  session                     Drive the wizard and the browser by lines of JSON
   call                        Call functions of the foundation by lines of JSON
   params                      Look into a params file, or write it anew
   make-example                Write a params file of a plausible circuit
@@ -112,7 +112,7 @@ Options:
 
 TEST(Help, Session)
 {
-    ExpectHelp({"session", "--help"}, R"(Drive the wizard by lines of JSON
+    ExpectHelp({"session", "--help"}, R"(Drive the wizard and the browser by lines of JSON
 Usage: quorvawiz session [OPTIONS]
 
 Options:

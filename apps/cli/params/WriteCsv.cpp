@@ -1,6 +1,7 @@
 #include "cli/params/WriteCsv.h"
 
 #include "browser/CsvLine.h"
+#include "browser/Export.h"
 #include "cli/Failure.h"
 #include "cli/Output.h"
 #include "cli/Quote.h"
@@ -17,16 +18,6 @@ CStringU TitleLine(const TParamTableData& rTable)
         row.push_back({rsTitle, false});
     return gMakeCsvLine(row) + "\n";
 }
-
-/// Result: why it can't be written; empty if it is.
-CStringU WriteFile(const CStringU& rsText, const std::string& rsFile)
-{
-    TTextFile file(CStringU(rsFile, TTextKind::Utf8IfNeeded));
-    if (file.IsOpen())
-        file.WriteText(rsText);
-    file.Close();
-    return file.GetLastErrorText();
-}
 } // namespace
 
 int gWriteCsv(const TParamTableData& rTable, bool bHeader, const std::string& rsFile)
@@ -40,7 +31,7 @@ int gWriteCsv(const TParamTableData& rTable, bool bHeader, const std::string& rs
         gWriteOut(sBytes.Text());
         return kDone;
     }
-    const CStringU sError = WriteFile(sText, rsFile);
+    const CStringU sError = gWriteExport(CStringU(rsFile, TTextKind::Utf8IfNeeded), sText);
     if (sError.IsEmpty())
         return kDone;
     gWriteError(gPrintable(sError.Text()));
