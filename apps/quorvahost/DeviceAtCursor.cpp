@@ -160,8 +160,10 @@ std::variant<TDeviceName, TNoDevice> gDeviceAt(const TLines& rLines, int nLine)
                 Say("the netlist has no instance of the subcircuit \"%1\"").arg(rsWithin)};
         sPath = *path;
     }
+    // What a params file calls the level that no instance leads to.
+    const QString sTopLevel = QStringLiteral("top");
     if (!rsName.startsWith(QLatin1Char('x'), Qt::CaseInsensitive))
-        return TDeviceName{sPath, rsName};
+        return TDeviceName{sPath.isEmpty() ? sTopLevel : sPath, rsName};
     return TDeviceName{{}, sPath.isEmpty() ? rsName : sPath + QLatin1Char('.') + rsName};
 }
 

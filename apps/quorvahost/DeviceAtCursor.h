@@ -11,7 +11,7 @@ namespace quorvawiz::host
 /// A device of the flattened circuit, or an instance of a subcircuit, which has an empty `sSubckt`
 /// and its whole path as the name.
 struct TDeviceName {
-    QString sSubckt; ///< the path of instances that lead to it, "X6.X1"; empty at the top level
+    QString sSubckt; ///< the path of instances that lead to it, "X6.X1"; "top" at the top level
     QString sName;   ///< "MP", or "X6.X1" for an instance
 
     bool operator==(const TDeviceName&) const = default;

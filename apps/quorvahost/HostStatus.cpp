@@ -44,7 +44,7 @@ void CHostStatus::ShowForm(TTextForm form)
 
 void CHostStatus::ShowParams(const QString& rsName)
 {
-    constexpr int kMostCharacters = 40;
+    constexpr int kMostCharacters = 24;
     const QString sShown = rsName.size() <= kMostCharacters
                                ? rsName
                                : rsName.left(kMostCharacters - 1) + QStringLiteral("\u2026");

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QPointer>
 #include <QProcess>
 #include <QString>
+#include <QStringList>
 
 class QProgressDialog;
 class QWidget;
@@ -48,10 +50,14 @@ public:
 
 private:
     void EndChild();
+    void Listen();
+    void ShowStage(const QString& rsStage);
     TImportOutcome Outcome();
 
     QString msProgram;
     QProcess mChild;
+    QByteArray mHeard;  ///< of a line whose end hasn't come yet
+    QStringList mWords; ///< what the child has said besides its stages
     QPointer<QProgressDialog> mpProgress;
 };
 

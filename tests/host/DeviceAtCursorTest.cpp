@@ -51,9 +51,9 @@ const char* const kRing = "ring\n"
 TEST(DeviceAtCursor, IsFoundWithItsPath)
 {
     const std::vector<TCase> cases{
-        {"top level", "t\nR1 a b 1k<\n", {"", "R1"}},
-        {"indented", "t\n  r1\ta b 1k<", {"", "r1"}},
-        {"continued", "t\nQ1 c b e\n+ Q2N\n* why\n\n+ area=2<\n", {"", "Q1"}},
+        {"top level", "t\nR1 a b 1k<\n", {"top", "R1"}},
+        {"indented", "t\n  r1\ta b 1k<", {"top", "r1"}},
+        {"continued", "t\nQ1 c b e\n+ Q2N\n* why\n\n+ area=2<\n", {"top", "Q1"}},
         {"in a subcircuit of a subcircuit", kRing, {"X6.X1", "MP"}},
         {"an instance", "t\nX1 a b inv<\n", {"", "X1"}},
         {"an instance in a subcircuit",

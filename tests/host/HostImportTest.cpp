@@ -4,6 +4,8 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QProgressBar>
+#include <QStatusBar>
 #include <QTest>
 
 // The program that imports is a script of the test's own, which notes what it was called with.
@@ -64,9 +66,9 @@ TEST_F(HostImport, ShowsTheDevicesOfTheNetlist)
     MeetTable("Quorva Devices", kDevices);
     Choose(Qt::Key_I);
     EXPECT_EQ(ShownParams(), QStringLiteral("Parameters: filter.params"));
-    EXPECT_THAT(
-        CFileFolder::Read(mFolder.Path("calls")).toStdString(),
-        testing::MatchesRegex("import " + msNetlist.toStdString() + " -o /.*/filter\\.params\n"));
+    EXPECT_THAT(CFileFolder::Read(mFolder.Path("calls")).toStdString(),
+                testing::MatchesRegex("import " + msNetlist.toStdString() +
+                                      " -o /.*/filter\\.params --progress\n"));
     EXPECT_EQ(CFileFolder::Read(mFolder.Path("folders")), mFolder.Path().toUtf8() + '\n');
     EXPECT_FALSE(Exists("filter.params")) << "nothing is left beside the netlist";
 }
@@ -119,6 +121,42 @@ TEST_F(HostImport, TheProgramsWordsAreTold)
     MeetBox("the simulator has failed\nunknown device type");
     Choose(Qt::Key_I);
     EXPECT_FALSE(Action("devices").isEnabled());
+}
+
+TEST_F(HostImport, TheStagesAreShown)
+{
+    Program("while [ ! -e go ]; do :; done\necho 'quorvawiz: progress: classes 3/57' >&2\n"
+            "while [ ! -e seen ]; do :; done\necho 'progress: file' >&2\n" +
+            kGood);
+    mUser.Meet([this](QWidget& rProgress) {
+        const auto& rBar = *rProgress.findChild<QProgressBar*>();
+        const auto& rLabel = *rProgress.findChild<QLabel*>();
+        EXPECT_EQ(rBar.maximum(), 0);
+        EXPECT_EQ(rLabel.text(), QStringLiteral("ngspice runs on \"filter.cir\"."));
+        mFolder.Write("go", "");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return rBar.maximum() > 0; }, kLongestWait));
+        EXPECT_EQ(rBar.maximum(), 58);
+        EXPECT_EQ(rBar.value(), 3);
+        EXPECT_EQ(rLabel.text(), QStringLiteral("ngspice tells its models."));
+        mFolder.Write("seen", "");
+        CUser::AwaitEnd(rProgress);
+    });
+    MeetTable("Quorva Devices", kDevices);
+    Choose(Qt::Key_I);
+    EXPECT_EQ(mpWindow->statusBar()->currentMessage(), QStringLiteral("Parameters read"))
+        << "stages are no message";
+}
+
+TEST_F(HostImport, WhatASuccessSaysStandsInTheStatusBar)
+{
+    Program("echo 'quorvawiz: a .control block was left out' >&2\n" + kGood);
+    MeetProgress();
+    mUser.Meet([this](QWidget&) {
+        EXPECT_EQ(mpWindow->statusBar()->currentMessage(),
+                  QStringLiteral("a .control block was left out"));
+        mUser.Press(QKeySequence(Qt::Key_Escape));
+    });
+    Choose(Qt::Key_I);
 }
 
 TEST_F(HostImport, AProgramThatSaysNothingOrIsNotThereIsToldOf)

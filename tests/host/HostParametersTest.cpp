@@ -138,6 +138,14 @@ TEST_F(HostParameters, DeviceAtTheCursorShowsItsDetails)
         mUser.Press(QKeySequence(Qt::Key_Down));
     MeetTable("Quorva Devices (xpll1)", 100);
     Choose(Qt::Key_C);
+
+    mpWindow->Edit().LoadText(QStringLiteral("title\nC5 a b 1p"));
+    mUser.Press(QKeySequence(Qt::Key_Down));
+    mUser.Meet([this](QWidget& rSheet) {
+        EXPECT_EQ(rSheet.windowTitle(), QStringLiteral("Device Parameters: top.C5"));
+        mUser.Press(QKeySequence(Qt::Key_Return));
+    });
+    Choose(Qt::Key_C);
 }
 
 TEST_F(HostParameters, WhereNoDeviceIsItSaysSo)
