@@ -68,7 +68,7 @@ CSession::CSession(TWizard wizard, std::istream& rIn, std::ostream& rOut)
 void CSession::Run()
 {
     mDesktop.emplace();
-    mNext.emplace();
+    mNext = TOpening{};
     while (!mbEndOfInput) {
         if (std::exchange(mbForget, false))
             Forget();

@@ -155,6 +155,7 @@ void gKeepTab(TBrowserWindow& rWindow, const std::string& sLabel)
     });
     if (found == rTables.end()) {
         std::vector<std::string> labels;
+        labels.reserve(rTables.size());
         for (const TBrowserTable& rTable : rTables)
             labels.emplace_back(rTable.msLabel.Text());
         ThrowUnknown("tab", sLabel, {}, labels);
