@@ -67,7 +67,7 @@ public:
     {
         if (pObject == Widget().viewport())
             return pEvent->type() == QEvent::MouseButtonDblClick &&
-                   DoubleClickBesideRows(static_cast<QMouseEvent&>(*pEvent));
+                   TakeDoubleClick(static_cast<QMouseEvent&>(*pEvent));
         if (CQtPeer::eventFilter(pObject, pEvent))
             return true;
         return pEvent->type() == QEvent::KeyPress &&
@@ -107,10 +107,12 @@ private:
             Act([this, nColumn, nWidth] { Model().UserSizeColumn(nColumn, nWidth); });
     }
 
-    /// There is no row to click, but the selected one is meant.
-    bool DoubleClickBesideRows(const QMouseEvent& rEvent)
+    /// Where there is no row to click, the selected one is meant. The view takes any button.
+    bool TakeDoubleClick(const QMouseEvent& rEvent)
     {
-        if (rEvent.button() != Qt::LeftButton || Widget().indexAt(rEvent.pos()).isValid())
+        if (rEvent.button() != Qt::LeftButton)
+            return true;
+        if (Widget().indexAt(rEvent.pos()).isValid())
             return false;
         Act([this] { Model().UserDoubleClick(); });
         return true;
