@@ -1,5 +1,6 @@
 #include "browser/ListTables.h"
 
+#include "browser/DisplayName.h"
 #include "browser/ShownTable.h"
 #include "params/SampleStore.h"
 #include "support/PrintStringU.h"
@@ -107,6 +108,14 @@ TEST(DevicesTableTest, TheIdIsTheEntrysAndNotTheDatasets)
     store.AddSubckt("x1", 1);
     store.mCircuitDeviceDatasets[1]["key"] = gDevice(0, "name", {}); // as a damaged file has it
     EXPECT_THAT(DeviceRows(store, ""), ElementsAre("name||"));
+}
+
+TEST(DeviceTitleTest, TheModelsNameIsTheModelsOwn)
+{
+    TCircuitParams store;
+    gFillSample(store);
+    store.mCircuitModelDatasets.at(0).at("n1").mModelHeader.msName = "own"; // a damaged file's
+    EXPECT_EQ(gMakeDeviceTitle("m1", *store.GetDeviceData(0, "m1")), "m1 (own)");
 }
 
 TEST(DevicesTableTest, NamesBeyondAscii)
