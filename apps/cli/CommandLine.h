@@ -1,12 +1,6 @@
 #pragma once
 
-#include "cli/ComposeCommand.h"
-#include "cli/DescribeCommand.h"
-#include "cli/OptionsCommand.h"
-#include "cli/PagesCommand.h"
-#include "cli/call/CallCommand.h"
-#include "cli/example/MakeExampleCommand.h"
-#include "cli/params/ParamsCommand.h"
+#include "cli/Command.h"
 #include "platform/base/CodePage.h"
 
 #include <string>
@@ -15,17 +9,11 @@
 namespace quorvawiz::cli
 {
 
-/// `session` has no options of its own.
-struct TSessionOptions {
-};
-
 /// The arguments of the program, read.
 struct TCommandLine {
     unsigned nCodePage = kCodePageUtf8; ///< known
     bool bUnixRules = false;            ///< path rules of the Unix side
-    std::variant<TPagesOptions, TDescribeOptions, TComposeOptions, TOptionsOptions, TSessionOptions,
-                 TCallOptions, TParamsOptions, TMakeExampleOptions>
-        command;
+    TCommand command;
 };
 
 /// A text that the user asked for instead of a command: help or version.

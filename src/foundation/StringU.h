@@ -84,6 +84,10 @@ public:
     /// @param kind how to read them
     void Assign(std::string_view sText, TTextKind kind);
 
+    /// Makes room, so that a text that grows piece by piece is never moved.
+    /// @param nSize how many stored bytes it will have at least, a marker among them
+    void Reserve(std::size_t nSize) { Bytes().reserve(nSize); }
+
     /// Appends bytes of UTF-8, perhaps cut inside a character. Text gives all of them back, also
     /// where the first one is 0x80.
     /// @param sBytes the bytes, none of them of this text

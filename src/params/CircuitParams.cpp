@@ -1,5 +1,7 @@
 #include "params/CircuitParams.h"
 
+#include <cstddef>
+
 namespace
 {
 
@@ -138,10 +140,16 @@ std::vector<TDeviceListEntry> TCircuitParams::GetDeviceList(int nSubckt) const
 {
     std::vector<TDeviceListEntry> list;
     if (nSubckt == -1) {
+        std::size_t nCount = 0;
+        for (const auto& [nId, rDevices] : mCircuitDeviceDatasets) {
+            nCount += rDevices.size();
+        }
+        list.reserve(nCount);
         for (const auto& [nId, rDevices] : mCircuitDeviceDatasets) {
             AppendDevices(rDevices, list);
         }
     } else if (const TDevices* const pDevices = FindIn(mCircuitDeviceDatasets, nSubckt)) {
+        list.reserve(pDevices->size());
         AppendDevices(*pDevices, list);
     }
     return list;

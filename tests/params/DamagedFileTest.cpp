@@ -1,5 +1,5 @@
 #include "params/DamagedForms.h"
-#include "params/PeakMemory.h"
+#include "support/PeakMemory.h"
 #include "params/TextStore.h"
 #include "params/archive/ArchiveError.h"
 #include "params/archive/MemorySource.h"

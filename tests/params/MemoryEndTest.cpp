@@ -2,7 +2,7 @@
 
 #include "exports/Quorvawiz.h"
 #include "params/DamagedForms.h"
-#include "params/FailingMemory.h"
+#include "support/FailingMemory.h"
 #include "params/ParamsFileError.h"
 #include "support/TempFolder.h"
 

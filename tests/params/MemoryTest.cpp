@@ -1,6 +1,6 @@
 // What reading takes from the heap, beyond what the store keeps.
 
-#include "params/PeakMemory.h"
+#include "support/PeakMemory.h"
 #include "params/SampleStore.h"
 #include "params/StoreText.h"
 #include "params/archive/ArchiveError.h"

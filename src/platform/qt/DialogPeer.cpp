@@ -14,10 +14,11 @@
 class CDialogPeer::CWindow : public QDialog
 {
 public:
-    CWindow()
+    explicit CWindow(bool bSizable)
     {
         setWindowModality(Qt::ApplicationModal);
-        setWindowFlag(Qt::MSWindowsFixedSizeDialogHint);
+        setWindowFlag(Qt::MSWindowsFixedSizeDialogHint, !bSizable);
+        setWindowFlag(Qt::WindowMinMaxButtonsHint, bSizable);
     }
 
     /// Who is told; the window may stay a moment longer.
@@ -48,6 +49,15 @@ protected:
         if (mpPeer &&
             (pEvent->type() == QEvent::FontChange || pEvent->type() == QEvent::StyleChange))
             mpPeer->FollowFont();
+        if (mpPeer && pEvent->type() == QEvent::WindowStateChange && isMinimized())
+            mpPeer->FollowUser(SIZE_MINIMIZED);
+    }
+
+    void resizeEvent(QResizeEvent* pEvent) override
+    {
+        QDialog::resizeEvent(pEvent);
+        if (mpPeer)
+            mpPeer->FollowUser(SIZE_RESTORED);
     }
 
 private:
@@ -55,7 +65,7 @@ private:
 };
 
 CDialogPeer::CDialogPeer(CModelEntry& rEntry, CDialog& rDialog)
-    : CQtPeer(rEntry, rDialog, new CWindow), mrDialog(rDialog),
+    : CQtPeer(rEntry, rDialog, new CWindow(rDialog.GetTemplate().bSizable)), mrDialog(rDialog),
       mpOwner(gOwnerWidgetOf(rDialog.GetOwner())), mUnits(gDialogUnitsOf(GetWidget()->font()))
 {
     static_cast<CWindow*>(GetWidget())->SetPeer(*this);
@@ -68,9 +78,18 @@ void CDialogPeer::PullText()
 
 void CDialogPeer::PullPlace()
 {
-    const QSize size = gToPixels(mUnits, mrDialog.GetWindowRect()).size();
-    if (GetWidget()->size() != size || GetWidget()->minimumSize() != size)
-        GetWidget()->setFixedSize(size);
+    const TRect rect = mrDialog.GetWindowRect();
+    const QSize size = gToPixels(mUnits, rect).size();
+    if (!IsSizable()) {
+        if (GetWidget()->size() != size || GetWidget()->minimumSize() != size)
+            GetWidget()->setFixedSize(size);
+        return;
+    }
+    const TSize least = mrDialog.GetTemplate().size;
+    GetWidget()->setMinimumSize(gToPixels(mUnits, {0, 0, least.cx, least.cy}).size());
+    // The user's window is seldom a whole number of units large, and stays as he left it.
+    if (gToUnits(mUnits, GetWidget()->size()) != TSize{rect.w, rect.h})
+        GetWidget()->resize(size);
 }
 
 void CDialogPeer::PullVisible()
@@ -92,6 +111,22 @@ void CDialogPeer::FollowFont()
         return;
     mUnits = units;
     PlaceAll();
+    // The same size in dialog units is another one in pixels.
+    if (IsSizable())
+        Entry().Enter([this] { mrDialog.SendMessage(WM_SIZE, SIZE_RESTORED); });
+}
+
+void CDialogPeer::FollowUser(WPARAM nType)
+{
+    if (IsWriting() || !IsSizable() || !IsInFront() || GetWidget()->isHidden())
+        return;
+    const TSize size = gToUnits(mUnits, GetWidget()->size());
+    Entry().Enter([this, nType, size] { mrDialog.UserSize(nType, size); });
+}
+
+bool CDialogPeer::IsSizable() const
+{
+    return mrDialog.GetTemplate().bSizable;
 }
 
 bool CDialogPeer::IsInFront() const

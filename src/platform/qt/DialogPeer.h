@@ -2,6 +2,7 @@
 
 #include "platform/qt/DialogUnits.h"
 #include "platform/qt/QtPeer.h"
+#include "platform/ui/Messages.h"
 
 class CDialog;
 
@@ -29,6 +30,8 @@ private:
     bool IsInFront() const;
     void Close();
     void FollowFont();
+    void FollowUser(WPARAM nType);
+    bool IsSizable() const;
 
     CDialog& mrDialog;
     QPointer<QWidget> mpOwner;

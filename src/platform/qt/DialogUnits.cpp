@@ -20,3 +20,8 @@ QRect gToPixels(const TDialogUnits& rUnits, const TRect& rRect)
     const QPoint behind(qRound(rRect.Right() * rUnits.dX), qRound(rRect.Bottom() * rUnits.dY));
     return {topLeft, QSize(behind.x() - topLeft.x(), behind.y() - topLeft.y())};
 }
+
+TSize gToUnits(const TDialogUnits& rUnits, const QSize& rSize)
+{
+    return {qRound(rSize.width() / rUnits.dX), qRound(rSize.height() / rUnits.dY)};
+}

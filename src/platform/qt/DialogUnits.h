@@ -4,6 +4,7 @@
 
 class QFont;
 class QRect;
+class QSize;
 
 /// The size of a dialog unit in pixels. Both follow the font, so that texts fit at any size of it.
 struct TDialogUnits {
@@ -17,3 +18,6 @@ TDialogUnits gDialogUnitsOf(const QFont& rFont);
 /// A rectangle in pixels. Each edge is rounded by itself, so that what touches or stands in line in
 /// dialog units does so on the screen.
 QRect gToPixels(const TDialogUnits& rUnits, const TRect& rRect);
+
+/// A size in whole dialog units, rounded.
+TSize gToUnits(const TDialogUnits& rUnits, const QSize& rSize);

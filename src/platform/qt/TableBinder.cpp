@@ -1,14 +1,19 @@
 #include "platform/qt/Binders.h"
+#include "platform/qt/CellPainter.h"
 #include "platform/qt/FieldName.h"
+#include "platform/qt/QtText.h"
 #include "platform/qt/RowHeight.h"
 #include "platform/qt/RowSelection.h"
 #include "platform/qt/TableModel.h"
 #include "platform/qt/WidgetPeer.h"
 #include "platform/ui/ListCtrl.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
 #include <QTableView>
-#include <vector>
 
 namespace
 {
@@ -20,20 +25,24 @@ public:
           mpRows(new CTableModel(Model(), &Widget()))
     {
         QTableView& rView = Widget();
+        // Rows of one height are what keeps a table of a million of them quick.
+        rView.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        rView.verticalHeader()->hide();
         rView.setModel(mpRows);
+        gPaintCells(rView, Model());
         rView.setEditTriggers(QAbstractItemView::NoEditTriggers);
         rView.setTabKeyNavigation(false);
         rView.setWordWrap(false);
         rView.setCornerButtonEnabled(false);
         rView.setFocusPolicy(Qt::StrongFocus);
-        rView.verticalHeader()->hide();
-        // Rows of one height are what keeps a table of a million of them quick.
-        rView.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
         rView.horizontalHeader()->setHighlightSections(false);
         gNameField(rWnd, rView);
         gOnRowMoved(rView, *this, [this] { OnMoved(); });
         connect(&rView, &QTableView::doubleClicked, this,
                 [this] { Act([this] { Model().UserDoubleClick(); }); });
+        connect(rView.horizontalHeader(), &QHeaderView::sectionResized, this,
+                [this](int nColumn, int, int nWidth) { OnColumnDrawn(nColumn, nWidth); });
+        rView.viewport()->installEventFilter(this);
     }
 
     ~CTablePeer() override
@@ -42,11 +51,33 @@ public:
             mpRows->Detach();
     }
 
+    /// Inside the frame, below the headings, and beside the scroll bar if the rows need one.
+    std::optional<TSize> GetClientPixels() const override
+    {
+        const QTableView& rView = Widget();
+        const int nFrame = 2 * rView.frameWidth();
+        const int nHeight = rView.height() - nFrame - rView.horizontalHeader()->sizeHint().height();
+        const int nBar = rView.verticalHeader()->length() > nHeight
+                             ? rView.verticalScrollBar()->sizeHint().width()
+                             : 0;
+        return TSize{std::max(0, rView.width() - nFrame - nBar), std::max(0, nHeight)};
+    }
+
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override
+    {
+        if (pObject == Widget().viewport())
+            return pEvent->type() == QEvent::MouseButtonDblClick &&
+                   DoubleClickBesideRows(static_cast<QMouseEvent&>(*pEvent));
+        if (CQtPeer::eventFilter(pObject, pEvent))
+            return true;
+        return pEvent->type() == QEvent::KeyPress &&
+               TakeTableKey(static_cast<const QKeyEvent&>(*pEvent));
+    }
+
 protected:
     void PullItems() override
     {
         mpRows->Renew();
-        mWidths.clear();
         PullWidths();
         Widget().setShowGrid(Model().GetExtendedStyle() & LVS_EX_GRIDLINES);
     }
@@ -61,16 +92,54 @@ protected:
     }
 
 private:
-    /// A column that the user has drawn to another width keeps it until the model sets a new one.
     void PullWidths()
     {
         const auto& rColumns = Model().GetColumns();
-        mWidths.resize(rColumns.size(), -1);
-        for (std::size_t n = 0; n < rColumns.size(); ++n) {
-            if (mWidths[n] != rColumns[n].nWidth)
-                Widget().setColumnWidth(static_cast<int>(n), rColumns[n].nWidth);
-            mWidths[n] = rColumns[n].nWidth;
+        for (int n = 0; n < Model().GetColumnCount(); ++n)
+            if (const int nWidth = rColumns[static_cast<std::size_t>(n)].nWidth;
+                Widget().columnWidth(n) != nWidth)
+                Widget().setColumnWidth(n, nWidth);
+    }
+
+    void OnColumnDrawn(int nColumn, int nWidth)
+    {
+        if (!IsWriting())
+            Act([this, nColumn, nWidth] { Model().UserSizeColumn(nColumn, nWidth); });
+    }
+
+    /// There is no row to click, but the selected one is meant.
+    bool DoubleClickBesideRows(const QMouseEvent& rEvent)
+    {
+        if (rEvent.button() != Qt::LeftButton || Widget().indexAt(rEvent.pos()).isValid())
+            return false;
+        Act([this] { Model().UserDoubleClick(); });
+        return true;
+    }
+
+    bool TakeTableKey(const QKeyEvent& rEvent)
+    {
+        if (rEvent.matches(QKeySequence::Copy)) {
+            CopySelectedRow();
+            return true;
         }
+        // With whole rows selected, these lead through the rows, not through the cells of one.
+        const bool bHome = rEvent.key() == Qt::Key_Home;
+        const bool bEnd = rEvent.key() == Qt::Key_End;
+        if ((!bHome && !bEnd) || Model().GetItemCount() == 0)
+            return false;
+        Act([this, bHome] { Model().UserSelect(bHome ? 0 : Model().GetItemCount() - 1); });
+        return true;
+    }
+
+    void CopySelectedRow() const
+    {
+        const int nRow = Model().GetSelectedRow();
+        if (nRow < 0)
+            return;
+        QStringList cells;
+        for (int n = 0; n < Model().GetColumnCount(); ++n)
+            cells += gToQString(Model().GetItemText(nRow, n));
+        QGuiApplication::clipboard()->setText(cells.join(u'\t'));
     }
 
     void OnMoved()
@@ -85,7 +154,6 @@ private:
     }
 
     QPointer<CTableModel> mpRows;
-    std::vector<int> mWidths; ///< as the model had them last
 };
 } // namespace
 

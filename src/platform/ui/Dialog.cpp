@@ -163,6 +163,25 @@ bool CDialog::HasEnded() const
     return !mpRun || mpRun->bEnded || !IsCreated();
 }
 
+EUserResult CDialog::UserSize(WPARAM nType, const TSize& rSize)
+{
+    if (!mrTemplate.bSizable || GetParent())
+        return EUserResult::Invalid;
+    if (const EUserResult result = WouldAcceptUser(); result != EUserResult::Done)
+        return result;
+    const TRect before = GetRect();
+    TRect now = before;
+    if (nType != SIZE_MINIMIZED) {
+        now.w = std::max(rSize.cx, mrTemplate.size.cx);
+        now.h = std::max(rSize.cy, mrTemplate.size.cy);
+    }
+    if (now == before)
+        SendMessage(WM_SIZE, nType);
+    else
+        MoveWindow(now);
+    return EUserResult::Done;
+}
+
 CButton* CDialog::GetDefaultButton() const
 {
     const auto isDefault = [](const CWnd* pChild) {

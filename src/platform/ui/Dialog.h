@@ -49,6 +49,12 @@ public:
     const DialogTemplate& GetTemplate() const { return mrTemplate; }
     CWnd* GetOwner() const { return mpOwner; }
 
+    /// The user gives the window another size, in dialog units; one below the template's is raised
+    /// to it. `nType` SIZE_MINIMIZED: the window is minimised and its size stays. WM_SIZE is sent
+    /// in both cases, even for the size that the window has. Result: Invalid when the template
+    /// isn't sizable; Blocked while another window takes the user's actions.
+    EUserResult UserSize(WPARAM nType, const TSize& rSize);
+
     /// What Enter and Escape and a press on the buttons of these ids do.
     void PerformOK() { OnOK(); }
     void PerformCancel() { OnCancel(); }

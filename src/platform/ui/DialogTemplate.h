@@ -91,8 +91,8 @@ constexpr TControlRow Row(int nId, const char* pKey, EControl kind, const char* 
     return {nId, pKey, kind, pLabel, rRect, nFlags, nLayers, entries};
 }
 
-/// A dialog or a pane as data. Every desktop gives a dialog a fixed frame with a caption and a
-/// system menu, without minimise and maximise boxes.
+/// A dialog or a pane as data. Every desktop gives a dialog a caption and a system menu, and a
+/// fixed frame without minimise and maximise boxes unless the template says otherwise.
 struct DialogTemplate {
     const char* pCaption;
     TSize size;
@@ -100,6 +100,8 @@ struct DialogTemplate {
     /// Letters, lower case, that several labels visible together share because their texts are
     /// given.
     const char* pSharedMnemonics = "";
+    /// The user can make the window larger than `size`, minimise and maximise it.
+    bool bSizable = false;
 };
 
 /// The id of the label that belongs to field `nId`.

@@ -7,6 +7,14 @@ CString CItemList::GetText(int nIndex) const
     return IsIndex(nIndex) ? mItems[static_cast<std::size_t>(nIndex)] : CString();
 }
 
+bool CItemList::SetText(int nIndex, const CString& rsText)
+{
+    if (!IsIndex(nIndex))
+        return false;
+    mItems[static_cast<std::size_t>(nIndex)] = rsText;
+    return true;
+}
+
 bool CItemList::Select(int nIndex)
 {
     mnSelection = IsIndex(nIndex) ? nIndex : -1;

@@ -16,6 +16,9 @@ public:
     CString GetText(int nIndex) const;
     std::span<const CString> GetAll() const { return mItems; }
 
+    /// False when there is no such index.
+    bool SetText(int nIndex, const CString& rsText);
+
     int GetSelection() const { return mnSelection; }
     /// An index that isn't one clears the selection. Result: false in that case.
     bool Select(int nIndex);

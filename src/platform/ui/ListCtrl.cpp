@@ -25,7 +25,7 @@ void CListCtrl::SetColumnWidth(int nColumn, int nWidth)
 
 int CListCtrl::InsertItem(int nRow, const CString& rsText)
 {
-    if (!IsCreated())
+    if (!IsCreated() || mpShownRows)
         return -1;
     const int nAt = std::clamp(nRow, 0, GetItemCount());
     mRows.insert(mRows.begin() + nAt, TRow{{rsText}, 0});
@@ -35,8 +35,23 @@ int CListCtrl::InsertItem(int nRow, const CString& rsText)
     return nAt;
 }
 
+int CListCtrl::GetItemCount() const
+{
+    return mpShownRows ? mpShownRows->GetRowCount() : static_cast<int>(mRows.size());
+}
+
+void CListCtrl::ShowRows(const IListRows* pRows)
+{
+    if (!IsCreated())
+        return;
+    DeleteAllItems();
+    mpShownRows = pRows;
+    Announce(EAspect::Items);
+}
+
 void CListCtrl::DeleteAllItems()
 {
+    mpShownRows = nullptr;
     mRows.clear();
     mnSelected = -1;
     Announce(EAspect::Items);
@@ -46,6 +61,8 @@ CString CListCtrl::GetItemText(int nRow, int nColumn) const
 {
     if (!IsRow(nRow) || nColumn < 0)
         return {};
+    if (mpShownRows)
+        return IsColumn(nColumn) ? mpShownRows->GetText(nRow, nColumn) : CString();
     const auto& rCells = mRows[static_cast<std::size_t>(nRow)].cells;
     const auto nCell = static_cast<std::size_t>(nColumn);
     return nCell < rCells.size() ? rCells[nCell] : CString();
@@ -53,7 +70,7 @@ CString CListCtrl::GetItemText(int nRow, int nColumn) const
 
 bool CListCtrl::SetItemText(int nRow, int nColumn, const CString& rsText)
 {
-    if (!IsRow(nRow) || !IsColumn(nColumn))
+    if (mpShownRows || !IsRow(nRow) || !IsColumn(nColumn))
         return false;
     auto& rCells = mRows[static_cast<std::size_t>(nRow)].cells;
     const auto nCell = static_cast<std::size_t>(nColumn);
@@ -66,12 +83,14 @@ bool CListCtrl::SetItemText(int nRow, int nColumn, const CString& rsText)
 
 std::intptr_t CListCtrl::GetItemData(int nRow) const
 {
-    return IsRow(nRow) ? mRows[static_cast<std::size_t>(nRow)].nData : 0;
+    if (!IsRow(nRow))
+        return 0;
+    return mpShownRows ? mpShownRows->GetData(nRow) : mRows[static_cast<std::size_t>(nRow)].nData;
 }
 
 bool CListCtrl::SetItemData(int nRow, std::intptr_t nData)
 {
-    if (!IsRow(nRow))
+    if (mpShownRows || !IsRow(nRow))
         return false;
     mRows[static_cast<std::size_t>(nRow)].nData = nData;
     return true;
@@ -93,6 +112,7 @@ bool CListCtrl::SelectRow(int nRow)
         return true;
     mnSelected = nRow;
     Announce(EAspect::Selection);
+    OnSelectionChanged();
     NotifyParent(ENotify::SelChange);
     return true;
 }
@@ -106,6 +126,15 @@ EUserResult CListCtrl::UserSelect(int nRow)
     return EUserResult::Done;
 }
 
+EUserResult CListCtrl::UserSizeColumn(int nColumn, int nWidth)
+{
+    const auto isValid = [this, nColumn, nWidth] { return IsColumn(nColumn) && nWidth >= 0; };
+    if (const EUserResult result = AcceptUserIf(isValid); result != EUserResult::Done)
+        return result;
+    SetColumnWidth(nColumn, nWidth);
+    return EUserResult::Done;
+}
+
 EUserResult CListCtrl::UserDoubleClick()
 {
     const auto isValid = [this] { return mnSelected >= 0; };
@@ -114,6 +143,8 @@ EUserResult CListCtrl::UserDoubleClick()
     NotifyParent(ENotify::DoubleClicked);
     return EUserResult::Done;
 }
+
+void CListCtrl::OnSelectionChanged() {}
 
 bool CListCtrl::IsTabStop() const
 {
@@ -129,6 +160,7 @@ void CListCtrl::OnDestroyed()
 {
     mColumns.clear();
     mRows.clear();
+    mpShownRows = nullptr;
     mnExtendedStyle = 0;
     mnSelected = -1;
 }

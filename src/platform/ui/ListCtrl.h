@@ -13,6 +13,20 @@ struct TListColumn {
     int nWidth = 0; ///< in pixels
 };
 
+/// Rows that a table shows but doesn't keep: it asks for what it needs when it needs it, so that a
+/// million rows cost it nothing.
+class IListRows
+{
+public:
+    virtual ~IListRows() = default;
+
+    virtual int GetRowCount() const = 0;
+    /// The text of a cell; `nRow` and `nColumn` are those of the table.
+    virtual CString GetText(int nRow, int nColumn) const = 0;
+    /// The row's own number.
+    virtual std::intptr_t GetData(int nRow) const = 0;
+};
+
 /// A table of text cells. One row, or none, is selected.
 class CListCtrl : public CWnd
 {
@@ -29,7 +43,11 @@ public:
     /// empty. Result: its index, or -1 without a window.
     int InsertItem(int nRow, const CString& rsText);
     void DeleteAllItems();
-    int GetItemCount() const { return static_cast<int>(mRows.size()); }
+    int GetItemCount() const;
+
+    /// Shows borrowed rows instead of rows of its own, which end; null: none. They live and stay as
+    /// they are until the window ends or others are shown; meanwhile no row is inserted or written.
+    void ShowRows(const IListRows* pRows);
 
     /// The text of a cell; empty when there is no such cell.
     CString GetItemText(int nRow, int nColumn) const;
@@ -49,6 +67,8 @@ public:
 
     /// The user selects a row.
     EUserResult UserSelect(int nRow);
+    /// The user draws a column to another width, in pixels.
+    EUserResult UserSizeColumn(int nColumn, int nWidth);
     /// The user double-clicks the selected row; notifies `DoubleClicked`. Without a selection there
     /// is none to click: `Invalid`.
     EUserResult UserDoubleClick();
@@ -58,17 +78,19 @@ public:
 protected:
     bool AcceptsKind(EControl kind) const override;
     void OnDestroyed() override;
+    /// Another row is selected, or none; the parent is told afterwards.
+    virtual void OnSelectionChanged();
+    bool IsRow(int nRow) const { return nRow >= 0 && nRow < GetItemCount(); }
+    bool IsColumn(int nColumn) const { return nColumn >= 0 && nColumn < GetColumnCount(); }
 
 private:
     struct TRow {
         std::vector<CString> cells;
         std::intptr_t nData = 0;
     };
-    bool IsRow(int nRow) const { return nRow >= 0 && nRow < GetItemCount(); }
-    bool IsColumn(int nColumn) const { return nColumn >= 0 && nColumn < GetColumnCount(); }
-
     std::vector<TListColumn> mColumns;
     std::vector<TRow> mRows;
+    const IListRows* mpShownRows = nullptr; ///< instead of mRows
     unsigned mnExtendedStyle = 0;
     int mnSelected = -1;
 };

@@ -12,6 +12,7 @@ using LRESULT = std::intptr_t;
 /// An icon of the desktop; opaque, null is none.
 using HICON = const struct TIcon*;
 
+inline constexpr UINT WM_SIZE = 0x0005; ///< wParam: SIZE_...; the window asks for its new size
 inline constexpr UINT WM_PAINT = 0x000F;
 inline constexpr UINT WM_QUERYDRAGICON = 0x0037;
 inline constexpr UINT WM_SHOWWINDOW = 0x0018; ///< wParam 1: becomes visible, 0: is hidden
@@ -20,6 +21,9 @@ inline constexpr UINT WM_KEYDOWN = 0x0100;    ///< wParam: the key; lParam 1 wit
 inline constexpr UINT WM_SYSCOMMAND = 0x0112; ///< wParam: SC_CLOSE from the title bar
 inline constexpr UINT WM_APP = 0x8000;        ///< first of an application's own messages
 
+inline constexpr WPARAM SIZE_RESTORED = 0;
+inline constexpr WPARAM SIZE_MINIMIZED = 1;
+
 inline constexpr WPARAM SC_CLOSE = 0xF060;
 inline constexpr WPARAM VK_TAB = 0x09;
 
@@ -27,6 +31,8 @@ inline constexpr int IDOK = 1;
 inline constexpr int IDCANCEL = 2;
 inline constexpr int IDYES = 6;
 inline constexpr int IDNO = 7;
+inline constexpr int IDHELP = 9;
+inline constexpr int ID_APPLY_NOW = 0x3021; ///< the button Apply of a property sheet
 
 inline constexpr UINT MB_OK = 0x00;
 inline constexpr UINT MB_YESNO = 0x04;

@@ -16,7 +16,12 @@ public:
     unsigned GetCaptionId() const { return mnCaptionId; }
     unsigned GetDescriptorSize() const { return mnDescriptorSize; }
 
+    /// Marks the page as one with help (PSP_HASHELP): a sheet's Help button is enabled on it.
+    void SetHasHelp() { mbHasHelp = true; }
+    bool HasHelp() const { return mbHasHelp; }
+
 private:
     unsigned mnCaptionId;
     unsigned mnDescriptorSize;
+    bool mbHasHelp = false;
 };

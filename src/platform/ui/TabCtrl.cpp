@@ -11,6 +11,14 @@ int CTabCtrl::AddItem(const CString& rsText)
     return nAt;
 }
 
+bool CTabCtrl::SetItemText(int nIndex, const CString& rsText)
+{
+    if (!mItems.SetText(nIndex, rsText))
+        return false;
+    Announce(EAspect::Items);
+    return true;
+}
+
 int CTabCtrl::SetCurSel(int nIndex)
 {
     mItems.Select(nIndex);

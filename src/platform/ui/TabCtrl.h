@@ -12,6 +12,9 @@ public:
     /// Adds a tab at the end; the first one becomes the selected one. Result: its index.
     int AddItem(const CString& rsText);
 
+    /// False when there is no such tab.
+    bool SetItemText(int nIndex, const CString& rsText);
+
     int GetCurSel() const { return mItems.GetSelection(); }
     /// Selects a tab. Notifies nobody. Result: the index, or -1.
     int SetCurSel(int nIndex);

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "platform/ui/Geometry.h"
+
+#include <optional>
+
 /// What of a window has changed. A peer then asks the window for the new value.
 enum class EAspect {
     Text,
@@ -22,4 +26,8 @@ public:
     /// Pulls the new state from the window. Writes to the screen only what differs, and never
     /// calls a user action of the model from here.
     virtual void OnChanged(EAspect aspect) = 0;
+
+    /// The size of the window's client area on the screen, in pixels, where a control shows its
+    /// contents; none where nothing is drawn.
+    virtual std::optional<TSize> GetClientPixels() const { return std::nullopt; }
 };

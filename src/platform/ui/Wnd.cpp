@@ -178,6 +178,14 @@ TRect CWnd::GetClientRect() const
     return {0, 0, mRect.w, mRect.h};
 }
 
+TSize CWnd::GetClientPixels() const
+{
+    if (mpPeer)
+        if (const auto size = mpPeer->GetClientPixels())
+            return *size;
+    return {mRect.w * 6 / 4, mRect.h * 13 / 8};
+}
+
 TRect CWnd::ScreenToClient(const TRect& rRect) const
 {
     const TRect own = GetWindowRect();
@@ -188,8 +196,11 @@ void CWnd::MoveWindow(const TRect& rRect)
 {
     if (!mbCreated || mRect == rRect)
         return;
+    const bool bResized = mRect.w != rRect.w || mRect.h != rRect.h;
     mRect = rRect;
     Announce(EAspect::Place);
+    if (bResized)
+        SendMessage(WM_SIZE, SIZE_RESTORED);
 }
 
 void CWnd::BringWindowToTop()

@@ -90,8 +90,12 @@ public:
     TRect GetWindowRect() const;
     /// The client area: left and top are 0.
     TRect GetClientRect() const;
+    /// The client area in pixels; where no screen tells, by the platform's standard font, in which
+    /// a dialog unit is 6/4 pixels wide and 13/8 high.
+    TSize GetClientPixels() const;
     /// From `GetWindowRect` units to this window's client area.
     TRect ScreenToClient(const TRect& rRect) const;
+    /// Moves and resizes; a new size sends WM_SIZE.
     void MoveWindow(const TRect& rRect);
     /// Puts the window before its siblings in drawing and tab order.
     void BringWindowToTop();

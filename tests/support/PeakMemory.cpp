@@ -1,6 +1,6 @@
-#include "params/PeakMemory.h"
+#include "support/PeakMemory.h"
 
-#include "params/FailingMemory.h"
+#include "support/FailingMemory.h"
 
 #include <malloc.h>
 
