@@ -8,7 +8,7 @@ namespace quorvawiz::ngspice
 namespace
 {
 
-// Values stand where a device can't do without.
+// Values stand where a device can't do without. One row is one class.
 // clang-format off
 constexpr auto kCircuits = std::to_array<TBareCircuit>({
     {"Resistor", "r", 0, "rdut n0 0 1\n"},

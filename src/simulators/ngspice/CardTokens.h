@@ -15,8 +15,8 @@ struct TCardToken {
     friend bool operator==(const TCardToken&, const TCardToken&) = default;
 };
 
-/// Takes a card of the netlist apart. White space, commas and parentheses stand between words, and so
-/// does "=". What stands in braces or in quotes is one word.
+/// Takes a card of the netlist apart. White space, commas and parentheses stand between words, and
+/// so does "=". What stands in braces or in quotes is one word.
 /// @param sCard any bytes
 /// @param rTokens receives the words, which lead into sCard; its memory is used again
 void gReadCardTokens(std::string_view sCard, std::vector<TCardToken>& rTokens);

@@ -55,11 +55,12 @@ public:
     /// A class by its exact name; null if there is none.
     [[nodiscard]] const TClass* Find(std::string_view sName) const;
 
-    /// The class of devices without a model card by their letter, in any case; null if there is none.
+    /// The class of devices without a model card by their letter, in any case; null if there is
+    /// none.
     [[nodiscard]] const TClass* FindByLetter(char cLetter) const;
 
-    /// The class of a code model: the type on a .model card is the class's name, in any case. Null if
-    /// there is none.
+    /// The class of a code model: the type on a .model card is the class's name, in any case. Null
+    /// if there is none.
     [[nodiscard]] const TClass* FindByModelType(std::string_view sType) const;
 
 private:

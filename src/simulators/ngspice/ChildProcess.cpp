@@ -157,8 +157,8 @@ CHandle OpenFor(const std::filesystem::path& rFile)
 
 int MillisecondsUntil(std::chrono::steady_clock::time_point deadline)
 {
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(
-        deadline - std::chrono::steady_clock::now());
+    const auto left =
+        std::chrono::ceil<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
     constexpr std::int64_t most = std::numeric_limits<int>::max();
     return static_cast<int>(std::clamp<std::int64_t>(left.count(), 0, most));
 }
@@ -239,8 +239,7 @@ TChildResult gRunChild(const TChildRequest& rRequest, const std::stop_token& sto
 
     const CHandle ended(::pidfd_open(started, 0), "can't watch the simulator");
     const CHandle stopped(::eventfd(0, EFD_CLOEXEC), "can't make an event");
-    const std::stop_callback onStop(
-        stop, [nEvent = stopped.Get()] { ::eventfd_write(nEvent, 1); });
+    const std::stop_callback onStop(stop, [nEvent = stopped.Get()] { ::eventfd_write(nEvent, 1); });
     const EChildEnd eEnd = Wait(ended.Get(), stopped.Get(), rRequest.deadline);
     if (eEnd != EChildEnd::Exited) {
         child.Kill();

@@ -37,8 +37,8 @@ struct TChildResult {
 };
 
 /// Runs a program and waits for its end. No shell takes part; the standard input is empty; no other
-/// open file is inherited; it has a process group of its own, which is killed as a whole; on Linux it
-/// can't start another program, and dies with the calling thread.
+/// open file is inherited; it has a process group of its own, which is killed as a whole; on Linux
+/// it can't start another program, and dies with the calling thread.
 /// @param rRequest what to run
 /// @param stop ends it
 /// @throws CImportError if it can't be started

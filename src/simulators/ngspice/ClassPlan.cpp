@@ -84,8 +84,12 @@ TParamDefs CParamPlans::MakeDefs(std::initializer_list<EDirection> directions) c
     TParamDefs defs;
     for (std::size_t n = 0; n < mPlans.size(); ++n) {
         if (std::ranges::find(directions, mPlans[n].eDirection) != directions.end()) {
-            defs.push_back({gNoValue(mPlans[n].eKind), mPlans[n].sName, false, {},
-                            TextOf(mDescriptions[n]), mAliases[n]});
+            defs.push_back({gNoValue(mPlans[n].eKind),
+                            mPlans[n].sName,
+                            false,
+                            {},
+                            TextOf(mDescriptions[n]),
+                            mAliases[n]});
         }
     }
     return defs;

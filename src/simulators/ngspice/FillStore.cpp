@@ -1,8 +1,8 @@
 #include "simulators/ngspice/FillStore.h"
 
 #include "params/CircuitParams.h"
-#include "simulators/ngspice/Cards.h"
 #include "simulators/ngspice/CardTokens.h"
+#include "simulators/ngspice/Cards.h"
 #include "simulators/ngspice/FlatName.h"
 #include "simulators/ngspice/GivenParams.h"
 #include "simulators/ngspice/KnownModels.h"
@@ -55,7 +55,7 @@ private:
     std::vector<TShownModel> mShown;
     CKnownModels mModels;
     TFilled mFilled;
-    std::map<std::string, int> mSubckts; // by path; the top level isn't among them
+    std::map<std::string, int> mSubckts;               // by path; the top level isn't among them
     std::map<std::string_view, TModelHeader> mHeaders; // of models in the store, by flat name
     // Used again for each device.
     std::vector<TCardToken> mTokens;

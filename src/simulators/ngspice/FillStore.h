@@ -28,10 +28,10 @@ struct TFilled {
     std::size_t nWithoutClass = 0; ///< devices whose class isn't known, and so no value of theirs
 };
 
-/// Fills a store with a simulator's classes and with what a netlist has: subcircuits by the paths of
-/// their instances, "xtop.x1"; models with a card; all devices. Values are what the simulator shows.
-/// Of a model and a device there are those that a card gives, and of a device's state all that are
-/// to be believed.
+/// Fills a store with a simulator's classes and with what a netlist has: subcircuits by the paths
+/// of their instances, "xtop.x1"; models with a card; all devices. Values are what the simulator
+/// shows. Of a model and a device there are those that a card gives, and of a device's state all
+/// that are to be believed.
 /// @param rCatalogue the classes of the simulator
 /// @param rListings any bytes
 /// @param rsOrigin what stands behind the description of each class: "ngspice-39, amplifier.cir"

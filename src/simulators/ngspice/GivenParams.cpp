@@ -75,9 +75,9 @@ bool IsGivenBare(const TParamPlan& rPlan, bool bSource) noexcept
 std::string_view ValueBehind(std::span<const TCardToken> tokens, std::size_t nAt) noexcept
 {
     std::size_t nLast = nAt + 1;
-    const bool bThere = nLast < tokens.size() && (tokens[nAt].bAssigned
-                                                      ? tokens[nLast].bValue
-                                                      : IsNumber(tokens[nLast].sText));
+    const bool bThere =
+        nLast < tokens.size() &&
+        (tokens[nAt].bAssigned ? tokens[nLast].bValue : IsNumber(tokens[nLast].sText));
     if (!bThere) {
         return {};
     }
@@ -147,8 +147,8 @@ void gFindGivenOnDevice(std::span<const TCardToken> tokens, std::string_view sMo
     const auto nModel = static_cast<std::size_t>(model - tokens.begin());
     const bool bModel = nModel < tokens.size();
     // A resistor may have its value in front of its model.
-    const bool bValueFirst = nPlace < tokens.size() && IsBare(tokens[nPlace]) &&
-                             IsNumber(tokens[nPlace].sText);
+    const bool bValueFirst =
+        nPlace < tokens.size() && IsBare(tokens[nPlace]) && IsNumber(tokens[nPlace].sText);
     const TParamPlan* const pPrincipal = rPlans.FindPrincipal();
     if (bModel && !(bValueFirst && nModel == nPlace + 1)) {
         nPlace = nModel + 1;

@@ -34,8 +34,8 @@ void gFindGivenOnDevice(std::span<const TCardToken> tokens, std::string_view sMo
 void gFindGivenOnModel(std::span<const TCardToken> tokens, const CParamPlans& rPlans,
                        std::vector<TGivenParam>& rGiven);
 
-/// The value that a card's own text has. It isn't what the simulator made of it, and is for what the
-/// simulator doesn't show.
+/// The value that a card's own text has. It isn't what the simulator made of it, and is for what
+/// the simulator doesn't show.
 /// @param rGiven what the card gives
 /// @return the uninitialised value for a number that can't be read; true for a flag without a text
 [[nodiscard]] TParamValue gValueOnCard(const TGivenParam& rGiven);

@@ -5,8 +5,8 @@
 namespace quorvawiz::ngspice
 {
 
-/// An import that can't be done. The text tells the user what the matter is, with the simulator's own
-/// words where it has some; it may have several lines, without a line feed at the end.
+/// An import that can't be done. The text tells the user what the matter is, with the simulator's
+/// own words where it has some; it may have several lines, without a line feed at the end.
 class CImportError : public std::runtime_error
 {
 public:

@@ -35,8 +35,8 @@ public:
     }
 
     /// The model of a device. `showmod` cuts names, but tells models in the order in which `show`
-    /// comes to them; so a cut name is that of the first such model that no other one took, and names
-    /// must be asked for in the order of `show`.
+    /// comes to them; so a cut name is that of the first such model that no other one took, and
+    /// names must be asked for in the order of `show`.
     /// @param sName the flat name, as `show` has it; a capital letter where there is no card
     /// @param rbNew receives whether it was never asked for before
     const TKnownModel& Find(std::string_view sName, bool& rbNew);

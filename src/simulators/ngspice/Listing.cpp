@@ -11,7 +11,8 @@ namespace
 
 bool IsNumber(std::string_view sWord) noexcept
 {
-    return !sWord.empty() && std::ranges::all_of(sWord, [](char c) { return c >= '0' && c <= '9'; });
+    return !sWord.empty() &&
+           std::ranges::all_of(sWord, [](char c) { return c >= '0' && c <= '9'; });
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "simulators/ngspice/NetlistCopy.h"
 
+#include "platform/base/Ascii.h"
 #include "platform/base/Environment.h"
 #include "simulators/ngspice/ImportError.h"
 #include "simulators/ngspice/Lines.h"
@@ -8,7 +9,6 @@
 #include "simulators/ngspice/ReadWhole.h"
 
 #include <algorithm>
-#include <optional>
 #include <system_error>
 
 namespace quorvawiz::ngspice
@@ -26,6 +26,21 @@ constexpr std::string_view kTitle = "* imported";
 std::string Quoted(const std::filesystem::path& rPath)
 {
     return "'" + rPath.string() + "'";
+}
+
+/// A name that can't lead anywhere: of a section, or for the simulator's words about a missing
+/// file.
+std::string Harmless(std::string_view sName)
+{
+    sName.remove_prefix(sName.rfind('/') + 1); // with none, npos + 1 is 0
+    std::string sPlain(sName);
+    const auto isPlain = [](char c) {
+        return c == '_' || c == '-' || c == '.' || (c >= '0' && c <= '9') ||
+               (gToLowerAscii(c) >= 'a' && gToLowerAscii(c) <= 'z');
+    };
+    std::ranges::replace_if(
+        sPlain, [&](char c) { return !isPlain(c); }, '_');
+    return sPlain;
 }
 
 /// A file that is named in another one.
@@ -111,8 +126,10 @@ std::string CNetlistCopy::CopyText(const std::filesystem::path& rFile, bool bNet
             sCopy += CopyReference(sLine, rFile);
             break;
         case ELine::ForeignCode:
-            throw CImportError(Quoted(rFile) + " has code to load or to run, which an import "
-                                               "doesn't do:\n" + std::string(sLine));
+            throw CImportError(Quoted(rFile) +
+                               " has code to load or to run, which an import "
+                               "doesn't do:\n" +
+                               std::string(sLine));
         case ELine::Other:
         case ELine::EndOfFile:
             sCopy += sLine;
@@ -123,20 +140,28 @@ std::string CNetlistCopy::CopyText(const std::filesystem::path& rFile, bool bNet
     return sCopy;
 }
 
-/// The line with the path of the copy in the place of the file's.
+/// The line anew, word by word: nothing of it that this side reads in another way than the
+/// simulator may name a file that isn't a copy.
 std::string CNetlistCopy::CopyReference(std::string_view sLine, const std::filesystem::path& rFile)
 {
-    const auto reference = gReadFileReference(sLine);
-    if (!reference) {
-        return std::string(sLine);
-    }
-    const std::filesystem::path located = Locate(reference->sFile, rFile, mNetlist);
-    std::error_code error;
-    const std::filesystem::path canonical = std::filesystem::canonical(located, error);
     const bool bInclude = gClassifyLine(sLine) == ELine::Include;
-    const std::string sName = error ? std::string(reference->sFile) : CopyOf(canonical, bInclude);
-    return std::string(reference->sCommand) + " \"" + sName + "\" " +
-           std::string(reference->sRest);
+    const TFileReference reference = gReadFileReference(sLine);
+    std::string sCopy = bInclude ? ".include" : ".lib";
+    if (reference.sFile.empty()) {
+        return sCopy;
+    }
+    std::error_code error;
+    const auto located =
+        std::filesystem::canonical(Locate(reference.sFile, rFile, mNetlist), error);
+    const bool bFile = !error && !std::filesystem::is_directory(located, error);
+    const bool bSectionBegins = !bInclude && reference.sSection.empty() && !bFile;
+    if (bSectionBegins) {
+        return sCopy + " " + Harmless(reference.sFile);
+    }
+    const std::string sName =
+        bFile ? CopyOf(located, bInclude) : "missing/" + Harmless(reference.sFile);
+    sCopy += " \"" + sName + "\"";
+    return reference.sSection.empty() ? sCopy : sCopy + " " + std::string(reference.sSection);
 }
 
 /// The name of the copy of a file, which is made once.

@@ -12,12 +12,12 @@ namespace quorvawiz::ngspice
 
 class CPrivateFolder;
 
-/// Copies a netlist, and all files that it includes, into a private folder, without the commands that
-/// a netlist can hold: the simulator would run them, and they can run any program. Left out are
-/// .control blocks, lines that begin with "*#", the title (one of "*ng_script" makes all lines
-/// commands) and .end lines. What is left out is an empty comment in the copy, so that the lines keep
-/// their numbers. Paths of .include and .lib lines lead to the copies of those files; a relative one is
-/// looked for beside the file that has it, then beside the netlist.
+/// Copies a netlist, and all files that it includes, into a private folder, without the commands
+/// that a netlist can hold: the simulator would run them, and they can run any program. Left out
+/// are .control blocks, lines that begin with "*#", the title (one of "*ng_script" makes all lines
+/// commands) and .end lines. What is left out is an empty comment in the copy, so that the lines
+/// keep their numbers. Paths of .include and .lib lines lead to the copies of those files; a
+/// relative one is looked for beside the file that has it, then beside the netlist.
 class CNetlistCopy
 {
 public:
@@ -27,9 +27,10 @@ public:
     /// Copies a netlist.
     /// @param rNetlist its path
     /// @return its text, to which cards may be added; it has no .end. Its title is a comment
-    /// @throws CImportError if it can't be read or isn't text; if it includes itself, too many files
-    ///         or too much; if it has code that the simulator would load ("d_process", "d_cosim"). An
-    ///         included file that isn't there is left to the simulator
+    /// @throws CImportError if it can't be read or isn't text; if it includes itself, too many
+    /// files
+    ///         or too much; if it has code that the simulator would load ("d_process", "d_cosim").
+    ///         An included file that isn't there is left to the simulator
     [[nodiscard]] std::string Copy(const std::filesystem::path& rNetlist);
 
     /// How many blocks and lines of commands were left out.

@@ -23,8 +23,8 @@ bool IsEnd(std::string_view sLine)
     return Begins(sLine, end) && (sLine.size() == end.size() || gIsBlank(sLine[end.size()]));
 }
 
-/// "d_process" starts a program, "d_cosim" loads a library. They stand in .model cards, perhaps in a
-/// continued line, so they are looked for everywhere.
+/// "d_process" starts a program, "d_cosim" loads a library. They stand in .model cards, perhaps in
+/// a continued line, so they are looked for everywhere.
 bool HasForeignCode(std::string_view sLine)
 {
     constexpr std::array<std::string_view, 2> words{"d_process", "d_cosim"};
@@ -81,21 +81,17 @@ ELine gClassifyLine(std::string_view sLine)
     return IsEnd(sLine) ? ELine::End : ELine::Other;
 }
 
-std::optional<TFileReference> gReadFileReference(std::string_view sLine)
+TFileReference gReadFileReference(std::string_view sLine)
 {
-    const bool bLibrary = Begins(sLine, ".lib");
     TFileReference reference;
-    std::string_view sRest = sLine;
-    reference.sCommand = gNextWord(sRest);
-    reference.sFile = CutName(sRest);
+    const bool bLibrary = Begins(sLine, ".lib");
+    gNextWord(sLine);
+    reference.sFile = CutName(sLine);
+    const std::string_view sNext = gNextWord(sLine);
     // Behind a semicolon, or a dollar and a blank, stands a comment.
-    std::string_view sNext = sRest;
-    const std::string_view sSection = gNextWord(sNext);
-    const bool bSection = !sSection.empty() && sSection[0] != ';' && sSection[0] != '$';
-    if (reference.sFile.empty() || (bLibrary && !bSection)) {
-        return std::nullopt;
+    if (bLibrary && !sNext.starts_with(';') && sNext != "$") {
+        reference.sSection = sNext;
     }
-    reference.sRest = bLibrary ? sSection : std::string_view();
     return reference;
 }
 

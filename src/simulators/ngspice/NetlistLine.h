@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string_view>
 
 namespace quorvawiz::ngspice
@@ -24,16 +23,16 @@ enum class ELine {
 /// @param sLine the line without carriage returns and without white space in front
 [[nodiscard]] ELine gClassifyLine(std::string_view sLine);
 
-/// A line that names a file.
+/// A line of the kinds Include and Library.
 struct TFileReference {
-    std::string_view sCommand; ///< ".include"
-    std::string_view sFile;    ///< the name, without quotes
-    std::string_view sRest;    ///< what stands behind
+    std::string_view sFile; ///< the name, without quotes; empty if there is none
+    std::string_view
+        sSection; ///< for Library: what to take of the file; empty where the line has one
+                  ///< name alone, which begins a section of this file, or is a file
 };
 
-/// Reads the name of the file in a line of the kinds Include and Library.
+/// Reads a line of the kinds Include and Library.
 /// @param sLine the line; the result leads into it
-/// @return nullopt if there is none, and for a .lib line that begins a section (".lib TT")
-[[nodiscard]] std::optional<TFileReference> gReadFileReference(std::string_view sLine);
+[[nodiscard]] TFileReference gReadFileReference(std::string_view sLine);
 
 } // namespace quorvawiz::ngspice

@@ -16,8 +16,8 @@ enum class EDirection {
 
 /// One name of a parameter, a row of a table.
 struct TParamRow {
-    int nId = 0;              ///< names with the same id are names of one parameter
-    std::string sName;        ///< in lower case, as the simulator has it
+    int nId = 0;       ///< names with the same id are names of one parameter
+    std::string sName; ///< in lower case, as the simulator has it
     EDirection eDirection = EDirection::InOut;
     std::string sType;        ///< "real", "integer", "flag", "string", "realvec", "complex", ...
     std::string sFlags;       ///< letters; R: redundant, another name; P: the principal parameter
@@ -36,9 +36,9 @@ struct TParamTable {
     friend bool operator==(const TParamTable&, const TParamTable&) = default;
 };
 
-/// Reads the listings of `devhelp -csv -type -flags NAME`, one after another. Fields are separated by
-/// a comma and a blank and have no quotes; what stands behind the fifth comma is the description,
-/// which may hold commas. Lines of another form are passed over.
+/// Reads the listings of `devhelp -csv -type -flags NAME`, one after another. Fields are separated
+/// by a comma and a blank and have no quotes; what stands behind the fifth comma is the
+/// description, which may hold commas. Lines of another form are passed over.
 /// @param sListing any bytes
 /// @return the tables in the order of the listing
 [[nodiscard]] std::vector<TParamTable> gReadParamTables(std::string_view sListing);

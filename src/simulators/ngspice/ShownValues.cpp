@@ -14,7 +14,8 @@ std::optional<TShownValue> gReadShownValue(std::string_view sLine) noexcept
     if (nEquals == std::string_view::npos) {
         return std::nullopt;
     }
-    const TShownValue value{gTrimmed(sLine.substr(0, nEquals)), gTrimmed(sLine.substr(nEquals + 1))};
+    const TShownValue value{gTrimmed(sLine.substr(0, nEquals)),
+                            gTrimmed(sLine.substr(nEquals + 1))};
     return value.sName.empty() ? std::nullopt : std::optional(value);
 }
 

@@ -112,7 +112,8 @@ std::optional<TParamValue> gValueOf(EValueKind eKind, std::span<const std::strin
 
 TParamValue gNoValue(EValueKind eKind)
 {
-    return eKind == EValueKind::Text ? TParamValue(CStringU()) : TParamValue(kUninitializedParamValue);
+    return eKind == EValueKind::Text ? TParamValue(CStringU())
+                                     : TParamValue(kUninitializedParamValue);
 }
 
 } // namespace quorvawiz::ngspice

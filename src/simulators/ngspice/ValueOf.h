@@ -18,14 +18,14 @@ enum class EValueKind {
     Text,    ///< a text
 };
 
-/// The kind that belongs to the name of a type in the simulator's tables: "real", "flag", "realvec".
-/// An unknown type is a text.
+/// The kind that belongs to the name of a type in the simulator's tables: "real", "flag",
+/// "realvec". An unknown type is a text.
 [[nodiscard]] EValueKind gKindOfType(std::string_view sType) noexcept;
 
-/// The greatest magnitude of an integer that is believed. Parameters are switches, levels, counts and
-/// numbers of nodes, which stay far below; what the simulator leaves uninitialised is 32 bits of
-/// whatever the memory held, and 99 of 100 such values lie beyond. The rest can't be told from real
-/// ones.
+/// The greatest magnitude of an integer that is believed. Parameters are switches, levels, counts
+/// and numbers of nodes, which stay far below; what the simulator leaves uninitialised is 32 bits
+/// of whatever the memory held, and 99 of 100 such values lie beyond. The rest can't be told from
+/// real ones.
 inline constexpr int kMostInteger = 10'000'000;
 
 /// A number as the simulator prints it, if it is one to believe.
