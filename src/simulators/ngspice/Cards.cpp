@@ -26,6 +26,7 @@ CCards::CCards(std::string_view sListing)
             mModels.try_emplace(gNextWord(sRest), sCard);
         } else if (!sFirst.starts_with('.')) {
             mDevices.try_emplace(sFirst, sCard);
+            mDeviceNames.push_back(sFirst);
         }
     }
 }

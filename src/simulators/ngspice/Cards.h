@@ -2,6 +2,7 @@
 
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace quorvawiz::ngspice
 {
@@ -21,7 +22,14 @@ public:
     /// none has that of "nch".
     [[nodiscard]] std::string_view FindModel(std::string_view sName) const;
 
+    /// The flat names of the devices, in the order of the netlist.
+    [[nodiscard]] const std::vector<std::string_view>& GetDeviceNames() const noexcept
+    {
+        return mDeviceNames;
+    }
+
 private:
+    std::vector<std::string_view> mDeviceNames;
     std::unordered_map<std::string_view, std::string_view> mDevices;
     std::unordered_map<std::string_view, std::string_view> mModels;
 };

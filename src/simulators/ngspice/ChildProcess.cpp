@@ -237,7 +237,8 @@ TChildResult gRunChild(const TChildRequest& rRequest, const std::stop_token& sto
         throw CImportError("can't run '" + rRequest.sProgram + "': " + std::strerror(nFailure));
     }
 
-    const CHandle ended(static_cast<int>(::syscall(SYS_pidfd_open, started, 0)), "can't watch the simulator");
+    const CHandle ended(static_cast<int>(::syscall(SYS_pidfd_open, started, 0)),
+                        "can't watch the simulator");
     const CHandle stopped(::eventfd(0, EFD_CLOEXEC), "can't make an event");
     const std::stop_callback onStop(stop, [nEvent = stopped.Get()] { ::eventfd_write(nEvent, 1); });
     const EChildEnd eEnd = Wait(ended.Get(), stopped.Get(), rRequest.deadline);

@@ -36,6 +36,10 @@ public:
           mModels(rCatalogue, mCards, mShown)
     {
         mrStore.AddSubckt(kTopLevel, 0);
+        // In the order of the netlist, as the simulator shows devices in another one.
+        for (const std::string_view sName : mCards.GetDeviceNames()) {
+            AddSubckt(gSplitDeviceName(sName).sSubckt);
+        }
     }
 
     void AddDevice(const TShownDevice& rShown);

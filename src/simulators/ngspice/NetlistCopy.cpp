@@ -154,10 +154,15 @@ std::string CNetlistCopy::CopyReference(std::string_view sLine, const std::files
     const auto located =
         std::filesystem::canonical(Locate(reference.sFile, rFile, mNetlist), error);
     const bool bFile = !error && !std::filesystem::is_directory(located, error);
-    const bool bSectionBegins = !bInclude && reference.sSection.empty() && !bFile;
+    if (!bFile && bInclude) {
+        throw CImportError(Quoted(rFile) + " includes '" + std::string(reference.sFile) +
+                           "', which isn't there");
+    }
+    const bool bSectionBegins = !bFile && reference.sSection.empty();
     if (bSectionBegins) {
         return sCopy + " " + Harmless(reference.sFile);
     }
+    // A section that nobody takes may well be of a file that isn't there.
     const std::string sName =
         bFile ? CopyOf(located, bInclude) : "missing/" + Harmless(reference.sFile);
     sCopy += " \"" + sName + "\"";

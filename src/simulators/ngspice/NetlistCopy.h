@@ -27,10 +27,9 @@ public:
     /// Copies a netlist.
     /// @param rNetlist its path
     /// @return its text, to which cards may be added; it has no .end. Its title is a comment
-    /// @throws CImportError if it can't be read or isn't text; if it includes itself, too many
-    /// files
-    ///         or too much; if it has code that the simulator would load ("d_process", "d_cosim").
-    ///         An included file that isn't there is left to the simulator
+    /// @throws CImportError if it, or what it includes, can't be read or isn't text; if it includes
+    ///         itself, too many files or too much; if it has code that the simulator would load
+    ///         ("d_process", "d_cosim"). A missing file of a .lib line is left to the simulator
     [[nodiscard]] std::string Copy(const std::filesystem::path& rNetlist);
 
     /// How many blocks and lines of commands were left out.

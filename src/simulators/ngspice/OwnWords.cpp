@@ -16,6 +16,11 @@ namespace
 constexpr std::size_t kMostLines = 12;
 constexpr std::size_t kMostBytes = 200; // of a line
 
+bool IsControl(char c) noexcept
+{
+    return (c >= 0 && c < ' ') || c == 0x7F;
+}
+
 bool Holds(std::string_view sLine, std::string_view sWord)
 {
     return !std::ranges::search(sLine, sWord, {}, gToLowerAscii).empty();
@@ -34,7 +39,7 @@ std::vector<std::string_view> LinesOf(std::string_view sText)
     std::vector<std::string_view> lines;
     while (!sText.empty()) {
         const std::string_view sLine = gTrimmed(gNextLine(sText));
-        if (!sLine.empty()) {
+        if (!sLine.empty() && !sLine.starts_with("Note:")) {
             lines.push_back(sLine);
         }
     }
@@ -76,6 +81,9 @@ std::string gOwnWords(std::string_view sError, std::string_view sOut)
     for (const std::string_view sLine : chosen) {
         sWords.append("\n  ").append(sLine.substr(0, kMostBytes));
     }
+    // What the simulator repeats of a netlist is no command to a terminal.
+    std::ranges::replace_if(
+        sWords, [](char c) { return c != '\n' && IsControl(c); }, '?');
     return sWords;
 }
 
