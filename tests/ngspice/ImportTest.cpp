@@ -114,7 +114,7 @@ TEST_F(Import, ABipolarAmplifier)
             EXPECT_FALSE(rParam.mIsSet);
         }
     }
-    EXPECT_EQ(nSet, 27);
+    EXPECT_EQ(nSet, 28); // the 27 parameters and the type
     const double dCurrent = boost::get<double>(rTransistor.mStateParamValues.at("ic"));
     EXPECT_GT(dCurrent, 0.5e-3);
     EXPECT_LT(dCurrent, 2e-3);
@@ -229,7 +229,7 @@ TEST_F(Import, TellsWhatTheSimulatorSaysOfANetlistThatFails)
     constexpr TFailure failures[] = {
         {"no model", "title\nm1 a b c d nomodel\n", "can't find model 'nomodel'"},
         {"no section", "title\n.lib nowhere.lib TT\nr1 a 0 1\n", "nowhere.lib"},
-        {"no parameter", "title\nr1 a 0 {nothing}\n", "nothing"},
+        {"no parameter", "title\nr1 a 0 {nothing}\n", "Undefined parameter [nothing]"},
     };
     mFolder.Write("out.params", "what was there");
     for (const TFailure& rFailure : failures) {
@@ -241,6 +241,19 @@ TEST_F(Import, TellsWhatTheSimulatorSaysOfANetlistThatFails)
         EXPECT_EQ(run.sOut, "");
         EXPECT_EQ(mFolder.Read("out.params"), "what was there") << rFailure.pName;
     }
+}
+
+TEST_F(Import, TellsThatThereIsNoOperatingPoint)
+{
+    const TProgramRun run =
+        Run(mFolder.Write("netlist.cir", "title\nd1 a 0 dm\n.model dm d(is=1e-14)\nr1 a 0 1\n"
+                                         "b1 a 0 v=1e6*exp(100*sin(1e7*v(a)))\n"
+                                         ".option itl1=2 gminsteps=0 srcsteps=0 noopiter\n"));
+    EXPECT_EQ(run.nExitCode, 1);
+    EXPECT_THAT(run.sError,
+                StartsWith("quorvawiz: the simulator finds no operating point of the netlist\n"));
+    EXPECT_THAT(run.sError, HasSubstr("Transient op failed"));
+    EXPECT_FALSE(HasOut());
 }
 
 TEST_F(Import, TellsWhatIsMissing)
@@ -255,6 +268,13 @@ TEST_F(Import, TellsWhatIsMissing)
                            "ngspice has it\n",
                            1}));
     EXPECT_FALSE(HasOut());
+}
+
+TEST_F(Import, ReplacesNoNetlist)
+{
+    const std::string sNetlist = mFolder.Write("out.params", "title\nr1 a 0 1\n");
+    EXPECT_EQ(Run(sNetlist),
+              (TProgramRun{"", "quorvawiz: the params file would replace the netlist\n", 2}));
 }
 
 TEST_F(Import, TellsItsStages)

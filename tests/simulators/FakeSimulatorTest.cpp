@@ -230,6 +230,10 @@ TEST_F(FakeSimulator, ThatFindsNoOperatingPoint)
     EXPECT_EQ(ImportFrom("echo '** ngspice-39' > version.txt; echo const > plot.txt\n"
                          "echo 'singular matrix' >&2\n"),
               "the simulator finds no operating point of the netlist\n  singular matrix");
+    EXPECT_EQ(ImportFrom("echo '** ngspice-39' > version.txt; echo op1 > plot.txt\n"
+                         "echo 'op simulation(s) aborted' >&2\n"),
+              "the simulator finds no operating point of the netlist\n"
+              "  op simulation(s) aborted");
 }
 
 TEST_F(FakeSimulator, ThatShowsRubbish)

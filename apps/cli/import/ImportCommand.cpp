@@ -11,9 +11,11 @@
 
 #include <chrono>
 #include <cstddef>
+#include <filesystem>
 #include <functional>
 #include <stop_token>
 #include <string>
+#include <system_error>
 
 namespace quorvawiz::cli
 {
@@ -71,6 +73,9 @@ ngspice::TImported Import(const TImportCommandOptions& rOptions, const std::stop
 
 int gRunImport(const TImportCommandOptions& rOptions)
 {
+    std::error_code ignored;
+    if (std::filesystem::equivalent(rOptions.sNetlist, rOptions.sOut, ignored))
+        throw CUsageError("the params file would replace the netlist");
     const CStopOnSignal stop;
     try {
         const ngspice::TImported imported = Import(rOptions, stop.GetToken());

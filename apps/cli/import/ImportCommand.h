@@ -17,6 +17,7 @@ struct TImportCommandOptions {
 /// Runs `import`: has a simulator work on a netlist, and writes what it tells as a params file.
 /// SIGINT, SIGTERM and SIGHUP end it: the simulator is killed and nothing is written. Result: the
 /// program's exit code.
+/// @throws CUsageError where the params file would be the netlist
 int gRunImport(const TImportCommandOptions& rOptions);
 
 } // namespace quorvawiz::cli

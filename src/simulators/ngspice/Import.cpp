@@ -104,9 +104,10 @@ TSimulated CImport::Simulate(std::vector<std::string>& rNotes) const
         throw CImportError("the output of '" + mSimulator.GetProgram() +
                            "' isn't understood; is it ngspice?");
     }
-    if (!folder.Read(files::kPlot).starts_with("op")) {
+    // A plot of it is there even if it wasn't found, and then an error says so.
+    if (!folder.Read(files::kPlot).starts_with("op") || CSimulator::WasAborted(folder)) {
         throw CImportError("the simulator finds no operating point of the netlist" +
-                           mSimulator.ReadWords(folder));
+                           CSimulator::ReadWords(folder));
     }
     return simulated;
 }

@@ -28,8 +28,9 @@ bool Holds(std::string_view sLine, std::string_view sWord)
 
 bool TellsOfError(std::string_view sLine)
 {
-    constexpr std::array<std::string_view, 8> words{"error",      "fatal", "fail",     "could not",
-                                                    "can't find", "abort", "singular", "assertion"};
+    constexpr auto words = std::to_array<std::string_view>(
+        {"error", "fatal", "fail", "could not", "cannot", "can't find", "undefined", "abort",
+         "singular", "assertion", "netlist line no"});
     return std::ranges::any_of(words,
                                [sLine](std::string_view sWord) { return Holds(sLine, sWord); });
 }

@@ -119,4 +119,9 @@ std::string CSimulator::ReadWords(const CPrivateFolder& rFolder)
     return gOwnWords(rFolder.Read(kError), rFolder.Read(kOut));
 }
 
+bool CSimulator::WasAborted(const CPrivateFolder& rFolder)
+{
+    return rFolder.Read(kError).find("simulation(s) aborted") != std::string::npos;
+}
+
 } // namespace quorvawiz::ngspice

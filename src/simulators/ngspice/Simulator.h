@@ -35,6 +35,9 @@ public:
     /// Its own words about a failure, from its last run in a folder; see gOwnWords.
     [[nodiscard]] static std::string ReadWords(const CPrivateFolder& rFolder);
 
+    /// Tells whether it gave up an analysis in its last run in a folder, which is no failure to it.
+    [[nodiscard]] static bool WasAborted(const CPrivateFolder& rFolder);
+
     /// Its path.
     [[nodiscard]] const std::string& GetProgram() const noexcept { return msProgram; }
 
