@@ -7,13 +7,15 @@ usage() {
 usage: ./run.sh [EXAMPLE | PATH] [--tour] [--dark]
 
 Installs the packages that are missing, builds, and opens the netlist editor on a copy of an example of
-examples/ (by name; without one: rc-filter), or of the netlist at a path, which has a slash in it. In the
-editor: Tools > SPICE Command Wizard, or Ctrl+I. A copy that was changed is kept, and its path printed.
+examples/ (by name; without one: rc-filter), or of the netlist at a path, which has a slash in it. A copy that
+was changed is kept, and its path printed. In the editor: Tools > SPICE Command Wizard, or Ctrl+I, and
+Parameters > Import from ngspice.
 
 Without a display (neither DISPLAY nor WAYLAND_DISPLAY is set, or QT_QPA_PLATFORM names a platform without
-a screen) it takes the same windows on a tour that needs no screen: real key and mouse events open the
-wizard, insert commands into the copy and save it. It prints what that changed, and the folder with a
-picture of each window.
+a screen) it takes the same windows on a tour that needs no screen: real key and mouse events browse a params
+file and export a list of it, import copies of the examples where ngspice is installed, open the wizard,
+insert commands into the copy and save it. It prints what that changed, and the folder with a picture of each
+window.
 
   --tour  take the tour, display or not
   --dark  the tour in dark colours
@@ -36,7 +38,7 @@ colours=()
 for argument in "$@"; do
     case $argument in
         --tour) tour=true ;;
-        --dark) colours=(dark) ;;
+        --dark) colours=(--dark) ;;
         --help | -h) usage; exit 0 ;;
         -*) refuse "unknown option: $argument" ;;
         *)
@@ -68,7 +70,7 @@ fi
 
 scripts/setup
 cmake --preset dev -DQUORVAWIZ_WERROR=ON
-cmake --build --preset dev --target quorvahost quorvahost-tour
+cmake --build --preset dev --target quorvahost quorvahost-tour quorvawiz-cli
 
 folder=$(mktemp -d "${TMPDIR:-/tmp}/quorvawiz-run.XXXXXX")
 copy=$folder/$(basename "$netlist")
@@ -93,9 +95,12 @@ pictures=$(mktemp -d "${TMPDIR:-/tmp}/quorvawiz-pictures.XXXXXX")
 export QT_QPA_PLATFORM=offscreen
 export XDG_RUNTIME_DIR=$folder/runtime
 mkdir --mode=700 "$XDG_RUNTIME_DIR"
+build/dev/bin/quorvawiz make-example "$folder/example.params" --devices 2000
+mkdir "$folder/import"
+cp examples/*.cir "$folder/import"
 # The platform without a screen says of each window what it can't do; none of that is news.
-build/dev/bin/quorvahost-tour "$copy" "$pictures" \
-    ${colours[@]+"${colours[@]}"} 2> >(grep --invert-match "^This plugin does not support" >&2)
+build/dev/bin/quorvahost-tour ${colours[@]+"${colours[@]}"} \
+    "$copy" "$pictures" "$folder/example.params" "$folder"/import/*.cir 2> >(grep --invert-match "^This plugin does not support" >&2)
 
 echo "./run.sh: what the tour has changed in the netlist"
 echo
@@ -107,3 +112,6 @@ fi
 echo
 echo "./run.sh: pictures of the windows, in $pictures"
 ls "$pictures"
+echo
+echo "./run.sh: the first of the exported devices, in $pictures/devices.csv"
+head -n 5 "$pictures/devices.csv"

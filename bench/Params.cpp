@@ -1,6 +1,7 @@
 // Params files of an example circuit, read and written against the archive library's own archives
 // on the same file, and lookups of devices.
 
+#include "ExampleFile.h"
 #include "Ratio.h"
 #include "params/CircuitParams.h"
 #include "params/Serialize.h"
@@ -26,33 +27,6 @@
 
 namespace
 {
-
-/// A file of so many devices in the temporary folder, gone with it.
-class CExampleFile
-{
-public:
-    explicit CExampleFile(std::int64_t nDevices)
-        : msPath((std::filesystem::temp_directory_path() / "quorvawiz-bench.params").string())
-    {
-        const std::string sCommand = std::string(QUORVAWIZ_CLI_PATH) + " make-example '" + msPath +
-                                     "' --devices " + std::to_string(nDevices);
-        if (std::system(sCommand.c_str()) != 0) {
-            throw std::runtime_error("can't make the file");
-        }
-    }
-    ~CExampleFile()
-    {
-        std::error_code ignored;
-        std::filesystem::remove(msPath, ignored);
-    }
-    CExampleFile(const CExampleFile&) = delete;
-    CExampleFile& operator=(const CExampleFile&) = delete;
-
-    const std::string& Path() const { return msPath; }
-
-private:
-    std::string msPath;
-};
 
 /// A store, which the benchmark's turn gives back after the clock has stopped.
 using TStores = std::vector<boost::shared_ptr<TCircuitParams>>;

@@ -4,7 +4,7 @@
 #include "platform/base/Utf8Text.h"
 #include "platform/headless/TreePath.h"
 #include "platform/ui/Button.h"
-#include "platform/ui/ListCtrl.h"
+#include "platform/ui/TableCtrl.h"
 #include "platform/ui/TreeCtrl.h"
 
 #include <nlohmann/json.hpp>
@@ -39,6 +39,11 @@ void AddTable(const CListCtrl& rTable, TJson& rJson)
     rJson["columns"] = TJson::array();
     for (const TListColumn& rColumn : rTable.GetColumns())
         rJson["columns"].push_back(gToUtf8(rColumn.sHeading));
+    // A grid may have a million rows, which are asked for in parts.
+    if (dynamic_cast<const CTableCtrl*>(&rTable)) {
+        rJson["rows"] = rTable.GetItemCount();
+        return;
+    }
     rJson["items"] = TJson::array();
     for (int nRow = 0; nRow < rTable.GetItemCount(); ++nRow) {
         TJson cells = TJson::array();

@@ -1,12 +1,14 @@
 #include "cli/Session.h"
 
+#include "browser/Export.h"
 #include "cli/Failure.h"
 #include "cli/FieldJson.h"
 #include "cli/PageRun.h"
-#include "cli/SessionReply.h"
 #include "cli/StepError.h"
+#include "cli/TableJson.h"
 #include "wizard/frame/Remembered.h"
 #include "wizard/frame/SinglePageDlg.h"
+#include "wizard/frame/TreeDlg.h"
 
 #include <nlohmann/json.hpp>
 
@@ -33,6 +35,28 @@ CDialog& WhileOpen(CDialog* pInnermost)
         throw CRequestError("the wizard is closed");
     return *pInnermost;
 }
+
+/// The dialog that a step is for: the wizard's own for one on the frame. In the parameter browser
+/// each dialog has a frame, on which there is nothing but "Close".
+CDialog& DialogOf(const TStep& rStep, CDialog& rInnermost)
+{
+    CDialog& rOutermost = *gOutermostDialog();
+    if (!rStep.bOnFrame)
+        return rInnermost;
+    if (dynamic_cast<CTreeDlg*>(&rOutermost))
+        return rOutermost;
+    if (rStep.sKey != "close")
+        throw CRequestError("the wizard is closed");
+    return rInnermost;
+}
+
+void RefuseInFront(const CDialog* pInnermost)
+{
+    if (pInnermost && pInnermost != gOutermostDialog())
+        throw CRequestError(dynamic_cast<CTreeDlg*>(gOutermostDialog())
+                                ? "a dialog is open in front of the wizard"
+                                : "a dialog is open in front of another");
+}
 } // namespace
 
 CSession::CSession(TWizard wizard, std::istream& rIn, std::ostream& rOut)
@@ -44,12 +68,12 @@ CSession::CSession(TWizard wizard, std::istream& rIn, std::ostream& rOut)
 void CSession::Run()
 {
     mDesktop.emplace();
-    mNext = TOpening{nullptr};
+    mNext = TOpening{};
     while (!mbEndOfInput) {
         if (std::exchange(mbForget, false))
             Forget();
         if (const auto opening = std::exchange(mNext, std::nullopt))
-            RunWizard(*opening);
+            RunOpening(*opening);
         else
             Serve(nullptr);
     }
@@ -59,21 +83,40 @@ void CSession::Run()
         throw std::runtime_error("can't write the session's replies");
 }
 
-void CSession::RunWizard(const TOpening& rOpening)
+void CSession::RunOpening(const TOpening& rOpening)
 {
     mbLeaving = false;
     mDesktop->SetNextAction([this](CDialog& rInnermost) { return ActIn(rInnermost); });
     try {
-        if (!rOpening.pPage)
-            mWizard.run(mTarget);
-        else
-            gRunOnPage(*mDesktop, mWizard, *rOpening.pPage, mTarget,
-                       [this](CDialog& rInnermost) { return ActIn(rInnermost); });
+        if (!rOpening.browse) {
+            RunWizard(rOpening);
+            return;
+        }
+        const TBrowserEnd end{rOpening.browse()};
+        if (!mbLeaving)
+            mEnd = end;
     } catch (const std::exception& rException) {
         if (!mbReplyIsDue)
             throw; // nobody would hear of it
-        mError = "the wizard ended by an exception: " + std::string(rException.what());
+        const std::string sEnded = rOpening.browse ? "the dialog" : "the wizard";
+        mError = sEnded + " ended by an exception: " + rException.what();
     }
+}
+
+void CSession::RunWizard(const TOpening& rOpening)
+{
+    if (!rOpening.pPage)
+        mWizard.run(mTarget);
+    else
+        gRunOnPage(*mDesktop, mWizard, *rOpening.pPage, mTarget,
+                   [this](CDialog& rInnermost) { return ActIn(rInnermost); });
+}
+
+/// All that is open closes first.
+void CSession::OpenNext(TOpening opening)
+{
+    mNext = std::move(opening);
+    mbLeaving = true;
 }
 
 bool CSession::ActIn(CDialog& rInnermost)
@@ -95,6 +138,7 @@ void CSession::Serve(CDialog* pInnermost)
     const unsigned long long nRequest = ++mnRequests;
     mbReplyIsDue = true;
     mError.reset();
+    mRows.reset();
     try {
         std::visit([this, pInnermost](const auto& rRequest) { Do(rRequest, pInnermost); },
                    gParseRequest(*line));
@@ -117,7 +161,9 @@ void CSession::Reply(CDialog* pInnermost)
 {
     if (!std::exchange(mbReplyIsDue, false))
         return;
-    const TSessionEvents events{mDesktop->TakeBoxes(), mDesktop->TakeFileDialogs(), mTarget.Take()};
+    const TSessionEvents events{mDesktop->TakeBoxes(), mDesktop->TakeFileDialogs(), mTarget.Take(),
+                                std::exchange(mRows, std::nullopt),
+                                std::exchange(mEnd, std::nullopt)};
     mrOut << gToLine(gComposeReply(mError, events, mPages, pInnermost)) << '\n' << std::flush;
 }
 
@@ -125,8 +171,7 @@ void CSession::Reply(CDialog* pInnermost)
 
 void CSession::Do(const TStepRequest& rRequest, CDialog* pInnermost)
 {
-    WhileOpen(pInnermost);
-    CDialog& rDialog = rRequest.step.bOnFrame ? *gOutermostDialog() : *pInnermost;
+    CDialog& rDialog = DialogOf(rRequest.step, WhileOpen(pInnermost));
     const TStepResult result = gRunStep(rDialog, rRequest.step);
     if (!result.IsDone())
         throw CRequestError(gStepError(rDialog, rRequest.step, result));
@@ -135,21 +180,19 @@ void CSession::Do(const TStepRequest& rRequest, CDialog* pInnermost)
 void CSession::Do(const TOpenRequest& rRequest, CDialog* pInnermost)
 {
     CDialog& rDialog = WhileOpen(pInnermost);
-    if (&rDialog != gOutermostDialog())
-        throw CRequestError("a dialog is open in front of the wizard");
+    RefuseInFront(pInnermost);
     const TPage* pPage = nullptr;
     try {
         pPage = &gFindBuiltPage(mPages, rRequest.sPage);
     } catch (const CUsageError& rError) {
         throw CRequestError(rError.what());
     }
-    const bool bInWizard = dynamic_cast<CSinglePageDlg*>(&rDialog) == nullptr;
-    if (bInWizard && pPage->HasNode()) {
+    const bool bInWizard =
+        dynamic_cast<CTreeDlg*>(&rDialog) && !dynamic_cast<CSinglePageDlg*>(&rDialog);
+    if (bInWizard && pPage->HasNode())
         gSelectPage(rDialog, *pPage);
-    } else {
-        mNext = TOpening{pPage};
-        mbLeaving = true;
-    }
+    else
+        OpenNext({.pPage = pPage});
 }
 
 void CSession::Do(const TAnswersRequest& rRequest, CDialog*)
@@ -166,15 +209,41 @@ void CSession::Do(const TStateRequest&, CDialog*) {}
 
 void CSession::Do(const TReopenRequest&, CDialog*)
 {
-    mNext = TOpening{nullptr};
-    mbLeaving = true;
+    OpenNext({});
 }
 
 void CSession::Do(const TFreshRequest&, CDialog*)
 {
-    mNext = TOpening{nullptr};
     mbForget = true;
-    mbLeaving = true;
+    OpenNext({});
+}
+
+void CSession::Do(const TLoadRequest& rRequest, CDialog*)
+{
+    mBrowser.Load(rRequest);
+}
+
+void CSession::Do(const TBrowseRequest& rRequest, CDialog* pInnermost)
+{
+    Browse(mBrowser.Open(rRequest), pInnermost);
+}
+
+void CSession::Do(const TDeviceDetailsRequest& rRequest, CDialog* pInnermost)
+{
+    Browse(mBrowser.Open(rRequest), pInnermost);
+}
+
+void CSession::Browse(TRunBrowser browse, const CDialog* pInnermost)
+{
+    RefuseInFront(pInnermost);
+    OpenNext({.browse = std::move(browse)});
+}
+
+void CSession::Do(const TRowsRequest& rRequest, CDialog* pInnermost)
+{
+    if (!gShownGrid(WhileOpen(pInnermost)))
+        throw CRequestError("the dialog has no table to tell rows of");
+    mRows = rRequest;
 }
 
 void CSession::Forget()
@@ -182,6 +251,8 @@ void CSession::Forget()
     CRememberedBase::ResetAll();
     mDesktop.emplace();
     mTarget.Take();
+    mBrowser.Forget();
+    gGetLastExportPath() = {};
     std::error_code ignored; // the folder may have been removed meanwhile
     std::filesystem::current_path(mStartFolder, ignored);
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "cli/PageList.h"
+#include "cli/SessionBrowser.h"
+#include "cli/SessionReply.h"
 #include "cli/SessionRequest.h"
 #include "cli/Wizard.h"
 #include "platform/headless/HeadlessDesktop.h"
@@ -15,7 +17,8 @@
 namespace quorvawiz::cli
 {
 
-/// The whole life of the wizard on a headless desktop, driven by requests (docs/session.md).
+/// The whole life of the wizard, and of the parameter browser, on a headless desktop, driven by
+/// requests (docs/session.md).
 ///
 /// A reply is written when the next request is about to be read. So a request that opens a modal
 /// dialog is answered from inside that dialog's run, and the requests that follow act in it.
@@ -33,12 +36,16 @@ public:
     void Run();
 
 private:
-    /// What is open, or is to be opened: the wizard, or one page without a node.
+    /// What is open, or is to be opened: the wizard, one page without a node, or a dialog of the
+    /// parameter browser.
     struct TOpening {
-        const TPage* pPage; ///< to be displayed at once; null: as the wizard opens
+        const TPage* pPage = nullptr; ///< to be displayed at once; null: as the wizard opens
+        TRunBrowser browse{};         ///< instead of any page
     };
 
+    void RunOpening(const TOpening& rOpening);
     void RunWizard(const TOpening& rOpening);
+    void OpenNext(TOpening opening);
     bool ActIn(CDialog& rInnermost);
     void Serve(CDialog* pInnermost);
     std::optional<std::string> ReadLine();
@@ -51,6 +58,11 @@ private:
     void Do(const TStateRequest& rRequest, CDialog* pInnermost);
     void Do(const TReopenRequest& rRequest, CDialog* pInnermost);
     void Do(const TFreshRequest& rRequest, CDialog* pInnermost);
+    void Do(const TLoadRequest& rRequest, CDialog* pInnermost);
+    void Do(const TBrowseRequest& rRequest, CDialog* pInnermost);
+    void Do(const TDeviceDetailsRequest& rRequest, CDialog* pInnermost);
+    void Do(const TRowsRequest& rRequest, CDialog* pInnermost);
+    void Browse(TRunBrowser browse, const CDialog* pInnermost);
     void Forget();
 
     TWizard mWizard;
@@ -59,6 +71,7 @@ private:
     std::vector<TPage> mPages;
     std::optional<HeadlessDesktop> mDesktop;
     CCommandCollector mTarget;
+    CSessionBrowser mBrowser;
     std::filesystem::path mStartFolder;
     std::optional<TOpening> mNext; ///< opened as soon as nothing is open
     bool mbLeaving = false;        ///< every dialog that runs ends
@@ -66,6 +79,8 @@ private:
     bool mbEndOfInput = false;
     bool mbReplyIsDue = false;
     std::optional<std::string> mError; ///< of the reply that is due
+    std::optional<TRowsRequest> mRows; ///< that the reply tells
+    std::optional<TBrowserEnd> mEnd;   ///< of a dialog, not told yet
     unsigned long long mnRequests = 0; ///< how many have been read
 };
 

@@ -2,6 +2,7 @@
 
 #include "cli/PageRun.h"
 #include "cli/ShownFields.h"
+#include "cli/TableJson.h"
 #include "platform/base/Utf8Text.h"
 #include "platform/ui/Desktop.h"
 #include "wizard/frame/TreeDlg.h"
@@ -56,10 +57,8 @@ TJson PageToJson(CDialog& rWizardDialog, const std::vector<TPage>& rPages)
     return page == rPages.end() ? sClass : page->Name();
 }
 
-TJson SubDialogToJson(const CDialog& rInnermost)
+TJson DialogToJson(const CDialog& rInnermost)
 {
-    if (&rInnermost == gOutermostDialog())
-        return {};
     return {{"class", gClassName(rInnermost)}, {"title", gToUtf8(rInnermost.GetWindowText())}};
 }
 
@@ -77,19 +76,19 @@ TJson FieldsToJson(CDialog& rInnermost)
     return fields;
 }
 
-void AddState(const std::vector<TPage>& rPages, CDialog& rInnermost, TJson& rReply)
+void AddWizardState(const std::vector<TPage>& rPages, CTreeDlg& rWizard, CDialog& rInnermost,
+                    TJson& rReply)
 {
-    auto& rWizard = dynamic_cast<CTreeDlg&>(*gOutermostDialog());
     rReply["command"] = gToUtf8(rWizard.GetCommand());
     rReply["insert_enabled"] = rWizard.GetDlgItem(IDOK)->IsWindowEnabled();
     rReply["page"] = PageToJson(rWizard, rPages);
-    rReply["dialog"] = SubDialogToJson(rInnermost);
+    rReply["dialog"] = &rInnermost == &rWizard ? TJson() : DialogToJson(rInnermost);
     rReply["focus"] = FocusToJson();
     rReply["tree"] = gTreeToJson(rWizard.GetTree());
     rReply["fields"] = FieldsToJson(rInnermost);
 }
 
-void AddClosedState(TJson& rReply)
+void AddNoWizardState(TJson& rReply)
 {
     rReply["command"] = nullptr;
     rReply["insert_enabled"] = false;
@@ -97,6 +96,20 @@ void AddClosedState(TJson& rReply)
         rReply[pMember] = nullptr;
     rReply["fields"] = TJson::object();
 }
+
+void AddBrowserState(const std::optional<TRowsRequest>& rRows, CDialog& rInnermost, TJson& rReply)
+{
+    AddNoWizardState(rReply);
+    rReply["dialog"] = DialogToJson(rInnermost);
+    rReply["focus"] = FocusToJson();
+    rReply["fields"] = FieldsToJson(rInnermost);
+    const CTableCtrl* const pGrid = gShownGrid(rInnermost);
+    rReply["table"] = pGrid ? gGridToJson(*pGrid) : TJson();
+    rReply["tabs"] = gTabsToJson(rInnermost);
+    if (rRows && pGrid)
+        rReply["rows"] = gGridRowsToJson(*pGrid, *rRows);
+}
+
 } // namespace
 
 TJson gComposeReply(const std::optional<std::string>& rError, const TSessionEvents& rEvents,
@@ -112,10 +125,14 @@ TJson gComposeReply(const std::optional<std::string>& rError, const TSessionEven
     reply["inserted"] = TJson::array();
     for (const CString& rsCommand : rEvents.inserted)
         reply["inserted"].push_back(gToUtf8(rsCommand));
-    if (pInnermost)
-        AddState(rPages, *pInnermost, reply);
+    if (!pInnermost)
+        AddNoWizardState(reply);
+    else if (auto* const pWizard = dynamic_cast<CTreeDlg*>(gOutermostDialog()))
+        AddWizardState(rPages, *pWizard, *pInnermost, reply);
     else
-        AddClosedState(reply);
+        AddBrowserState(rEvents.rows, *pInnermost, reply);
+    if (rEvents.end)
+        reply["result"] = rEvents.end->result ? TJson(*rEvents.end->result) : TJson();
     return reply;
 }
 

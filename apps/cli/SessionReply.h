@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/BrowserRequest.h"
 #include "cli/FieldJson.h"
 #include "cli/PageList.h"
 #include "platform/headless/HeadlessDesktop.h"
@@ -11,11 +12,18 @@
 namespace quorvawiz::cli
 {
 
+/// How a dialog of the parameter browser ended.
+struct TBrowserEnd {
+    std::optional<bool> result; ///< what it returned; none of one that returns nothing
+};
+
 /// What happened since the reply before.
 struct TSessionEvents {
     std::vector<TShownBox> boxes;
     std::vector<TFileDialog> fileDialogs;
-    std::vector<CString> inserted; ///< what the target got
+    std::vector<CString> inserted;    ///< what the target got
+    std::optional<TRowsRequest> rows; ///< the rows that the reply tells, of a table that is shown
+    std::optional<TBrowserEnd> end;   ///< of a dialog that was opened
 };
 
 /// The reply to a request: what happened, and how the wizard stands now (docs/session.md).

@@ -135,6 +135,16 @@ TRequest ReadFile(const TMembers& rMembers)
         {bCancel ? TFileChoice::EEnd::Cancelled : TFileChoice::EEnd::InvalidName, {}}};
 }
 
+template <auto Read> TRequest ReadAs(const TMembers& rMembers)
+{
+    return Read(rMembers);
+}
+
+TRequest ReadTab(const TMembers& rMembers)
+{
+    return OnField({.op = EStep::Select, .sKey = "tabs", .nIndex = rMembers.Index("index")});
+}
+
 template <class TPlainRequest> TRequest ReadPlain(const TMembers&)
 {
     return TPlainRequest{};
@@ -165,6 +175,11 @@ const std::vector<TOperation>& Operations()
         {"collapse", {"path"}, ReadTreePath<EStep::Collapse>},
         {"answers", {"answers"}, ReadAnswers},
         {"file", {"path", "cancel", "invalid"}, ReadFile},
+        {"load", {"path"}, ReadAs<gReadLoad>},
+        {"browse", {"dialog", "recalculate", "class"}, ReadAs<gReadBrowse>},
+        {"device-details", {"subckt", "name"}, ReadAs<gReadDeviceDetails>},
+        {"rows", {"from", "count"}, ReadAs<gReadRows>},
+        {"tab", {"index"}, ReadTab},
         {"state", {}, ReadPlain<TStateRequest>},
         {"reopen", {}, ReadPlain<TReopenRequest>},
         {"fresh", {}, ReadPlain<TFreshRequest>},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/BrowserRequest.h"
 #include "cli/RequestError.h"
 #include "platform/headless/Step.h"
 #include "platform/ui/FileDialog.h"
@@ -14,7 +15,7 @@ namespace quorvawiz::cli
 
 /// One line of the session's input, read. docs/session.md says what each does.
 struct TStepRequest {
-    TStep step; ///< one on the frame is meant for the wizard's own
+    TStep step; ///< one on the frame is meant for the wizard's own, where that is open
 };
 struct TOpenRequest {
     std::string sPage; ///< UTF-8
@@ -32,7 +33,8 @@ struct TReopenRequest {
 struct TFreshRequest {
 };
 using TRequest = std::variant<TStepRequest, TOpenRequest, TAnswersRequest, TFileRequest,
-                              TStateRequest, TReopenRequest, TFreshRequest>;
+                              TStateRequest, TReopenRequest, TFreshRequest, TLoadRequest,
+                              TBrowseRequest, TDeviceDetailsRequest, TRowsRequest>;
 
 /// Reads a request.
 /// @param sLine one line without its end, of any length and content

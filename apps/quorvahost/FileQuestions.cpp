@@ -69,14 +69,36 @@ bool gAskToOverwrite(QWidget* pParent, const QString& rsName)
     return box.clickedButton() == pReplace;
 }
 
+bool gAskToSaveFirst(QWidget* pParent, const QString& rsName)
+{
+    CPlainBox box(pParent, Say("\"%1\" has to be saved first.").arg(rsName),
+                  QMessageBox::Save | QMessageBox::Cancel);
+    box.setInformativeText(Say("The simulator reads the file."));
+    box.setDefaultButton(QMessageBox::Save);
+    return box.exec() == QMessageBox::Save;
+}
+
+void gShowText(QWidget* pParent, const QString& rsText)
+{
+    CPlainBox(pParent, rsText, QMessageBox::Ok).exec();
+}
+
 void gShowFault(QWidget* pParent, const TFileFault& rFault)
 {
-    CPlainBox(pParent, gAsSentence(rFault.sMessage), QMessageBox::Ok).exec();
+    gShowText(pParent, gAsSentence(rFault.sMessage));
 }
 
 std::optional<QString> gAskForFileToOpen(QWidget* pParent, const QString& rsFolder)
 {
     QFileDialog dialog(pParent, Say("Open Netlist"), rsFolder, Filters());
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return ChosenIn(dialog);
+}
+
+std::optional<QString> gAskForParamsFile(QWidget* pParent, const QString& rsFolder)
+{
+    QFileDialog dialog(pParent, Say("Open Params File"), rsFolder,
+                       Say("Params files (*.params);;All files (*)"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     return ChosenIn(dialog);
 }

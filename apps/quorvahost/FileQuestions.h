@@ -24,6 +24,13 @@ EUnsaved gAskAboutUnsaved(QWidget* pParent, const QString& rsName);
 /// Asks whether to save over what another program wrote meanwhile; Escape is no.
 bool gAskToOverwrite(QWidget* pParent, const QString& rsName);
 
+/// Asks whether to save, so that another program reads what is in the editor; Escape is no.
+/// @param rsName the netlist's name
+bool gAskToSaveFirst(QWidget* pParent, const QString& rsName);
+
+/// Shows a text that stands for itself, to the letter.
+void gShowText(QWidget* pParent, const QString& rsText);
+
 /// Tells why a file wasn't read or written.
 void gShowFault(QWidget* pParent, const TFileFault& rFault);
 
@@ -31,6 +38,11 @@ void gShowFault(QWidget* pParent, const TFileFault& rFault);
 /// @param rsFolder where to begin
 /// @return its absolute path; nullopt if the user cancels
 std::optional<QString> gAskForFileToOpen(QWidget* pParent, const QString& rsFolder);
+
+/// Asks for a params file to open.
+/// @param rsFolder where to begin
+/// @return its absolute path; nullopt if the user cancels
+std::optional<QString> gAskForParamsFile(QWidget* pParent, const QString& rsFolder);
 
 /// Asks where to save; a name without an extension gets ".cir".
 /// @param rsProposed a file or folder to begin with

@@ -84,6 +84,23 @@ THostActions gMakeHostMenus(QMainWindow& rWindow, const THostHandlers& rHandlers
     CMenuMaker tools(rWindow, "tools", "&Tools");
     tools.Add("wizard", "SPICE Command &Wizard...", {Qt::CTRL | Qt::Key_I}, rHandlers.wizard);
 
+    CMenuMaker parameters(rWindow, "parameters", "&Parameters");
+    parameters.Add("openParams", "&Open Params File...", {Qt::CTRL | Qt::SHIFT | Qt::Key_O},
+                   rHandlers.openParams);
+    parameters.Add("importNetlist", "&Import from ngspice...", {Qt::CTRL | Qt::SHIFT | Qt::Key_I},
+                   rHandlers.importNetlist);
+    parameters.AddLine();
+    actions.withParams = {
+        parameters.Add("devices", "&Devices...", {Qt::CTRL | Qt::SHIFT | Qt::Key_D},
+                       rHandlers.devices),
+        parameters.Add("libraryModels", "&Library Models...", {}, rHandlers.libraryModels),
+        parameters.Add("simulatorModels", "&Simulator Models...", {}, rHandlers.simulatorModels),
+        parameters.Add("deviceAtCursor", "Device at &Cursor...", {Qt::CTRL | Qt::Key_D},
+                       rHandlers.deviceAtCursor)};
+    parameters.AddLine();
+    actions.withParams.append(
+        parameters.Add("recalculate", "&Recalculate", {Qt::Key_F5}, rHandlers.recalculate));
+
     CMenuMaker help(rWindow, "help", "&Help");
     help.Add("about", "&About quorvahost", {}, rHandlers.about);
     return actions;

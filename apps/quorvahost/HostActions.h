@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <functional>
 
@@ -17,6 +18,8 @@ struct THostHandlers {
     std::function<void()> find, findNext, findPrevious;
     std::function<void()> zoomIn, zoomOut, zoomReset;
     std::function<void()> wizard;
+    std::function<void()> openParams, devices, libraryModels, simulatorModels, deviceAtCursor;
+    std::function<void()> recalculate, importNetlist;
     std::function<void()> about;
 };
 
@@ -27,6 +30,7 @@ struct THostActions {
     QAction* pRedo = nullptr;
     QAction* pCut = nullptr;
     QAction* pCopy = nullptr;
+    QList<QAction*> withParams; ///< those that need a params file
 };
 
 /// Gives a window its menus. Each action's object name is its handler's.

@@ -45,7 +45,11 @@ private:
         const QString sName = rsArgument.left(nEqual);
         const bool bHasValue = nEqual >= 0;
         if (sName == QStringLiteral("--append"))
-            return ReadAppend(bHasValue, rsArgument.mid(nEqual + 1));
+            return ReadAppend(Value(bHasValue, rsArgument.mid(nEqual + 1)));
+        if (sName == QStringLiteral("--browse"))
+            return ReadBrowse(Value(bHasValue, rsArgument.mid(nEqual + 1)));
+        if (sName == QStringLiteral("--list"))
+            return ReadList(Value(bHasValue, rsArgument.mid(nEqual + 1)));
         if (bHasValue && sName.startsWith(QStringLiteral("--")) && IsFlag(sName))
             return Refuse(QStringLiteral("%1 takes no value").arg(sName));
         if (sName == QStringLiteral("--wizard") && !bHasValue)
@@ -67,15 +71,40 @@ private:
             .contains(rsName);
     }
 
-    void ReadAppend(bool bHasValue, const QString& rsValue)
+    /// An option's value: behind its "=", or the next argument.
+    QString Value(bool bHasValue, const QString& rsValue)
     {
-        QString sFile = rsValue;
-        if (!bHasValue)
-            sFile = mnNext < mrArguments.size() ? mrArguments[mnNext++] : QString();
-        if (sFile.isEmpty())
+        if (bHasValue)
+            return rsValue;
+        return mnNext < mrArguments.size() ? mrArguments[mnNext++] : QString();
+    }
+
+    void ReadAppend(const QString& rsFile)
+    {
+        if (rsFile.isEmpty())
             return Refuse(QStringLiteral("--append needs a file"));
         SetSink(ECommandSink::File);
-        msAppend = sFile;
+        msAppend = rsFile;
+    }
+
+    void ReadBrowse(const QString& rsFile)
+    {
+        if (rsFile.isEmpty())
+            return Refuse(QStringLiteral("--browse needs a file"));
+        if (!msBrowse.isEmpty())
+            return Refuse(QStringLiteral("give --browse once"));
+        msBrowse = rsFile;
+    }
+
+    void ReadList(const QString& rsName)
+    {
+        const QStringList names{QStringLiteral("devices"), QStringLiteral("library-models"),
+                                QStringLiteral("simulator-models")};
+        const qsizetype nFound = names.indexOf(rsName);
+        if (nFound < 0)
+            return Refuse(QStringLiteral("--list is one of: %1").arg(names.join(", ")));
+        mbListGiven = true;
+        mOptions.list = static_cast<EBrowserList>(nFound);
     }
 
     void SetSink(ECommandSink sink)
@@ -103,6 +132,15 @@ private:
             mOptions.task = EHostTask::Version;
             return;
         }
+        if (mbListGiven && msBrowse.isEmpty())
+            return Refuse(QStringLiteral("--list goes with --browse"));
+        if (!msBrowse.isEmpty()) {
+            if (mbWizard || mbSinkGiven || !mOptions.sFile.isEmpty())
+                return Refuse(QStringLiteral("--browse takes its file and nothing else"));
+            mOptions.task = EHostTask::Browse;
+            mOptions.sFile = msBrowse;
+            return;
+        }
         if (!mbWizard && mbSinkGiven)
             return Refuse(QStringLiteral("--append and --clipboard go with --wizard"));
         if (mbWizard && !mOptions.sFile.isEmpty())
@@ -118,8 +156,10 @@ private:
     qsizetype mnNext = 0;
     THostOptions mOptions;
     QString msAppend;
+    QString msBrowse;
     bool mbWizard = false;
     bool mbVersion = false;
+    bool mbListGiven = false;
     bool mbSinkGiven = false;
     std::optional<TUsageFault> mFault;
 };
@@ -134,17 +174,21 @@ QString gHostHelp()
 {
     return QStringLiteral(R"(usage: quorvahost [FILE]
        quorvahost --wizard [--append FILE | --clipboard]
+       quorvahost --browse FILE [--list LIST]
 
-Opens an editor for SPICE netlists; Tools > SPICE Command Wizard inserts commands at the cursor.
+Opens an editor for SPICE netlists; Tools > SPICE Command Wizard inserts commands at the cursor, and
+Parameters shows what a params file knows of the circuit.
 
   --wizard       open the wizard alone and print each inserted command at once
   --append FILE  with --wizard: add each command to the end of FILE instead
   --clipboard    with --wizard: put each command on the clipboard instead
+  --browse FILE  open the parameter browser alone, on a params file
+  --list LIST    with --browse: devices (the default), library-models or simulator-models
   --version      print the version
   --help, -h     this text
 
-Exit code: 0 done, 1 something couldn't be written or no window can be shown (no display), 2 the
-command line isn't understood.
+Exit code: 0 done, 1 something couldn't be read or written or no window can be shown (no display), 2
+the command line isn't understood.
 
 Where no clipboard manager runs, --clipboard goes on after the wizard, without a window, until another
 program takes the clipboard.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "quorvahost/BrowserDialogs.h"
+
 #include <QString>
 #include <QStringList>
 #include <variant>
@@ -11,6 +13,7 @@ namespace quorvawiz::host
 enum class EHostTask {
     Edit,   ///< open the editor
     Wizard, ///< open the wizard alone
+    Browse, ///< open the parameter browser alone
     Help,
     Version,
 };
@@ -26,7 +29,8 @@ enum class ECommandSink {
 struct THostOptions {
     EHostTask task = EHostTask::Edit;
     ECommandSink sink = ECommandSink::Output;
-    QString sFile; ///< to edit or to append to; empty: none
+    QString sFile;                             ///< to edit, append to or browse; empty: none
+    EBrowserList list = EBrowserList::Devices; ///< of the browser
 
     bool operator==(const THostOptions&) const = default;
 };

@@ -20,12 +20,15 @@ QLabel* AddLabel(QStatusBar& rBar, const QString& rsName)
 } // namespace
 
 CHostStatus::CHostStatus(CNetlistEdit& rEdit, QStatusBar& rBar)
-    : QObject(&rBar), mrEdit(rEdit), mpColoured(AddLabel(rBar, QStringLiteral("status-coloured"))),
+    : QObject(&rBar), mrEdit(rEdit), mpParams(AddLabel(rBar, QStringLiteral("status-params"))),
+      mpColoured(AddLabel(rBar, QStringLiteral("status-coloured"))),
       mpPlace(AddLabel(rBar, QStringLiteral("status-place"))),
       mpForm(AddLabel(rBar, QStringLiteral("status-form")))
 {
     connect(&rEdit, &QPlainTextEdit::cursorPositionChanged, this, &CHostStatus::ShowPlace);
     connect(&rEdit, &CNetlistEdit::ColouredChanged, this, &CHostStatus::ShowColoured);
+    mpParams->setTextFormat(Qt::PlainText);
+    mpParams->hide();
     mpColoured->setText(tr("Large file: no colours"));
     ShowPlace();
     ShowColoured();
@@ -37,6 +40,17 @@ void CHostStatus::ShowForm(TTextForm form)
     const QString sLineEnds = gLineEndsName(form.lineEnds);
     mpForm->setText(form.bBom ? tr("UTF-8 BOM, %1").arg(sLineEnds)
                               : tr("UTF-8, %1").arg(sLineEnds));
+}
+
+void CHostStatus::ShowParams(const QString& rsName)
+{
+    constexpr int kMostCharacters = 24;
+    const QString sShown = rsName.size() <= kMostCharacters
+                               ? rsName
+                               : rsName.left(kMostCharacters - 1) + QStringLiteral("\u2026");
+    mpParams->setText(tr("Parameters: %1").arg(sShown));
+    mpParams->setToolTip(rsName.toHtmlEscaped());
+    mpParams->show();
 }
 
 void CHostStatus::ShowPlace()

@@ -8,11 +8,12 @@
 #include "quorvahost/FindBar.h"
 #include "quorvahost/HostStatus.h"
 #include "quorvahost/NetlistEdit.h"
+#include "quorvahost/ParameterTools.h"
 #include "quorvahost/RecentFiles.h"
+#include "quorvahost/WaitPointer.h"
 #include "quorvawiz/version.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QDragEnterEvent>
@@ -89,16 +90,6 @@ private:
     std::function<void()> mAct;
 };
 
-/// Shows the waiting pointer while it lives.
-class CWaitPointer
-{
-public:
-    CWaitPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~CWaitPointer() { QApplication::restoreOverrideCursor(); }
-    CWaitPointer(const CWaitPointer&) = delete;
-    CWaitPointer& operator=(const CWaitPointer&) = delete;
-};
-
 /// The one local file of a drop, or an empty text.
 QString DroppedFile(const QMimeData& rData)
 {
@@ -121,7 +112,10 @@ CHostWindow::CHostWindow(QtDesktop& rDesktop) : mrDesktop(rDesktop)
     mpTarget = std::make_unique<CEditTarget>(*mpEdit);
     mpEdit->setFrameShape(QFrame::NoFrame);
 
+    mpParameters = new CParameterTools(*this);
     mActions = gMakeHostMenus(*this, Handlers());
+    for (QAction* const pAction : mActions.withParams)
+        pAction->setEnabled(false);
     mpStatus = new CHostStatus(*mpEdit, *statusBar());
     for (QAction* const pAction : {mActions.pUndo, mActions.pRedo, mActions.pCut, mActions.pCopy})
         pAction->setEnabled(false);
@@ -163,6 +157,13 @@ THostHandlers CHostWindow::Handlers()
         .zoomOut = [this] { mpEdit->Zoom(-1); },
         .zoomReset = [this] { mpEdit->Zoom(0); },
         .wizard = [this] { RunWizard(); },
+        .openParams = [this] { mpParameters->ChooseAndOpen(); },
+        .devices = [this] { mpParameters->Browse(EBrowserList::Devices); },
+        .libraryModels = [this] { mpParameters->Browse(EBrowserList::LibraryModels); },
+        .simulatorModels = [this] { mpParameters->Browse(EBrowserList::SimulatorModels); },
+        .deviceAtCursor = [this] { mpParameters->BrowseDeviceAtCursor(); },
+        .recalculate = [this] { mpParameters->Recalculate(); },
+        .importNetlist = [this] { mpParameters->ImportNetlist(); },
         .about = [this] { About(); },
     };
 }
@@ -263,34 +264,58 @@ bool CHostWindow::MayLeaveNetlist()
 
 void CHostWindow::RunWizard()
 {
-    if (mbWizardRuns)
-        return;
-    // Whoever deletes the window ends the wizard, which returns here.
+    RunInFront({.sWhat = tr("the wizard has ended: %1"),
+                .run = [this] { gInvokeSpiceCommandWizard(gWindowOf(this), mpTarget.get()); }});
+}
+
+bool CHostWindow::RunInFront(const TInFront& rInFront)
+{
+    if (mEndInFront)
+        return false;
+    // Whoever deletes the window ends what is in front, which returns here.
     const QPointer<CHostWindow> pAlive(this);
-    mbWizardRuns = true;
+    mEndInFront = rInFront.end;
+    if (!mEndInFront)
+        mEndInFront = [this] { mrDesktop.EnterModel([this] { mrDesktop.EndModalRuns(); }); };
     QString sFault;
     try {
         const CCloseListener closeListener(*this);
-        gInvokeSpiceCommandWizard(gWindowOf(this), mpTarget.get());
+        rInFront.run();
     } catch (const std::exception& rError) {
-        sFault = tr("the wizard has ended: %1").arg(QString::fromUtf8(rError.what()));
+        sFault = rInFront.sWhat.arg(QString::fromUtf8(rError.what()));
     }
     if (!pAlive)
-        return;
-    mbWizardRuns = false;
+        return false;
+    mEndInFront = nullptr;
     if (!sFault.isEmpty())
         gShowFault(this, {sFault});
-    if (std::exchange(mbCloseAfterWizard, false))
-        close();
+    if (!std::exchange(mbCloseAfterInFront, false))
+        return sFault.isEmpty();
+    close();
+    return false;
+}
+
+bool CHostWindow::SaveForOthers()
+{
+    if (!msPath.isEmpty() && !mpEdit->document()->isModified())
+        return true;
+    return gAskToSaveFirst(this, ShownName()) && Save();
+}
+
+void CHostWindow::ShowParams(const QString& rsName)
+{
+    mpStatus->ShowParams(rsName);
+    for (QAction* const pAction : mActions.withParams)
+        pAction->setEnabled(true);
 }
 
 void CHostWindow::closeEvent(QCloseEvent* pEvent)
 {
-    if (mbWizardRuns) {
-        // The wizard runs on this window's stack: it has to end first.
-        mbCloseAfterWizard = true;
+    if (mEndInFront) {
+        // It runs on this window's stack: it has to end first.
+        mbCloseAfterInFront = true;
         pEvent->ignore();
-        mrDesktop.EnterModel([this] { mrDesktop.EndModalRuns(); });
+        mEndInFront();
         return;
     }
     pEvent->setAccepted(MayLeaveNetlist());
@@ -362,7 +387,7 @@ void CHostWindow::About()
     QMessageBox box(
         QMessageBox::Information, tr("About quorvahost"),
         tr("<b>quorvahost %1</b><p>A small editor for SPICE netlists, and the host of "
-           "the SPICE Command Wizard.</p>")
+           "the SPICE Command Wizard and the Parameter Browser.</p>")
             .arg(QLatin1StringView(kVersion.data(), static_cast<qsizetype>(kVersion.size()))),
         QMessageBox::Ok, this);
     box.exec();

@@ -1,5 +1,6 @@
 #include "platform/base/IsWine.h"
 #include "platform/qt/QtDesktop.h"
+#include "quorvahost/BrowseAlone.h"
 #include "quorvahost/HostOptions.h"
 #include "quorvahost/HostWindow.h"
 #include "quorvahost/StartApplication.h"
@@ -56,8 +57,17 @@ int RunOnDesktop(int& rnCount, char** pArguments, const THostOptions& rOptions)
     QCoreApplication::setApplicationVersion(QString::fromStdString(std::string(kVersion)));
     const auto pApplication = gStartApplication("quorvahost", rnCount, pArguments);
     QtDesktop desktop(QCoreApplication::organizationName(), QCoreApplication::applicationName());
-    return rOptions.task == EHostTask::Wizard ? gRunWizardAlone(rOptions)
-                                              : RunEditor(desktop, rOptions.sFile);
+    switch (rOptions.task) {
+    case EHostTask::Wizard:
+        return gRunWizardAlone(rOptions);
+    case EHostTask::Browse:
+        return gRunBrowseAlone(rOptions);
+    case EHostTask::Edit:
+    case EHostTask::Help:
+    case EHostTask::Version:
+        break;
+    }
+    return RunEditor(desktop, rOptions.sFile);
 }
 } // namespace
 
@@ -83,6 +93,7 @@ int main(int nCount, char** pArguments)
             QStringLiteral("quorvahost %1\n").arg(QString::fromStdString(std::string(kVersion))));
     case EHostTask::Edit:
     case EHostTask::Wizard:
+    case EHostTask::Browse:
         return RunOnDesktop(nCount, pArguments, rOptions);
     }
     return kExitUsage;

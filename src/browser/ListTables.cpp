@@ -43,13 +43,15 @@ TDeviceList gMakeDeviceList(const TCircuitParams& rStore, const CStringU& rsFilt
     return {rStore.GetDeviceList(nSubckt), nSubckt != all ? rsFilter : CStringU()};
 }
 
-TParamTableData gMakeDevicesTable(const TCircuitParams& rStore, const TDeviceList& rDevices)
+TParamTableData gMakeDevicesTable(const TCircuitParams& rStore,
+                                  const std::vector<TDeviceListEntry>& rDevices,
+                                  const CStringU& rsFilter)
 {
     TParamTableData table = gMakeEmptyTable(
         {"__$$Translatable$$_Name", "__$$Translatable$$_Model", "__$$Translatable$$_Type"});
-    table.mRows.reserve(rDevices.mEntries.size());
-    CNames names(rStore, rDevices.msFilter);
-    for (const TDeviceListEntry& rEntry : rDevices.mEntries) {
+    table.mRows.reserve(rDevices.size());
+    CNames names(rStore, rsFilter);
+    for (const TDeviceListEntry& rEntry : rDevices) {
         table.mRows.push_back(gMakeTableRow(names.Compose(rEntry.mnSubckt, rEntry.msName),
                                             rEntry.msModelName, rEntry.msType));
     }

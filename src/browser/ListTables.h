@@ -21,11 +21,12 @@ struct TDeviceList {
 
 /// The table of devices: name, model and type.
 /// @param rStore the store that has them
-/// @param rDevices its rows, in this order. Where the list is limited to a subcircuit, that name
-/// and
-///                 a point stand in front of each name as gMakeDisplayName gives it
+/// @param rDevices its rows, in this order
+/// @param rsFilter the subcircuit that the list is limited to, or empty: it and a point stand in
+///                 front of each name as gMakeDisplayName gives it
 [[nodiscard]] TParamTableData gMakeDevicesTable(const TCircuitParams& rStore,
-                                                const TDeviceList& rDevices);
+                                                const std::vector<TDeviceListEntry>& rDevices,
+                                                const CStringU& rsFilter);
 
 /// The table of library models: name, type, level and the simulator's name of the class.
 /// @param rStore the store that has them

@@ -28,4 +28,32 @@ void gInvokeSpiceCommandWizard(CWnd* pParent, QuorvaCommandWizardTarget* pTarget
 std::pair<CStringU, boost::shared_ptr<TCircuitParams>>
 gReadCircuitParameters(const CStringU& rsPath);
 
+// The parameter browser. Each of these runs a dialog until the user closes it; the current desktop
+// (`gSetDesktop`) shows it. `pParent`: the window that owns it, may be null. `rParams`: the store
+// that was read; it stays as it is and outlives the call.
+
+/// Shows all devices.
+/// `bAllowRecalculate`: whether the user can ask for another calculation.
+/// Result: whether he did; the host then calculates, reads the new file and calls again.
+bool gInvokeParamBrowserDevicesDialog(CWnd* pParent, const TCircuitParams& rParams,
+                                      bool bAllowRecalculate);
+
+/// Shows the parameters of a device. Where there is no such device, it shows the devices of the
+/// subcircuit of that name, or all of them.
+/// `rsSubckt`: the subcircuit that the device stands in; empty for a device at a top level without
+/// a name, and to name a subcircuit by `rsDevice`. Both are exact.
+/// Result: whether the user has asked for another evaluation.
+bool gInvokeDeviceDetailsDialog(CWnd* pParent, const TCircuitParams& rParams,
+                                const CStringU& rsSubckt, const CStringU& rsDevice);
+
+/// Shows all models that the run declared; arguments and result as of
+/// `gInvokeParamBrowserDevicesDialog`.
+bool gInvokeParamBrowserLibraryModelsDialog(CWnd* pParent, const TCircuitParams& rParams,
+                                            bool bAllowRecalculate);
+
+/// Shows the model classes that the simulator offers.
+/// `rsClass`: the exact name of the class to select; the first one where there is none of it.
+void gInvokeParamBrowserQuorvaModelsDialog(CWnd* pParent, const TCircuitParams& rParams,
+                                           const CStringU& rsClass);
+
 } // namespace quorvawiz

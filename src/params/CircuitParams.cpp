@@ -124,13 +124,13 @@ std::vector<TModelListEntry> TCircuitParams::GetModelList() const
             if (rModel.mpModelClassDef == nullptr) {
                 rModel.LinkClass(*this);
             }
-            const TModelHeader& rHeader = rModel.mModelHeader;
-            TModelListEntry entry{rHeader.mnSubckt, rHeader.msName, rHeader.msType, 0, {}};
-            if (rModel.mpModelClassDef != nullptr) {
-                entry.mnLevel = rModel.mpModelClassDef->mHeader.mnLevel;
-                entry.msClass = rModel.mpModelClassDef->mHeader.msName;
+            if (rModel.mpModelClassDef == nullptr) {
+                continue; // level and class stand in the class
             }
-            list.push_back(std::move(entry));
+            const TModelHeader& rHeader = rModel.mModelHeader;
+            const TModelClassHeader& rClass = rModel.mpModelClassDef->mHeader;
+            list.push_back(
+                {rHeader.mnSubckt, rHeader.msName, rHeader.msType, rClass.mnLevel, rClass.msName});
         }
     }
     return list;

@@ -91,8 +91,8 @@ public:
     [[nodiscard]] const TDeviceData* GetDeviceDataNoCase(const CStringU& rsSubckt,
                                                          const CStringU& rsName) const;
 
-    /// All models, by subcircuit id and then in the order of the map. A model that isn't linked to
-    /// a class is linked, if it can be.
+    /// All models, by subcircuit id and then in the order of the map. One without a link to its
+    /// class is linked by name, and left out where the store has no such class.
     [[nodiscard]] std::vector<TModelListEntry> GetModelList() const;
 
     /// The devices of a subcircuit in the order of the map.

@@ -16,6 +16,6 @@ struct TModelListEntry {
     int mnSubckt = 0; ///< the subcircuit of the model
     CStringU msName;  ///< the model
     CStringU msType;  ///< its type
-    int mnLevel = 0;  ///< the level of its class; 0 where it has none
-    CStringU msClass; ///< the name of its class; empty where it has none
+    int mnLevel = 0;  ///< the level of its class
+    CStringU msClass; ///< the name of its class
 };

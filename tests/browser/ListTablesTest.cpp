@@ -19,7 +19,8 @@ using ::testing::IsEmpty;
 
 std::vector<std::string> DeviceRows(const TCircuitParams& rStore, const CStringU& rsFilter)
 {
-    return gShownRows(gMakeDevicesTable(rStore, gMakeDeviceList(rStore, rsFilter)));
+    const TDeviceList list = gMakeDeviceList(rStore, rsFilter);
+    return gShownRows(gMakeDevicesTable(rStore, list.mEntries, list.msFilter));
 }
 
 TEST(DevicesTableTest, AllDevicesInTheOrderOfTheStore)
@@ -37,7 +38,7 @@ TEST(DevicesTableTest, NoCellIsHighlighted)
 {
     TCircuitParams store;
     gFillSample(store);
-    for (const TParamTableRow& rRow : gMakeDevicesTable(store, gMakeDeviceList(store, "")).mRows) {
+    for (const TParamTableRow& rRow : gMakeDevicesTable(store, store.GetDeviceList(-1), "").mRows) {
         for (const TParamTableCell& rCell : rRow) {
             EXPECT_FALSE(rCell.mbHighlight);
         }
@@ -47,7 +48,7 @@ TEST(DevicesTableTest, NoCellIsHighlighted)
 TEST(DevicesTableTest, AnEmptyStoreHasThreeColumnsAndNoRows)
 {
     const TCircuitParams store;
-    const TParamTableData table = gMakeDevicesTable(store, gMakeDeviceList(store, ""));
+    const TParamTableData table = gMakeDevicesTable(store, store.GetDeviceList(-1), "");
     EXPECT_EQ(gShownTitles(table), "Name|Model|Type");
     EXPECT_THAT(table.mRows, IsEmpty());
 }

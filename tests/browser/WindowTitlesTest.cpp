@@ -40,7 +40,7 @@ TEST(ColumnTitlesTest, AreTranslated)
 {
     const CBracketTranslation brackets;
     const TCircuitParams store;
-    EXPECT_EQ(gShownTitles(gMakeDevicesTable(store, {})), "[Name]|[Model]|[Type]");
+    EXPECT_EQ(gShownTitles(gMakeDevicesTable(store, {}, "")), "[Name]|[Model]|[Type]");
     EXPECT_EQ(gShownTitles(gMakeModelsTable(store, {})), "[Name]|[Type]|[Level]|[Quorva Name]");
     EXPECT_EQ(gShownTitles(gMakeClassesTable({})), "[Name]|[Type]|[Level]|[Version]|[Description]");
     EXPECT_EQ(gShownTitles(gMakeParamTable({})), "[Name]|[Value]|[Units]|[Description]");

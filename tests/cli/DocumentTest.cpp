@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 #include <string>
@@ -49,7 +50,10 @@ void ExpectTranscript(const std::string& rsCommand)
 
 TEST(Documents, TheSessionsTranscriptIsReplayed)
 {
+    const std::string sFile = "session-example.params"; // the document's own, in this folder
+    ASSERT_EQ(gRunQuorvawiz({"make-example", sFile, "--devices", "4"}), (TProgramRun{"", "", 0}));
     ExpectTranscript("session");
+    std::filesystem::remove(sFile);
 }
 
 TEST(Documents, TheCallsTranscriptIsReplayed)

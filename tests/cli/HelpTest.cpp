@@ -28,7 +28,7 @@ Subcommands:
   describe                    Tell every control of a page
   compose                     Fill in a page and print its command
   options                     List the options of the simulator
-  session                     Drive the wizard by lines of JSON
+  session                     Drive the wizard and the browser by lines of JSON
   call                        Call functions of the foundation by lines of JSON
   params                      Look into a params file, or write it anew
   make-example                Write a params file of a plausible circuit
@@ -113,7 +113,7 @@ Options:
 
 TEST(Help, Session)
 {
-    ExpectHelp({"session", "--help"}, R"(Drive the wizard by lines of JSON
+    ExpectHelp({"session", "--help"}, R"(Drive the wizard and the browser by lines of JSON
 Usage: quorvawiz session [OPTIONS]
 
 Options:
@@ -161,27 +161,37 @@ TEST(Help, TheShortFormIsTheSame)
 TEST(Help, Params)
 {
     ExpectHelp({"params", "--help"}, R"(Look into a params file, or write it anew
-Usage: quorvawiz params [OPTIONS] FILE ACTION [OUT]
+Usage: quorvawiz params [OPTIONS] FILE ACTION [ARGUMENT...]
 
 Positionals:
   FILE REQUIRED               The params file
-  ACTION REQUIRED             What to do: info, check, dump or save
-  OUT                         For save: the file to write
+  ACTION REQUIRED             What to do, see below
+  ARGUMENT ...                What the action takes
 
 Options:
   -h,--help                   Print this help and exit
   --json                      One line of JSON instead of text
+  --csv FILE                  Write a table as its export does; - is the standard output
+  --header                    With --csv: a line of titles first
+  --subckt NAME               For devices: those of a subcircuit
+  --tab LABEL                 For device and class: one tab, such as Device
   --xml                       For save: as XML, which can't be read back
   --verbose                   Tell where a file is refused, and why
 
 Each ACTION does one thing with the file:
-  info      counts what is in it
-  check     looks for names that lead nowhere
-  dump      tells everything as JSON
-  save OUT  writes it anew
+  info                counts what is in it
+  check               looks for names that lead nowhere
+  dump                tells everything as JSON
+  save OUT            writes it anew
+  devices             lists the devices
+  models              lists the library models
+  classes             lists the model classes of the simulator
+  device SUBCKT NAME  shows the parameters of a device and its model
+  model SUBCKT NAME   shows the parameters of a library model
+  class NAME          shows the defaults of a model class
 
-Exit code: 0 done, 1 the file can't be read or written, or check found such a
-name, 2 an argument is wrong.
+Exit code: 0 done, 1 a file can't be read or written, or check found such a
+name, 2 an argument is wrong or the file has no such name.
 --code-page and --rules may be given, too; quorvawiz --help tells them.
 )");
 }

@@ -310,8 +310,9 @@ TEST(Params, WrongArguments)
         std::string sMessage;
     } cases[] = {
         {{"inof"}, "there is no action \"inof\"; did you mean \"info\"?"},
-        {{"save"}, "save needs a file to write"},
-        {{"info", "x"}, "info takes no second file, but is given \"x\""},
+        {{"save"}, "save needs OUT"},
+        {{"save", "a", "b"}, "save takes nothing more, but is given \"b\""},
+        {{"info", "x"}, "info takes nothing more, but is given \"x\""},
         {{"dump", "--xml"}, "dump takes no --xml"},
         {{"check", "--json"}, "check takes no --json"},
     };

@@ -76,7 +76,7 @@ TEST(SessionRequest, SaysWhatIsWrong)
         {"a member twice", R"({"op":"state","op":"close"})",
          R"(the member "op" stands there twice)"},
         {"a control character in a name", R"({"op":"a\u0000\u001bb"})",
-         R"(there is no request "a\x00\x1Bb"; did you mean "open"?)"},
+         R"(there is no request "a\x00\x1Bb"; did you mean "tab"?)"},
         {"no page", R"({"op":"open"})", R"(the member "page" is missing)"},
         {"page is no text", R"({"op":"open","page":null})", R"(the member "page" isn't a text)"},
         {"no field", R"({"op":"set","text":"a"})", R"(the member "field" is missing)"},

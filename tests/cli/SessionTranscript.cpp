@@ -1,5 +1,6 @@
 #include "cli/SessionTranscript.h"
 
+#include "browser/Export.h"
 #include "cli/Session.h"
 #include "cli/TestWizard.h"
 #include "wizard/frame/Remembered.h"
@@ -29,6 +30,7 @@ json PartOf(const json& rReply, const json& rExpected)
 std::string gServe(const quorvawiz::cli::TWizard& rWizard, const std::string& rsInput)
 {
     CRememberedBase::ResetAll();
+    gGetLastExportPath() = {};
     std::istringstream in(rsInput);
     std::ostringstream out;
     quorvawiz::cli::CSession(rWizard, in, out).Run();

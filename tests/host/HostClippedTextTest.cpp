@@ -5,6 +5,7 @@
 #include "quorvahost/FileQuestions.h"
 #include "quorvahost/HostWindow.h"
 #include "quorvahost/NetlistEdit.h"
+#include "quorvahost/NetlistImport.h"
 #include "quorvahost/tour/User.h"
 
 #include <gmock/gmock.h>
@@ -59,6 +60,7 @@ TEST_P(HostClippedText, NoneInTheEditor)
     window.activateWindow();
     CUser::Settle();
     EXPECT_THAT(gFindClippedText(window), testing::IsEmpty());
+    window.ShowParams(QStringLiteral("a-netlist-with-a-name-that-goes-on-for-very-long.params"));
     window.Edit().LoadText(
         (QString(99, QLatin1Char('a')) + QLatin1Char('\n')).repeated(kLargestColoured / 100 + 1));
     mUser.Press(QKeySequence(Qt::CTRL | Qt::Key_End));
@@ -82,6 +84,11 @@ TEST_P(HostClippedText, NoneInQuestions)
     gAskAboutUnsaved(&window, QStringLiteral("a-netlist-with-a-rather-long-name.cir"));
     LookAtBox();
     gAskToOverwrite(&window, QStringLiteral("a-netlist-with-a-rather-long-name.cir"));
+    LookAtBox();
+    gAskToSaveFirst(&window, QStringLiteral("a-netlist-with-a-rather-long-name.cir"));
+    LookAtBox();
+    CNetlistImport(QStringLiteral("/usr/bin/yes")) // goes on until it is ended
+        .Run(&window, QStringLiteral("/tmp/a-netlist-with-a-rather-long-name.cir"), {});
     LookAtBox();
     gShowFault(&window, {QStringLiteral("can't open \"/home/somebody/a-folder/netlist.cir\": "
                                         "No such file or directory")});

@@ -31,9 +31,11 @@ protected:
         mFolder.Write("else/rc-filter.cir", "another\n");
         Program("tree/scripts/setup", "");
         Program("bin/cmake", "");
+        Program("tree/build/dev/bin/quorvawiz", "echo \"$@\" >\"$2\"\n");
         Program("tree/build/dev/bin/quorvahost", "echo editor; cat \"$1\"\n");
         Program("tree/build/dev/bin/quorvahost-tour",
-                "echo tour; cat \"$1\"; echo .op >>\"$1\"; touch \"$2/picture.png\"\n");
+                "echo tour; cat \"$1\" \"$3\"; echo .op >>\"$1\"; touch \"$2/picture.png\"\n"
+                "echo R1 >\"$2/devices.csv\"; shift 3; cd \"$(dirname \"$1\")\"; ls -x\n");
     }
 
     void Program(const char* pName, const QByteArray& rsBody) const
@@ -103,11 +105,16 @@ TEST_F(RunScript, APathIsThatFileAndNoExampleOfItsName)
 TEST_F(RunScript, TakesTheTourWhereNoWindowWouldBeSeen)
 {
     for (const char* const pBefore : {"", "DISPLAY=:0 QT_QPA_PLATFORM=offscreen"}) {
-        EXPECT_THAT(Run(QString::fromLatin1(pBefore), {}), HasSubstr("tour\nexample\n")) << pBefore;
+        EXPECT_THAT(
+            Run(QString::fromLatin1(pBefore), {}),
+            testing::AllOf(testing::ContainsRegex("tour\nexample\nmake-example /.*example.params"
+                                                  " --devices 2000\nrc-filter.cir\n"),
+                           testing::EndsWith("devices.csv\nR1\n")))
+            << pBefore;
         EXPECT_EQ(mnExitCode, 0);
         ASSERT_EQ(Leftovers().size(), 1) << "the pictures";
         QDir pictures(mFolder.Path("tmp") + QLatin1Char('/') + Leftovers().first());
-        EXPECT_EQ(pictures.entryList(QDir::Files), QStringList("picture.png"));
+        EXPECT_EQ(pictures.entryList(QDir::Files), (QStringList{"devices.csv", "picture.png"}));
         EXPECT_TRUE(pictures.removeRecursively());
     }
 }

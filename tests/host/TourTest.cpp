@@ -1,3 +1,4 @@
+#include "host/ExampleParams.h"
 #include "host/FileFolder.h"
 #include "host/PrintQt.h"
 
@@ -18,10 +19,12 @@ TEST(Tour, InsertsItsCommandsAndTakesAPictureOfEachWindow)
                                            QStringLiteral("/examples/rc-filter.cir"));
     const QString sPath = folder.Write("rc-filter.cir", netlist);
     const QString sPictures = folder.Path("pictures");
+    const QString sParams = gMakeParams(folder, "example.params", 500);
 
     QProcess tour;
     tour.setProcessChannelMode(QProcess::MergedChannels);
-    tour.start(QStringLiteral(QUORVAWIZ_TOUR_PATH), {sPath, sPictures, QStringLiteral("dark")});
+    tour.start(QStringLiteral(QUORVAWIZ_TOUR_PATH),
+               {QStringLiteral("--dark"), sPath, sPictures, sParams});
     ASSERT_TRUE(tour.waitForFinished(-1));
     EXPECT_EQ(tour.exitCode(), 0) << tour.readAll().toStdString();
 
@@ -33,11 +36,13 @@ TEST(Tour, InsertsItsCommandsAndTakesAPictureOfEachWindow)
                                   ".measure tran delay trig at=0 targ v(out) val=0.5 cross=1\n"
                                   ".end\n");
     EXPECT_EQ(CFileFolder::Read(sPath), netlist);
-    const QStringList pictures = QDir(sPictures).entryList(QDir::Files, QDir::Name);
-    EXPECT_EQ(pictures.size(), 18);
+    const QStringList pictures =
+        QDir(sPictures).entryList({QStringLiteral("*.png")}, QDir::Files, QDir::Name);
+    EXPECT_EQ(pictures.size(), 18 + 11);
     for (const QString& rsPicture : pictures)
         EXPECT_FALSE(QImage(QDir(sPictures).filePath(rsPicture)).isNull())
             << rsPicture.toStdString();
+    EXPECT_EQ(CFileFolder::Read(sPictures + QStringLiteral("/devices.csv")).count("\r\n"), 500);
 }
 } // namespace
 } // namespace quorvawiz::host

@@ -238,12 +238,12 @@ TEST(CircuitParamsTest, ListsAreInTheOrderOfTheMap)
                 ElementsAre("0 ab  0 ", "0 zz9  0 ", "0 abd1  0 ", "0 abc9  0 "));
 }
 
-TEST(CircuitParamsTest, ModelListWithAndWithoutAClass)
+TEST(CircuitParamsTest, ModelListLinksByNameAndLeavesOutWhatHasNoClass)
 {
     TCircuitParams store;
     gFillSample(store);
     store.AddModel(gModel(1, "lost", "none", "x"));
-    const auto expected = ElementsAre("0 n1 nmos 1 MOS1", "1 n2 nmos 1 MOS1", "1 lost x 0 ");
+    const auto expected = ElementsAre("0 n1 nmos 1 MOS1", "1 n2 nmos 1 MOS1");
     EXPECT_THAT(Shown(store.GetModelList()), expected);
     store.mCircuitModelDatasets.at(0).at("n1").mpModelClassDef = nullptr;
     EXPECT_THAT(Shown(store.GetModelList()), expected); // linked on the way

@@ -61,6 +61,12 @@ TEST_P(ClippedText, NoneInTheSweepDialog)
     EXPECT_EQ(mnLooks, 8 + 5);
 }
 
+TEST_P(ClippedText, NoneInTheBrowser)
+{
+    gVisitBrowser(mLook);
+    EXPECT_EQ(mnLooks, 2 * 9);
+}
+
 TEST_P(ClippedText, NoneAmongEveryKindOfControl)
 {
     gVisitSample(mLook);
@@ -89,7 +95,7 @@ TEST(ClippedTextAtScale, NoneAnywhere)
         ASSERT_TRUE(process.waitForFinished(-1));
         const std::string sOutput = process.readAll().toStdString();
         EXPECT_EQ(process.exitCode(), 0) << "at scale " << pScale << ":\n" << sOutput;
-        EXPECT_THAT(sOutput, testing::HasSubstr("[  PASSED  ] 11 tests")) << "at scale " << pScale;
+        EXPECT_THAT(sOutput, testing::HasSubstr("[  PASSED  ] 13 tests")) << "at scale " << pScale;
     }
 }
 

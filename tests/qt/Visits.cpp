@@ -1,6 +1,8 @@
 #include "qt/Visits.h"
 
+#include "cli/example/ExampleStore.h"
 #include "exports/Quorvawiz.h"
+#include "params/CircuitParams.h"
 #include "platform/headless/TreePath.h"
 #include "platform/ui/Button.h"
 #include "platform/ui/ComboBox.h"
@@ -15,6 +17,7 @@
 #include "wizard/frame/WizardPages.h"
 
 #include <QApplication>
+#include <QWidget>
 #include <algorithm>
 #include <deque>
 #include <functional>
@@ -286,6 +289,55 @@ void gVisitSweep(const TLook& rLook)
     CStepSweepPage dialog;
     dialog.Prepare("sweep ", true);
     visit.Go([&dialog] { dialog.DoModal(); });
+}
+
+void gVisitBrowser(const TLook& rLook)
+{
+    struct TWindow {
+        const char* pName;
+        std::function<void(const TCircuitParams&)> run;
+        std::vector<std::string> inputs; ///< lead to it
+        int nDepth;                      ///< how many windows are open then
+    };
+    const auto devices = [](const TCircuitParams& rStore) {
+        quorvawiz::gInvokeParamBrowserDevicesDialog(nullptr, rStore, true);
+    };
+    const auto device = [](const TCircuitParams& rStore) {
+        quorvawiz::gInvokeDeviceDetailsDialog(nullptr, rStore, "top", "M3");
+    };
+    const auto models = [](const TCircuitParams& rStore) {
+        quorvawiz::gInvokeParamBrowserLibraryModelsDialog(nullptr, rStore, true);
+    };
+    const auto classes = [](const TCircuitParams& rStore) {
+        quorvawiz::gInvokeParamBrowserQuorvaModelsDialog(nullptr, rStore, "MOS3");
+    };
+    const TWindow windows[] = {
+        {"devices", devices, {}, 1},
+        {"device-model", device, {}, 1},
+        {"device-device", device, {"click tabs@1"}, 1},
+        {"library-models", models, {}, 1},
+        {"library-model", models, {"click table@1", "press Return"}, 2},
+        {"simulator-models", classes, {}, 1},
+        {"class-model", classes, {"press Return"}, 2},
+        {"class-device", classes, {"press Return", "click tabs@1"}, 2},
+        {"class-state", classes, {"press Return", "click tabs@2"}, 2},
+    };
+    TCircuitParams store;
+    quorvawiz::cli::gFillExample(store, 300, 1);
+    for (const TWindow& rWindow : windows) {
+        CVisit visit(rLook);
+        for (const std::string& rsInput : rWindow.inputs)
+            visit.Add([rsInput] { gInput(rsInput); });
+        visit.AddLook(rWindow.pName);
+        visit.Add([] {
+            QWidget& rWidget = *gWidgetOf(gFrontDialog());
+            rWidget.resize(rWidget.width() * 2, rWidget.height() * 5 / 4);
+        });
+        visit.AddLook(rWindow.pName + std::string("-wide"));
+        for (int n = 1; n < rWindow.nDepth; ++n)
+            visit.Add([] { gInput("press Escape"); });
+        visit.Go([&] { rWindow.run(store); });
+    }
 }
 
 void gVisitSample(const TLook& rLook)

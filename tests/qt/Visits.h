@@ -21,6 +21,10 @@ void gVisitSinglePages(const TLook& rLook);
 /// The sweep dialog with each type, and each kind of parameter.
 void gVisitSweep(const TLook& rLook);
 
+/// Each window of the parameter browser, with each of its tabs, as it opens; then drawn wide, under
+/// a name that ends in "-wide". The store holds a plausible circuit.
+void gVisitBrowser(const TLook& rLook);
+
 /// The dialog with every kind of control, filled in.
 void gVisitSample(const TLook& rLook);
 

@@ -40,6 +40,11 @@ inline TStep Click(std::string sKey)
     return {EStep::Click, std::move(sKey)};
 }
 
+inline TStep DoubleClick(std::string sKey)
+{
+    return {EStep::DoubleClick, std::move(sKey)};
+}
+
 inline TStep Focus(std::string sKey)
 {
     return {EStep::Focus, std::move(sKey)};

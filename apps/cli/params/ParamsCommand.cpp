@@ -2,19 +2,17 @@
 
 #include "cli/Failure.h"
 #include "cli/Output.h"
-#include "cli/Quote.h"
-#include "cli/Suggest.h"
+#include "cli/params/BrowserTables.h"
 #include "cli/params/DumpStore.h"
-#include "cli/params/StoreInfo.h"
+#include "cli/params/ParamsAction.h"
 #include "cli/params/StoreLinks.h"
+#include "cli/params/TellTables.h"
+#include "cli/params/WriteCsv.h"
 #include "params/CircuitParams.h"
 #include "params/ParamsFileError.h"
 #include "params/ReadParamsFile.h"
 
-#include <algorithm>
 #include <chrono>
-#include <string_view>
-#include <vector>
 
 namespace quorvawiz::cli
 {
@@ -41,20 +39,13 @@ boost::shared_ptr<TCircuitParams> ReadFile(const TParamsOptions& rOptions, TLoad
     return nullptr;
 }
 
-int Save(const TCircuitParams& rStore, const TParamsOptions& rOptions)
+int Info(const TCircuitParams& rStore, const TParamsOptions& rOptions, const TLoadInfo& rLoad)
 {
-    try {
-        rStore.WriteThis(PathOf(rOptions.sOut), rOptions.bXml ? "XML" : "");
-        return kDone;
-    } catch (const CParamsFileError& rError) {
-        gWriteError(rError.what());
-        if (rOptions.bVerbose)
-            gComplain(rError.GetDetail());
-        return kNothingDone;
-    }
+    gWriteOut(gTellInfo(rStore, rLoad, rOptions.bJson));
+    return kDone;
 }
 
-int Check(const TCircuitParams& rStore)
+int Check(const TCircuitParams& rStore, const TParamsOptions&, const TLoadInfo&)
 {
     const std::vector<std::string> dangling = gFindDanglingLinks(rStore);
     std::string sLines;
@@ -66,41 +57,68 @@ int Check(const TCircuitParams& rStore)
     return dangling.empty() ? kDone : kNothingDone;
 }
 
-void CheckArguments(const TParamsOptions& rOptions)
+int Dump(const TCircuitParams& rStore, const TParamsOptions&, const TLoadInfo&)
 {
-    static const std::vector<std::string> sActions{"info", "check", "dump", "save"};
-    const std::string& rsAction = rOptions.sAction;
-    if (std::ranges::find(sActions, rsAction) == sActions.end())
-        throw CUsageError("there is no action " + gQuoted(rsAction) +
-                          gDidYouMean(rsAction, sActions));
-    if (rsAction == "save" && rOptions.sOut.empty())
-        throw CUsageError("save needs a file to write");
-    if (rsAction != "save" && !rOptions.sOut.empty())
-        throw CUsageError(rsAction + " takes no second file, but is given " +
-                          gQuoted(rOptions.sOut));
-    if (rsAction != "save" && rOptions.bXml)
-        throw CUsageError(rsAction + " takes no --xml");
-    if (rsAction != "info" && rOptions.bJson)
-        throw CUsageError(rsAction + " takes no --json");
+    gDumpStore(rStore, gWriteOut);
+    return kDone;
+}
+
+int Save(const TCircuitParams& rStore, const TParamsOptions& rOptions, const TLoadInfo&)
+{
+    try {
+        rStore.WriteThis(PathOf(rOptions.arguments.front()), rOptions.bXml ? "XML" : "");
+        return kDone;
+    } catch (const CParamsFileError& rError) {
+        gWriteError(rError.what());
+        if (rOptions.bVerbose)
+            gComplain(rError.GetDetail());
+        return kNothingDone;
+    }
+}
+
+/// Tells what a window of the browser shows.
+template <TBrowserWindow (*pCompose)(const TCircuitParams&, const TParamsOptions&)>
+int Show(const TCircuitParams& rStore, const TParamsOptions& rOptions, const TLoadInfo&)
+{
+    TBrowserWindow window = pCompose(rStore, rOptions);
+    if (rOptions.tab)
+        gKeepTab(window, *rOptions.tab);
+    if (rOptions.csv)
+        return gWriteCsv(window.mTables.front().mTable, rOptions.bHeader, *rOptions.csv);
+    if (rOptions.bJson)
+        gTellAsJson(window, gWriteOut);
+    else
+        gWriteOut(gTellAsText(window));
+    return kDone;
+}
+
+const std::vector<TParamsAction>& Actions()
+{
+    static const std::vector<TParamsAction> sActions{
+        {"info", {}, {"--json"}, Info},
+        {"check", {}, {}, Check},
+        {"dump", {}, {}, Dump},
+        {"save", {"OUT"}, {"--xml"}, Save},
+        {"devices", {}, {"--json", "--csv", "--header", "--subckt"}, Show<gComposeDevices>},
+        {"models", {}, {"--json", "--csv", "--header"}, Show<gComposeModels>},
+        {"classes", {}, {"--json", "--csv", "--header"}, Show<gComposeClasses>},
+        {"device",
+         {"SUBCKT", "NAME"},
+         {"--json", "--csv", "--header", "--tab"},
+         Show<gComposeDevice>},
+        {"model", {"SUBCKT", "NAME"}, {"--json", "--csv", "--header"}, Show<gComposeModel>},
+        {"class", {"NAME"}, {"--json", "--csv", "--header", "--tab"}, Show<gComposeClass>},
+    };
+    return sActions;
 }
 } // namespace
 
 int gRunParams(const TParamsOptions& rOptions)
 {
-    CheckArguments(rOptions);
+    const TParamsAction& rAction = gFindAction(Actions(), rOptions);
     TLoadInfo load;
     const auto pStore = ReadFile(rOptions, load);
-    if (pStore == nullptr)
-        return kNothingDone;
-    if (rOptions.sAction == "save")
-        return Save(*pStore, rOptions);
-    if (rOptions.sAction == "check")
-        return Check(*pStore);
-    if (rOptions.sAction == "dump")
-        gDumpStore(*pStore, gWriteOut);
-    else
-        gWriteOut(gTellInfo(*pStore, load, rOptions.bJson));
-    return kDone;
+    return pStore == nullptr ? kNothingDone : rAction.pRun(*pStore, rOptions, load);
 }
 
 } // namespace quorvawiz::cli

@@ -2,6 +2,7 @@
 
 #include "quorvahost/HostWindow.h"
 #include "quorvahost/NetlistEdit.h"
+#include "quorvahost/tour/BrowserTour.h"
 
 #include <QAction>
 #include <QDir>
@@ -25,17 +26,17 @@ void Expect(bool bTrue, const char* pWhat)
 }
 } // namespace
 
-CTour::CTour(CHostWindow& rWindow, QString sFile, QString sFolder)
-    : mrWindow(rWindow), msFile(std::move(sFile)), msFolder(std::move(sFolder))
+CTour::CTour(CHostWindow& rWindow, TTourFiles files) : mrWindow(rWindow), mFiles(std::move(files))
 {
 }
 
 void CTour::Run()
 {
-    Expect(QDir().mkpath(msFolder), "a folder for the pictures");
+    Expect(QDir().mkpath(mFiles.sFolder), "a folder for the pictures");
     mrWindow.show();
     mrWindow.activateWindow();
     CUser::Settle();
+    VisitBrowser();
     VisitEditor();
     VisitToolsMenu();
     VisitFindBar();
@@ -44,10 +45,23 @@ void CTour::Run()
     Leave();
 }
 
+/// Before the netlist is changed: what the simulator reads is the file.
+void CTour::VisitBrowser()
+{
+    CBrowserTour browser(mrWindow, mUser,
+                         [this](QWidget& rWindow, const QString& rsName, QWidget* pInFront) {
+                             Picture(rWindow, rsName, pInFront);
+                         });
+    browser.VisitFile(mFiles.sParams, QDir(mFiles.sFolder).filePath(QStringLiteral("devices.csv")));
+    if (CBrowserTour::HasSimulator())
+        for (const QString& rsNetlist : mFiles.imported)
+            browser.VisitNetlist(rsNetlist);
+}
+
 void CTour::VisitEditor()
 {
-    Expect(mrWindow.OpenFile(msFile), "the netlist opens");
-    Picture(mrWindow, "editor");
+    Expect(mrWindow.OpenFile(mFiles.sNetlist), "the netlist opens");
+    Picture(mrWindow, QStringLiteral("editor"));
     // To the empty line in front of ".end".
     mUser.Press(QKeySequence(Qt::CTRL | Qt::Key_End));
     for (int i = 0; i < 2; ++i)
@@ -60,7 +74,7 @@ void CTour::VisitToolsMenu()
     auto* const pMenu = mrWindow.findChild<QMenu*>(QStringLiteral("tools"));
     Expect(pWizard && pMenu, "Tools > SPICE Command Wizard");
     mUser.Meet([&](QWidget& rMenu) {
-        Picture(mrWindow, "tools-menu", &rMenu);
+        Picture(mrWindow, QStringLiteral("tools-menu"), &rMenu);
         mUser.Meet([this](QWidget& rWizard) { VisitWizard(rWizard); });
         CUser::ClickAt(rMenu, pMenu->actionGeometry(pWizard).center());
     });
@@ -69,12 +83,12 @@ void CTour::VisitToolsMenu()
     CUser::Settle();
     mUser.RethrowFailure();
     Expect(mUser.HasMetAll(), "the wizard opens");
-    Picture(mrWindow, "inserted");
+    Picture(mrWindow, QStringLiteral("inserted"));
 }
 
 void CTour::VisitWizard(QWidget& rWizard)
 {
-    Picture(rWizard, "wizard");
+    Picture(rWizard, QStringLiteral("wizard"));
     // The wizard stays open from one command to the next.
     InsertTemperature(rWizard);
     InsertTransient(rWizard);
@@ -87,19 +101,19 @@ void CTour::VisitWizard(QWidget& rWizard)
 void CTour::InsertTemperature(QWidget& rWizard)
 {
     mUser.Type(QStringLiteral("Settings"));
-    Picture(rWizard, "settings");
+    Picture(rWizard, QStringLiteral("settings"));
     mUser.OpenPage(rWizard, QStringLiteral("Settings"), QStringLiteral("Temperature"));
 
     // Nothing is filled in.
     mUser.Meet([this](QWidget& rBox) {
-        Picture(rBox, "message");
+        Picture(rBox, QStringLiteral("message"));
         mUser.Press(QKeySequence(Qt::Key_Return));
     });
     mUser.Press(QKeySequence(Qt::ALT | Qt::Key_I));
 
     mUser.Fill(rWizard, "temperature-list", QStringLiteral("0 27 85"));
     CUser::Click(CWizardUser::Control(rWizard, "insert"));
-    Picture(rWizard, "temperature");
+    Picture(rWizard, QStringLiteral("temperature"));
 }
 
 /// By keys alone, with a sweep in a dialog of its own.
@@ -119,12 +133,12 @@ void CTour::InsertTransient(QWidget& rWizard)
         mUser.Type(QStringLiteral("20k"));
         mUser.Press(QKeySequence(Qt::ALT | Qt::Key_C));
         mUser.Type(QStringLiteral("5k"));
-        Picture(rSweep, "sweep");
+        Picture(rSweep, QStringLiteral("sweep"));
         mUser.Press(QKeySequence(Qt::ALT | Qt::Key_A));
     });
     mUser.Press(QKeySequence(Qt::ALT | Qt::Key_S));
     mUser.Press(QKeySequence(Qt::ALT | Qt::Key_I));
-    Picture(rWizard, "transient");
+    Picture(rWizard, QStringLiteral("transient"));
 }
 
 /// With the mouse, through the button of the category's page.
@@ -132,7 +146,7 @@ void CTour::InsertAC(QWidget& rWizard)
 {
     CUser::Click(CWizardUser::Control(rWizard, "tree"));
     mUser.Press(QKeySequence(Qt::Key_Home));
-    Picture(rWizard, "analysis");
+    Picture(rWizard, QStringLiteral("analysis"));
     CUser::Click(CWizardUser::Control(rWizard, "button-1"));
     mUser.Press(QKeySequence(Qt::ALT | Qt::Key_F));
     mUser.Type(QStringLiteral("decade"));
@@ -140,7 +154,7 @@ void CTour::InsertAC(QWidget& rWizard)
     mUser.Fill(rWizard, "start-frequency", QStringLiteral("10"));
     mUser.Fill(rWizard, "final-frequency", QStringLiteral("1meg"));
     CUser::Click(CWizardUser::Control(rWizard, "insert"));
-    Picture(rWizard, "ac");
+    Picture(rWizard, QStringLiteral("ac"));
 }
 
 /// A sweep of a source, which is all of the command.
@@ -154,12 +168,12 @@ void CTour::InsertDC(QWidget& rWizard)
         mUser.Fill(rSweep, "start", QStringLiteral("0"));
         mUser.Fill(rSweep, "stop", QStringLiteral("1"));
         mUser.Fill(rSweep, "number-of-points", QStringLiteral("11"));
-        Picture(rSweep, "dc-sweep");
+        Picture(rSweep, QStringLiteral("dc-sweep"));
         CUser::Click(CWizardUser::Control(rSweep, "accept"));
     });
     CUser::Click(CWizardUser::Control(rWizard, "sweep-1"));
     CUser::Click(CWizardUser::Control(rWizard, "insert"));
-    Picture(rWizard, "dc");
+    Picture(rWizard, QStringLiteral("dc"));
 }
 
 /// When the output has risen to half of the input, counted from the beginning.
@@ -173,7 +187,7 @@ void CTour::InsertMeasure(QWidget& rWizard)
     mUser.Fill(rWizard, "target-signal", QStringLiteral("v(out)"));
     mUser.Fill(rWizard, "target-value", QStringLiteral("0.5"));
     CUser::Click(CWizardUser::Control(rWizard, "insert"));
-    Picture(rWizard, "measure");
+    Picture(rWizard, QStringLiteral("measure"));
 }
 
 void CTour::VisitFindBar()
@@ -183,19 +197,19 @@ void CTour::VisitFindBar()
     mUser.Type(QStringLiteral(".temp"));
     CUser::Settle();
     Expect(mrWindow.Edit().textCursor().selectedText() == QStringLiteral(".temp"), "a find");
-    Picture(mrWindow, "find-bar");
+    Picture(mrWindow, QStringLiteral("find-bar"));
     mUser.Press(QKeySequence(Qt::Key_Escape));
 }
 
 void CTour::VisitFileDialogs()
 {
     mUser.Meet([this](QWidget& rDialog) {
-        Picture(rDialog, "open");
+        Picture(rDialog, QStringLiteral("open"));
         mUser.Press(QKeySequence(Qt::Key_Escape));
     });
     mUser.Press(QKeySequence::Open);
     mUser.Meet([this](QWidget& rBox) {
-        Picture(rBox, "unsaved");
+        Picture(rBox, QStringLiteral("unsaved"));
         mUser.Press(QKeySequence(Qt::Key_Escape));
     });
     mUser.Press(QKeySequence::New);
@@ -207,7 +221,7 @@ void CTour::VisitAbout()
 {
     mUser.Meet([this](QWidget&) {
         mUser.Meet([this](QWidget& rBox) {
-            Picture(rBox, "about");
+            Picture(rBox, QStringLiteral("about"));
             mUser.Press(QKeySequence(Qt::Key_Escape));
         });
         mUser.Press(QKeySequence(Qt::Key_A));
@@ -228,7 +242,7 @@ void CTour::Leave()
     Expect(!mrWindow.isVisible(), "the host closes");
 }
 
-void CTour::Picture(QWidget& rWindow, const char* pName, QWidget* pInFront)
+void CTour::Picture(QWidget& rWindow, const QString& rsName, QWidget* pInFront)
 {
     CUser::Settle();
     QPixmap picture = rWindow.grab();
@@ -238,9 +252,9 @@ void CTour::Picture(QWidget& rWindow, const char* pName, QWidget* pInFront)
                            pInFront->grab());
     }
     const QString sName = QStringLiteral("%1/%2-%3.png")
-                              .arg(msFolder)
+                              .arg(mFiles.sFolder)
                               .arg(++mnPictures, 2, 10, QLatin1Char('0'))
-                              .arg(QString::fromLatin1(pName));
+                              .arg(rsName);
     Expect(picture.save(sName), "a picture is written");
 }
 

@@ -87,7 +87,13 @@ CUser::~CUser() = default;
 
 CUser& CUser::Meet(TAct act)
 {
-    mActs.push(std::move(act));
+    mActs.push_back(std::move(act));
+    return *this;
+}
+
+CUser& CUser::MeetFirst(TAct act)
+{
+    mActs.push_front(std::move(act));
     return *this;
 }
 
@@ -134,6 +140,13 @@ void CUser::Settle()
     }
 }
 
+void CUser::AwaitEnd(const QWidget& rWindow)
+{
+    const QPointer<const QWidget> pWindow(&rWindow);
+    while (pWindow && pWindow->isVisible())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
 void CUser::RethrowFailure()
 {
     if (mpFailure)
@@ -161,7 +174,7 @@ void CUser::ActOn(const QPointer<QWidget>& rpWindow)
         if (mActs.empty())
             throw CUserError("nobody waits for the window: " + NameOf(*rpWindow));
         const TAct act = std::move(mActs.front());
-        mActs.pop();
+        mActs.pop_front();
         Settle();
         act(*rpWindow);
     } catch (...) {

@@ -4,9 +4,9 @@
 #include <QPoint>
 #include <QPointer>
 #include <QString>
+#include <deque>
 #include <exception>
 #include <functional>
-#include <queue>
 #include <stdexcept>
 
 class QKeySequence;
@@ -37,6 +37,9 @@ public:
     /// order, also one inside the other. A window that nobody waits for is an error.
     CUser& Meet(TAct act);
 
+    /// As `Meet`, in front of the windows that are waited for.
+    CUser& MeetFirst(TAct act);
+
     /// True when every window of `Meet` has come.
     bool HasMetAll() const { return mActs.empty(); }
 
@@ -57,6 +60,9 @@ public:
     /// Lets everything happen that is waiting.
     static void Settle();
 
+    /// Returns when a window has closed by itself.
+    static void AwaitEnd(const QWidget& rWindow);
+
     /// Throws what an action threw: an event loop passes no exceptions.
     void RethrowFailure();
 
@@ -68,7 +74,7 @@ private:
     void OnIdle();
     void GiveUp(const std::exception_ptr& rpWhy);
 
-    std::queue<TAct> mActs;
+    std::deque<TAct> mActs;
     int mnActing = 0; ///< windows that are being acted on
     int mnIdle = 0;   ///< how often in turn a loop was about to wait with a window left open
     QPointer<QWidget> mpClosing;

@@ -38,16 +38,20 @@ QPalette DarkPalette()
 }
 } // namespace
 
-/// quorvahost-tour FILE FOLDER [dark]: a tour through the host's windows on a netlist, which it
-/// changes and saves; the folder gets a picture of each.
+/// quorvahost-tour [--dark] FILE FOLDER PARAMS [NETLIST...]: a tour through the host's windows on a
+/// netlist, which it changes and saves, and through those of the parameter browser on a params
+/// file; the folder gets a picture of each. Where there is a simulator, the other netlists are
+/// imported.
 int main(int nCount, char** pArguments)
 {
     gSetIsWine(true);
     const auto pApplication = gStartApplication("quorvahost-tour", nCount, pArguments);
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
-    const bool bDark = arguments.value(2) == QStringLiteral("dark");
-    if (arguments.size() != (bDark ? 3 : 2)) {
-        std::fputs("usage: quorvahost-tour FILE FOLDER [dark]\n", stderr);
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    const bool bDark = arguments.value(0) == QStringLiteral("--dark");
+    if (bDark)
+        arguments.removeFirst();
+    if (arguments.size() < 3) {
+        std::fputs("usage: quorvahost-tour [--dark] FILE FOLDER PARAMS [NETLIST...]\n", stderr);
         return kExitUsage;
     }
     const QTemporaryDir settings;
@@ -63,7 +67,7 @@ int main(int nCount, char** pArguments)
         QtDesktop desktop(QCoreApplication::organizationName(),
                           QCoreApplication::applicationName());
         CHostWindow window(desktop);
-        CTour(window, arguments[0], arguments[1]).Run();
+        CTour(window, {arguments[0], arguments[1], arguments[2], arguments.mid(3)}).Run();
     } catch (const std::exception& rError) {
         std::fprintf(stderr, "quorvahost-tour: %s\n", rError.what());
         return 1;

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "platform/base/Ascii.h"
+
+#include <algorithm>
+#include <cstddef>
 #include <string_view>
 
 namespace quorvawiz::ngspice
@@ -52,6 +56,16 @@ constexpr std::string_view gNextWord(std::string_view& rsRest) noexcept
     const std::string_view sWord = rsRest.substr(0, nEnd);
     rsRest.remove_prefix(nEnd);
     return sWord;
+}
+
+/// Tells whether a text holds a word, in any case.
+/// @param sText any bytes
+/// @param sWord in lower case
+inline bool gHoldsNoCase(std::string_view sText, std::string_view sWord) noexcept
+{
+    const auto isSame = [](char cText, char cWord) { return gToLowerAscii(cText) == cWord; };
+    return std::search(sText.begin(), sText.end(), sWord.begin(), sWord.end(), isSame) !=
+           sText.end();
 }
 
 } // namespace quorvawiz::ngspice

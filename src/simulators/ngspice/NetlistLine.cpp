@@ -29,7 +29,7 @@ bool HasForeignCode(std::string_view sLine)
 {
     constexpr std::array<std::string_view, 2> words{"d_process", "d_cosim"};
     return !sLine.starts_with('*') && std::ranges::any_of(words, [&](std::string_view sWord) {
-        return !std::ranges::search(sLine, sWord, {}, gToLowerAscii).empty();
+        return gHoldsNoCase(sLine, sWord);
     });
 }
 

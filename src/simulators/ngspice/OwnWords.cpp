@@ -1,6 +1,5 @@
 #include "simulators/ngspice/OwnWords.h"
 
-#include "platform/base/Ascii.h"
 #include "simulators/ngspice/Lines.h"
 
 #include <algorithm>
@@ -23,7 +22,7 @@ bool IsControl(char c) noexcept
 
 bool Holds(std::string_view sLine, std::string_view sWord)
 {
-    return !std::ranges::search(sLine, sWord, {}, gToLowerAscii).empty();
+    return gHoldsNoCase(sLine, sWord);
 }
 
 bool TellsOfError(std::string_view sLine)

@@ -23,7 +23,8 @@
 
 // Takes a picture of every window, to be looked at: `qt-pictures FOLDER` makes one folder per
 // palette and scale in FOLDER. Each of these is a process of its own, because the scale is Qt's for
-// the whole of one. `qt-pictures docs/images/pages pages` takes those of the user's documents.
+// the whole of one. `qt-pictures docs/images/pages pages` and
+// `qt-pictures docs/images/browser browser` take those of the user's documents.
 
 namespace
 {
@@ -62,6 +63,21 @@ QList<QRgb> ColoursOf(const QImage& rPicture)
     }
 }
 
+/// Small, for it is kept: few colours, packed as tightly as can be.
+void SaveSmall(QWidget& rWindow, const QString& rsFile)
+{
+    ++snPictures;
+    const QImage picture = rWindow.grab().toImage();
+    picture.convertToFormat(QImage::Format_Indexed8, ColoursOf(picture)).save(rsFile, "PNG", 0);
+}
+
+/// A picture for the user's documents: a window of the browser.
+void TakeBrowserPicture(const std::string& rsName, QWidget& rWindow)
+{
+    if (!QString::fromStdString(rsName).endsWith(QLatin1String("-wide")))
+        SaveSmall(rWindow, QDir(sFolder).filePath(FileName(rsName) + QLatin1String(".png")));
+}
+
 /// A picture for the user's documents: a page as it opens, and what a choice on it shows if there
 /// is a picture of that already.
 void TakePagePicture(const std::string& rsName, QWidget& rWindow)
@@ -71,10 +87,7 @@ void TakePagePicture(const std::string& rsName, QWidget& rWindow)
     const QString sFile = QDir(sFolder).filePath(FileName(rsName) + QLatin1String(".png"));
     if (sPath.find('/') == std::string::npos || (rsName != sPath && !QFile::exists(sFile)))
         return;
-    ++snPictures;
-    // Small, for they are kept: few colours, packed as tightly as can be.
-    const QImage picture = rWindow.grab().toImage();
-    picture.convertToFormat(QImage::Format_Indexed8, ColoursOf(picture)).save(sFile, "PNG", 0);
+    SaveSmall(rWindow, sFile);
 }
 
 QPalette DarkPalette()
@@ -98,10 +111,13 @@ int TakeAll(const QStringList& rOptions)
     CTestDesktop desktop;
     if (rOptions.contains(QStringLiteral("pages"))) {
         gVisitWizard(TakePagePicture);
+    } else if (rOptions.contains(QStringLiteral("browser"))) {
+        gVisitBrowser(TakeBrowserPicture);
     } else {
         gVisitWizard(TakePicture);
         gVisitSinglePages(TakePicture);
         gVisitSweep(TakePicture);
+        gVisitBrowser(TakePicture);
         gVisitSample(TakePicture);
         gVisitBoxes(TakePicture);
     }
@@ -140,7 +156,7 @@ int main(int nCount, char** pArguments)
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 2) {
-        QTextStream(stderr) << "usage: qt-pictures FOLDER [dark | larger | pages]\n";
+        QTextStream(stderr) << "usage: qt-pictures FOLDER [dark | larger | pages | browser]\n";
         return 2;
     }
     sFolder = arguments[1];

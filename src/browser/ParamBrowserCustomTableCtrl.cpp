@@ -1,0 +1,110 @@
+#include "browser/ParamBrowserCustomTableCtrl.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+#include <utility>
+
+namespace
+{
+
+constexpr int kLeastWidth = 15; // in characters, as kMostWidth
+constexpr int kMostWidth = 45;
+constexpr COLORREF kBlue = 0xFF0000;
+
+/// The bytes of a text as the list has it.
+int NarrowLength(const CStringU& rsText)
+{
+    return rsText.IsUtf8() ? rsText.ToAnsi().GetLength() : rsText.GetByteLength();
+}
+
+int WidthFor(const CStringU& rsText, int nWidth)
+{
+    return nWidth == kMostWidth ? nWidth
+                                : std::max(nWidth, std::min(NarrowLength(rsText), kMostWidth));
+}
+
+} // namespace
+
+TParamBrowserCustomTableCtrl::TParamBrowserCustomTableCtrl(TParamTableData table)
+    : mTableData(std::move(table))
+{
+    mbWholeRows = true;
+}
+
+void TParamBrowserCustomTableCtrl::FillTable()
+{
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES);
+    mColumnWidths.resize(mTableData.mColumnTitles.size(), kLeastWidth);
+    for (std::size_t nColumn = 0; nColumn < mColumnWidths.size(); ++nColumn) {
+        AddColumn(static_cast<int>(nColumn));
+    }
+    for (const TParamTableRow& rRow : mTableData.mRows) {
+        for (std::size_t nColumn = 0; nColumn < mColumnWidths.size(); ++nColumn) {
+            mColumnWidths[nColumn] = WidthFor(rRow[nColumn].msText, mColumnWidths[nColumn]);
+        }
+    }
+    ShowRows(this);
+    ResizeColumns();
+    if (!mTableData.mRows.empty()) {
+        SelectCell(0, 0);
+    }
+}
+
+void TParamBrowserCustomTableCtrl::AddColumn(int nColumn)
+{
+    constexpr int leftAligned = 0;
+    constexpr int anyWidth = 1000; // until ResizeColumns
+    constexpr int noSubItem = -1;
+    const auto nAt = static_cast<std::size_t>(nColumn);
+    const CStringU& rsTitle = mTableData.mColumnTitles[nAt];
+    InsertColumn(nColumn, rsTitle.ToAnsi(), leftAligned, anyWidth, noSubItem);
+    mColumnWidths[nAt] = WidthFor(rsTitle, mColumnWidths[nAt]);
+}
+
+void TParamBrowserCustomTableCtrl::ResizeColumns()
+{
+    const int nAll = std::accumulate(mColumnWidths.begin(), mColumnWidths.end(), 0);
+    const std::int64_t nPixels = GetClientPixels().cx;
+    int nColumn = 0;
+    for (const int nWidth : mColumnWidths) {
+        // The list takes 16 bits of a width. With the 1 the columns never need a scroll bar.
+        SetColumnWidth(nColumn++, static_cast<std::uint16_t>(nWidth * nPixels / (nAll + 1)));
+    }
+}
+
+COLORREF TParamBrowserCustomTableCtrl::GetCellColor(int nRow, int nColumn, bool bSelected,
+                                                    bool bFocused) const
+{
+    const bool bBlue =
+        !bSelected && IsRow(nRow) && IsColumn(nColumn) &&
+        mTableData.mRows[static_cast<std::size_t>(nRow)][static_cast<std::size_t>(nColumn)]
+            .mbHighlight;
+    return bBlue ? kBlue : CTableCtrl::GetCellColor(nRow, nColumn, bSelected, bFocused);
+}
+
+bool TParamBrowserCustomTableCtrl::IsCellEditable(int /*nRow*/, int /*nColumn*/) const
+{
+    return false;
+}
+
+bool TParamBrowserCustomTableCtrl::IsCellSelectable(int /*nRow*/, int nColumn) const
+{
+    return nColumn == 0;
+}
+
+int TParamBrowserCustomTableCtrl::GetRowCount() const
+{
+    return static_cast<int>(mTableData.mRows.size());
+}
+
+CString TParamBrowserCustomTableCtrl::GetText(int nRow, int nColumn) const
+{
+    return mTableData.mRows[static_cast<std::size_t>(nRow)][static_cast<std::size_t>(nColumn)]
+        .msText.ToAnsi();
+}
+
+std::intptr_t TParamBrowserCustomTableCtrl::GetData(int nRow) const
+{
+    return nRow;
+}
