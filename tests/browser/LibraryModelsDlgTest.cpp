@@ -107,16 +107,20 @@ TEST_F(LibraryModelsDlgTest, QuorvaModelsSelectsTheClassOfTheModel)
                      .Look({Title("Library Models"), SelectedRow(2)}));
 }
 
-TEST_F(LibraryModelsDlgTest, AModelWithoutItsClassShowsAnEmptyTableAndSelectsNoClass)
+TEST_F(LibraryModelsDlgTest, AModelWhoseClassIsAbsentIsNotListed)
 {
     mStore.AddModel(gModel(0, "a", "absent", "nmos"));
     TParameterBrowserCircuitModelDatasetsDlg dialog(nullptr, mStore, true);
-    Play(dialog, CScript()
-                     .Look({Rows({"a|nmos|0|", "n1|nmos|1|MOS1", "x1.n2|nmos|1|MOS1"})})
-                     .Do({Click("details")})
-                     .Look({Title("Library Model Details [a]"), Rows({})})
-                     .Do({Click("close"), Click("quorva-models")})
-                     .Look({Title("Quorva Models"), SelectedRow(0)}));
+    Play(dialog, CScript().Look({Rows({"n1|nmos|1|MOS1", "x1.n2|nmos|1|MOS1"})}));
+}
+
+TEST_F(ModelDetailsDlgTest, AModelWithoutAClassShowsAnEmptyTable)
+{
+    mStore.AddModel(gModel(0, "a", "absent", "nmos"));
+    TParameterBrowserLibraryModelDetailsDlg dialog(nullptr, *mStore.GetModelData(0, "a"), "a");
+    Play(dialog,
+         CScript().Look({Title("Library Model Details [a]"),
+                         Columns("Name|Value|Units|Description"), Rows({}), SelectedRow(-1)}));
 }
 
 TEST_F(LibraryModelsDlgTest, TheExportIsTheRowsAsCsv)

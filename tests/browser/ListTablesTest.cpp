@@ -140,13 +140,13 @@ TEST(ModelsTableTest, WithoutModelsThereAreFourColumnsAndNoRows)
     EXPECT_THAT(table.mRows, IsEmpty());
 }
 
-TEST(ModelsTableTest, AModelWithoutItsClassHasNoLevelAndNoClass)
+TEST(ModelsTableTest, AModelWhoseClassIsAbsentIsNotListed)
 {
     TCircuitParams store;
-    store.AddSubckt("top", 0);
-    store.AddModel(gModel(0, "n1", "absent", "nmos"));
+    gFillSample(store);
+    store.AddModel(gModel(0, "n0", "absent", "nmos"));
     EXPECT_THAT(gShownRows(gMakeModelsTable(store, store.GetModelList())),
-                ElementsAre("n1|nmos|0|"));
+                ElementsAre("n1|nmos|1|MOS1", "x1.n2|nmos|1|MOS1"));
 }
 
 } // namespace
