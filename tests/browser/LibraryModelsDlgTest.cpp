@@ -114,13 +114,16 @@ TEST_F(LibraryModelsDlgTest, AModelWhoseClassIsAbsentIsNotListed)
     Play(dialog, CScript().Look({Rows({"n1|nmos|1|MOS1", "x1.n2|nmos|1|MOS1"})}));
 }
 
-TEST_F(ModelDetailsDlgTest, AModelWithoutAClassShowsAnEmptyTable)
+TEST_F(LibraryModelsDlgTest, AModelThatLosesItsClassBehindTheListShowsAnEmptyTable)
 {
-    mStore.AddModel(gModel(0, "a", "absent", "nmos"));
-    TParameterBrowserLibraryModelDetailsDlg dialog(nullptr, *mStore.GetModelData(0, "a"), "a");
-    Play(dialog,
-         CScript().Look({Title("Library Model Details [a]"),
-                         Columns("Name|Value|Units|Description"), Rows({}), SelectedRow(-1)}));
+    TParameterBrowserCircuitModelDatasetsDlg dialog(nullptr, mStore, true);
+    mStore.mModelClasses.clear(); // only a damaged file leaves a link that no name confirms
+    mStore.mCircuitModelDatasets.at(0).at("n1").mpModelClassDef = nullptr;
+    Play(dialog, CScript()
+                     .Do({Click("details")})
+                     .Look({Title("Library Model Details [n1]"), Rows({})})
+                     .Do({Click("close"), Click("quorva-models")})
+                     .Look({Title("Quorva Models"), Rows({})}));
 }
 
 TEST_F(LibraryModelsDlgTest, TheExportIsTheRowsAsCsv)
