@@ -11,7 +11,7 @@ if(TARGET quorvawiz-cli)
     install(TARGETS quorvawiz-cli)
     install(FILES "${PROJECT_SOURCE_DIR}/docs/cli.md" "${PROJECT_SOURCE_DIR}/docs/session.md"
         "${PROJECT_SOURCE_DIR}/docs/call.md" "${PROJECT_SOURCE_DIR}/docs/params.md"
-        "${PROJECT_SOURCE_DIR}/docs/options.md"
+        "${PROJECT_SOURCE_DIR}/docs/options.md" "${PROJECT_SOURCE_DIR}/docs/import.md"
         DESTINATION "${CMAKE_INSTALL_DOCDIR}")
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/pages" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/images/pages"
@@ -37,6 +37,8 @@ endif()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/src/" "${PROJECT_BINARY_DIR}/generated/"
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/quorvawiz"
     FILES_MATCHING PATTERN "*.h"
+    # What belongs to the programs of this tree.
+    PATTERN "simulators" EXCLUDE
     ${quorvawiz_hidden_headers})
 
 install(EXPORT quorvawizTargets NAMESPACE quorvawiz:: DESTINATION "${quorvawiz_package_dir}")

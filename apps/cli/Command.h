@@ -6,6 +6,7 @@
 #include "cli/PagesCommand.h"
 #include "cli/call/CallCommand.h"
 #include "cli/example/MakeExampleCommand.h"
+#include "cli/import/ImportCommand.h"
 #include "cli/params/ParamsCommand.h"
 
 #include <variant>
@@ -18,7 +19,8 @@ struct TSessionOptions {
 };
 
 /// A command with what it is asked for.
-using TCommand = std::variant<TPagesOptions, TDescribeOptions, TComposeOptions, TOptionsOptions,
-                              TSessionOptions, TCallOptions, TParamsOptions, TMakeExampleOptions>;
+using TCommand =
+    std::variant<TPagesOptions, TDescribeOptions, TComposeOptions, TOptionsOptions, TSessionOptions,
+                 TCallOptions, TParamsOptions, TMakeExampleOptions, TImportCommandOptions>;
 
 } // namespace quorvawiz::cli

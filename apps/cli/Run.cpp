@@ -24,6 +24,7 @@ struct TRunCommand {
     int operator()(const TCallOptions& rOptions) const { return gRunCall(rOptions); }
     int operator()(const TParamsOptions& rOptions) const { return gRunParams(rOptions); }
     int operator()(const TMakeExampleOptions& rOptions) const { return gRunMakeExample(rOptions); }
+    int operator()(const TImportCommandOptions& rOptions) const { return gRunImport(rOptions); }
 };
 
 int Run(int nArguments, const char* const* ppArguments)

@@ -32,6 +32,7 @@ Subcommands:
   call                        Call functions of the foundation by lines of JSON
   params                      Look into a params file, or write it anew
   make-example                Write a params file of a plausible circuit
+  import                      Write a params file of what a simulator knows about a netlist
 )");
 }
 
@@ -208,6 +209,31 @@ Options:
   --devices NUMBER=1000       How many devices
   --seed NUMBER=1             The same seed makes the same file
 
+--code-page and --rules may be given, too; quorvawiz --help tells them.
+)");
+}
+
+TEST(Help, Import)
+{
+    ExpectHelp({"import", "--help"},
+               R"(Write a params file of what a simulator knows about a netlist
+Usage: quorvawiz import [OPTIONS] NETLIST
+
+Positionals:
+  NETLIST REQUIRED            The netlist
+
+Options:
+  -h,--help                   Print this help and exit
+  -o,--out FILE REQUIRED      The params file to write
+  --simulator PROGRAM=ngspice Path or name of ngspice
+  --timeout NUMBER=60         Seconds for all that the simulator does
+  --progress                  Tell each stage on standard error
+
+The simulator works on a copy of the netlist without the commands in it. A file
+FILE that is there is replaced only when the new one is whole.
+
+Exit code: 0 done, 1 the simulator is missing, fails at the netlist or takes too
+long, or the file can't be written, 2 an argument is wrong.
 --code-page and --rules may be given, too; quorvawiz --help tells them.
 )");
 }

@@ -80,21 +80,14 @@ TEST(FloorsProof, AModuleHeaderIsFound)
 
 // Headers to point at, one per floor.
 const std::set<std::string> kKnown{
-    "src/platform/base/B.h",
-    "src/platform/ui/U.h",
-    "src/platform/headless/H.h",
-    "src/platform/qt/Q.h",
-    "src/foundation/F.h",
-    "src/params/P.h",
-    "src/browser/W.h",
-    "src/wizard/frame/R.h",
-    "src/wizard/analysis/A.h",
-    "src/wizard/sources/S.h",
-    "src/wizard/setup/T.h",
-    "src/wizard/output/O.h",
-    "src/wizard/optimization/Z.h",
-    "src/exports/E.h",
-    "apps/cli/C.h",
+    "src/platform/base/B.h",     "src/platform/ui/U.h",
+    "src/platform/headless/H.h", "src/platform/qt/Q.h",
+    "src/foundation/F.h",        "src/params/P.h",
+    "src/simulators/I.h",        "src/browser/W.h",
+    "src/wizard/frame/R.h",      "src/wizard/analysis/A.h",
+    "src/wizard/sources/S.h",    "src/wizard/setup/T.h",
+    "src/wizard/output/O.h",     "src/wizard/optimization/Z.h",
+    "src/exports/E.h",           "apps/cli/C.h",
     "apps/quorvahost/N.h",
 };
 
@@ -113,6 +106,7 @@ std::vector<TFloorCase> gFloorCases()
     const std::string a = "src/wizard/analysis/A.h", s = "src/wizard/sources/S.h";
     const std::string t = "src/wizard/setup/T.h", o = "src/wizard/output/O.h";
     const std::string z = "src/wizard/optimization/Z.h";
+    const std::string i = "src/simulators/I.h";
     const std::string c = "apps/cli/C.h", n = "apps/quorvahost/N.h";
     return {
         {"src/platform/base", {b}},
@@ -121,6 +115,7 @@ std::vector<TFloorCase> gFloorCases()
         {"src/platform/qt", {b, u, q}},
         {"src/foundation", {b, f}},
         {"src/params", {b, f, p}},
+        {"src/simulators", {b, f, p, i}},
         {"src/browser", {b, u, f, p, w}},
         {"src/wizard/frame", {b, u, f, r}},
         {"src/wizard/analysis", {b, u, f, r, a}},
@@ -129,7 +124,7 @@ std::vector<TFloorCase> gFloorCases()
         {"src/wizard/output", {b, u, f, r, o}},
         {"src/wizard/optimization", {b, u, f, r, z}},
         {"src/exports", {b, u, f, p, w, r, a, s, t, o, z, e}},
-        {"apps/cli", {b, u, h, f, p, w, r, a, s, t, o, z, e, c}},
+        {"apps/cli", {b, u, h, f, p, i, w, r, a, s, t, o, z, e, c}},
         {"apps/quorvahost", {b, q, e, n}},
     };
 }

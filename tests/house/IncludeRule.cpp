@@ -25,8 +25,9 @@ const std::vector<std::string_view> kUnderFrame{"src/platform/ui", "src/platform
 const std::vector<std::string_view> kUnderFamily{"src/wizard/frame", "src/platform/ui",
                                                  "src/platform/base", "src/foundation"};
 const std::vector<std::string_view> kUnderCli{
-    "src/exports",    "src/wizard",      "src/browser",       "src/params",
-    "src/foundation", "src/platform/ui", "src/platform/base", "src/platform/headless"};
+    "src/exports",     "src/wizard",        "src/browser",
+    "src/params",      "src/simulators",    "src/foundation",
+    "src/platform/ui", "src/platform/base", "src/platform/headless"};
 
 const std::vector<TFloor> kFloors{
     {"src/platform/base", {}},
@@ -35,6 +36,7 @@ const std::vector<TFloor> kFloors{
     {"src/platform/qt", {"src/platform/ui", "src/platform/base"}, true},
     {"src/foundation", {"src/platform/base"}},
     {"src/params", {"src/foundation", "src/platform/base"}},
+    {"src/simulators", {"src/params", "src/foundation", "src/platform/base"}},
     {"src/browser", {"src/params", "src/foundation", "src/platform/ui", "src/platform/base"}},
     {"src/wizard/frame", kUnderFrame},
     {"src/wizard/analysis", kUnderFamily},

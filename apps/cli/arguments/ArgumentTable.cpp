@@ -5,8 +5,9 @@ namespace quorvawiz::cli
 namespace
 {
 constexpr std::unique_ptr<CCommandArguments> (*kCommands[])(CLI::App& rProgram) = {
-    gMakePagesArguments,   gMakeDescribeArguments, gMakeComposeArguments, gMakeOptionsArguments,
-    gMakeSessionArguments, gMakeCallArguments,     gMakeParamsArguments,  gMakeExampleArguments,
+    gMakePagesArguments,   gMakeDescribeArguments, gMakeComposeArguments,
+    gMakeOptionsArguments, gMakeSessionArguments,  gMakeCallArguments,
+    gMakeParamsArguments,  gMakeExampleArguments,  gMakeImportArguments,
 };
 } // namespace
 

@@ -18,6 +18,7 @@ std::unique_ptr<CCommandArguments> gMakeSessionArguments(CLI::App& rProgram);
 std::unique_ptr<CCommandArguments> gMakeCallArguments(CLI::App& rProgram);
 std::unique_ptr<CCommandArguments> gMakeParamsArguments(CLI::App& rProgram);
 std::unique_ptr<CCommandArguments> gMakeExampleArguments(CLI::App& rProgram);
+std::unique_ptr<CCommandArguments> gMakeImportArguments(CLI::App& rProgram);
 
 /// Adds all commands to the parser of the program, in the order of its help.
 /// @param rProgram lives longer than the result

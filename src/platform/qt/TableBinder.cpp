@@ -38,8 +38,6 @@ public:
         rView.horizontalHeader()->setHighlightSections(false);
         gNameField(rWnd, rView);
         gOnRowMoved(rView, *this, [this] { OnMoved(); });
-        connect(&rView, &QTableView::doubleClicked, this,
-                [this] { Act([this] { Model().UserDoubleClick(); }); });
         connect(rView.horizontalHeader(), &QHeaderView::sectionResized, this,
                 [this](int nColumn, int, int nWidth) { OnColumnDrawn(nColumn, nWidth); });
         rView.viewport()->installEventFilter(this);
@@ -107,14 +105,16 @@ private:
             Act([this, nColumn, nWidth] { Model().UserSizeColumn(nColumn, nWidth); });
     }
 
-    /// Where there is no row to click, the selected one is meant. The view takes any button.
+    /// Beside the rows the selected one is meant.
     bool TakeDoubleClick(const QMouseEvent& rEvent)
     {
         if (rEvent.button() != Qt::LeftButton)
-            return true;
-        if (Widget().indexAt(rEvent.pos()).isValid())
             return false;
-        Act([this] { Model().UserDoubleClick(); });
+        const QModelIndex clicked = Widget().indexAt(rEvent.pos());
+        Act([this, nRow = clicked.isValid() ? clicked.row() : Model().GetSelectedRow()] {
+            if (Model().UserSelect(nRow) == EUserResult::Done)
+                Model().UserDoubleClick();
+        });
         return true;
     }
 

@@ -1,0 +1,203 @@
+#include "simulators/ngspice/FillStore.h"
+
+#include "params/CircuitParams.h"
+#include "simulators/ngspice/CardTokens.h"
+#include "simulators/ngspice/Cards.h"
+#include "simulators/ngspice/FlatName.h"
+#include "simulators/ngspice/GivenParams.h"
+#include "simulators/ngspice/KnownModels.h"
+#include "simulators/ngspice/ShownDevices.h"
+#include "simulators/ngspice/ShownModels.h"
+
+#include <boost/variant/get.hpp>
+
+#include <map>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace quorvawiz::ngspice
+{
+namespace
+{
+
+CStringU TextOf(const std::string& rsText)
+{
+    return {rsText, TTextKind::Utf8IfNeeded};
+}
+
+/// Fills a store, device by device.
+class CStoreFiller
+{
+public:
+    CStoreFiller(const CCatalogue& rCatalogue, const TNetlistListings& rListings,
+                 TCircuitParams& rStore)
+        : mrStore(rStore), mCards(rListings.sExpand), mShown(gReadShownModels(rListings.sShowMod)),
+          mModels(rCatalogue, mCards, mShown)
+    {
+        mrStore.AddSubckt(kTopLevel, 0);
+        // In the order of the netlist, as the simulator shows devices in another one.
+        for (const std::string_view sName : mCards.GetDeviceNames()) {
+            AddSubckt(gSplitDeviceName(sName).sSubckt);
+        }
+    }
+
+    void AddDevice(const TShownDevice& rShown);
+
+    const TFilled& GetFilled() const noexcept { return mFilled; }
+
+private:
+    int AddSubckt(const std::string& rsPath);
+    TModelHeader AddModel(const TKnownModel& rModel);
+    void AddDeviceValues(const TShownDevice& rShown, const CParamPlans& rPlans,
+                         TDeviceData& rDevice);
+    const TGivenParam* FindGiven(const TParamPlan* pPlan) const;
+    void AddUnshown(TParamValues& rValues) const;
+
+    TCircuitParams& mrStore;
+    CCards mCards;
+    std::vector<TShownModel> mShown;
+    CKnownModels mModels;
+    TFilled mFilled;
+    std::map<std::string, int> mSubckts;               // by path; the top level isn't among them
+    std::map<std::string_view, TModelHeader> mHeaders; // of models in the store, by flat name
+    // Used again for each device.
+    std::vector<TCardToken> mTokens;
+    std::vector<TGivenParam> mGiven;
+    std::vector<std::string_view> mTexts;
+};
+
+/// Adds a subcircuit with all that it stands in.
+int CStoreFiller::AddSubckt(const std::string& rsPath)
+{
+    if (rsPath.empty()) {
+        return 0;
+    }
+    if (const auto known = mSubckts.find(rsPath); known != mSubckts.end()) {
+        return known->second;
+    }
+    const std::size_t nPoint = rsPath.rfind('.');
+    if (nPoint != std::string::npos) {
+        AddSubckt(rsPath.substr(0, nPoint));
+    }
+    const int nId = static_cast<int>(mSubckts.size()) + 1;
+    mSubckts.emplace(rsPath, nId);
+    mrStore.AddSubckt(TextOf(rsPath), nId);
+    return nId;
+}
+
+const TGivenParam* CStoreFiller::FindGiven(const TParamPlan* pPlan) const
+{
+    for (const TGivenParam& rParam : mGiven) {
+        if (rParam.pPlan == pPlan) {
+            return &rParam;
+        }
+    }
+    return nullptr;
+}
+
+/// What a card gives and no listing shows has the card's own value.
+void CStoreFiller::AddUnshown(TParamValues& rValues) const
+{
+    for (const TGivenParam& rParam : mGiven) {
+        if (!rValues.contains(rParam.pPlan->sName)) {
+            rValues.emplace(rParam.pPlan->sName, gValueOnCard(rParam));
+        }
+    }
+}
+
+TModelHeader CStoreFiller::AddModel(const TKnownModel& rModel)
+{
+    TModelData model;
+    model.mModelHeader = rModel.header;
+    model.mModelHeader.mnSubckt = AddSubckt(rModel.sSubckt);
+    if (rModel.pClass != nullptr) {
+        const CParamPlans& rPlans = rModel.pClass->model;
+        gReadCardTokens(rModel.sCard, mTokens);
+        gFindGivenOnModel(mTokens, rPlans, mGiven);
+        const TShownValues none;
+        const TShownValues& rShown = rModel.pShown != nullptr ? rModel.pShown->values : none;
+        for (std::size_t nAt = 0; nAt < rShown.size();) {
+            const TParamPlan* const pPlan = rPlans.FindShown(rShown[nAt].sName);
+            gTakeLines(rShown, nAt, mTexts);
+            const auto value = FindGiven(pPlan) != nullptr ? gValueOf(pPlan->eKind, mTexts)
+                                                           : std::optional<TParamValue>();
+            if (value) {
+                model.mModelParamValues.insert_or_assign(pPlan->sName, *value);
+            }
+        }
+        AddUnshown(model.mModelParamValues);
+        // In models the file keeps NaN as it is, and it wouldn't come back as uninitialised.
+        std::erase_if(model.mModelParamValues, [](const auto& rEntry) {
+            const double* const pNumber = boost::get<double>(&rEntry.second);
+            return pNumber != nullptr && gIsUninitialized(*pNumber);
+        });
+    }
+    mrStore.AddModel(model);
+    ++mFilled.nModels;
+    return model.mModelHeader;
+}
+
+void CStoreFiller::AddDeviceValues(const TShownDevice& rShown, const CParamPlans& rPlans,
+                                   TDeviceData& rDevice)
+{
+    gReadCardTokens(mCards.FindDevice(rShown.sName), mTokens);
+    gFindGivenOnDevice(mTokens, rShown.sModel, rPlans, mGiven);
+    for (std::size_t nAt = 0; nAt < rShown.values.size();) {
+        const TParamPlan* const pPlan = rPlans.FindShown(rShown.values[nAt].sName);
+        gTakeLines(rShown.values, nAt, mTexts);
+        if (pPlan == nullptr) {
+            continue;
+        }
+        const bool bState = pPlan->eDirection == EDirection::Out;
+        if (!bState && FindGiven(pPlan) == nullptr) {
+            continue;
+        }
+        if (auto value = gValueOf(pPlan->eKind, mTexts)) {
+            (bState ? rDevice.mStateParamValues : rDevice.mDeviceParamValues)
+                .insert_or_assign(pPlan->sName, std::move(*value));
+        }
+    }
+    AddUnshown(rDevice.mDeviceParamValues);
+}
+
+void CStoreFiller::AddDevice(const TShownDevice& rShown)
+{
+    bool bNew = false;
+    const TKnownModel& rModel = mModels.Find(rShown.sModel, bNew);
+    if (bNew) {
+        const bool bHasCard = !rModel.header.msName.IsEmpty();
+        mHeaders[rShown.sModel] = bHasCard ? AddModel(rModel) : rModel.header;
+    }
+    TDeviceData device;
+    const TFlatName name = gSplitDeviceName(rShown.sName);
+    device.mDeviceHeader = {AddSubckt(name.sSubckt), TextOf(name.sName)};
+    device.mModelHeader = mHeaders[rShown.sModel];
+    if (rModel.pClass != nullptr) {
+        AddDeviceValues(rShown, rModel.pClass->devices, device);
+    } else {
+        ++mFilled.nWithoutClass;
+    }
+    mrStore.AddDevice(device);
+    ++mFilled.nDevices;
+}
+
+} // namespace
+
+TFilled gFillStore(const CCatalogue& rCatalogue, const TNetlistListings& rListings,
+                   const std::string& rsOrigin, TCircuitParams& rStore)
+{
+    for (const auto& [rsName, rClass] : rCatalogue.GetAll()) {
+        TModelClassDef def = rClass.def;
+        def.mHeader.msDescription += TextOf(" (" + rsOrigin + ")");
+        rStore.AddModelClass(def);
+    }
+    CStoreFiller filler(rCatalogue, rListings, rStore);
+    CShownDevices devices(rListings.sShow);
+    for (TShownDevice device; devices.Next(device);) {
+        filler.AddDevice(device);
+    }
+    return filler.GetFilled();
+}
+
+} // namespace quorvawiz::ngspice
