@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/StringU.h"
+#include "exports/Quorvawiz.h"
 
 #include <QString>
 

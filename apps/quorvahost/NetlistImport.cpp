@@ -76,6 +76,9 @@ TImportOutcome CNetlistImport::Run(QWidget* pParent, const QString& rsNetlist,
         new QProgressDialog(Say("ngspice runs on \"%1\".").arg(QFileInfo(rsNetlist).fileName()),
                             Say("Cancel"), 0, 0, pParent);
     mpProgress->setWindowTitle(Say("Import from ngspice"));
+    // The child decides when it is over, not a bar at its end.
+    mpProgress->setAutoClose(false);
+    mpProgress->setAutoReset(false);
     mpProgress->setWindowModality(Qt::ApplicationModal);
     const auto close = [this] {
         if (mpProgress)
@@ -126,8 +129,7 @@ void CNetlistImport::ShowStage(const QString& rsStage)
     const QString sNumbers = rsStage.section(QLatin1Char(' '), 1, 1);
     const int nAll = sNumbers.section(QLatin1Char('/'), 1, 1).toInt();
     mpProgress->setLabelText(sLabel);
-    // It closes itself at its maximum.
-    mpProgress->setMaximum(nAll > 0 ? nAll + 1 : 0);
+    mpProgress->setMaximum(nAll);
     mpProgress->setValue(sNumbers.section(QLatin1Char('/'), 0, 0).toInt());
 }
 

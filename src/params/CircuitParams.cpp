@@ -121,9 +121,7 @@ std::vector<TModelListEntry> TCircuitParams::GetModelList() const
     std::vector<TModelListEntry> list;
     for (const auto& [nSubckt, rModels] : mCircuitModelDatasets) {
         for (const auto& [rsName, rModel] : rModels) {
-            if (rModel.mpModelClassDef == nullptr) {
-                rModel.LinkClass(*this);
-            }
+            rModel.LinkClass(*this); // by name: a file's link may lead elsewhere
             if (rModel.mpModelClassDef == nullptr) {
                 continue; // level and class stand in the class
             }

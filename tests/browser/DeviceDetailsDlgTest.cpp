@@ -51,6 +51,18 @@ TEST_F(DeviceDetailsDlgTest, ADeviceWithoutAModelHasOneTabLabelledDevice)
          CScript().Look({Tabs("[Device]"), Rows({"l|1u||", "w|1u||"})}));
 }
 
+TEST_F(DeviceDetailsDlgTest, AModelWithoutParametersHasItsTabAllTheSame)
+{
+    mStore.AddModelClass(gClass("BARE", "b", 1, {}, {gDef("w", 1e-6)}, {}));
+    mStore.AddModel(gModel(0, "bare", "BARE", "b"));
+    mStore.AddDevice(gDevice(0, "b1", {0, "bare", "BARE", "b"}));
+    Show(mStore.GetDeviceData(0, "b1"), true,
+         CScript()
+             .Look({Tabs("[Model]|Device"), Rows({}), SelectedRow(-1)})
+             .Do({Select("tabs", 1)})
+             .Look({Rows({"w|1u||"})}));
+}
+
 TEST_F(DeviceDetailsDlgTest, ADeviceWithANullClassHasAnEmptyDeviceTab)
 {
     Show(mStore.GetDeviceData(1, "r10"), true,

@@ -1,5 +1,6 @@
 #include "browser/ListTables.h"
 
+#include "browser/DisplayName.h"
 #include "browser/ShownTable.h"
 #include "params/SampleStore.h"
 #include "support/PrintStringU.h"
@@ -109,6 +110,14 @@ TEST(DevicesTableTest, TheIdIsTheEntrysAndNotTheDatasets)
     EXPECT_THAT(DeviceRows(store, ""), ElementsAre("name||"));
 }
 
+TEST(DeviceTitleTest, TheModelsNameIsTheModelsOwn)
+{
+    TCircuitParams store;
+    gFillSample(store);
+    store.mCircuitModelDatasets.at(0).at("n1").mModelHeader.msName = "own"; // a damaged file's
+    EXPECT_EQ(gMakeDeviceTitle("m1", *store.GetDeviceData(0, "m1")), "m1 (own)");
+}
+
 TEST(DevicesTableTest, NamesBeyondAscii)
 {
     TCircuitParams store;
@@ -140,13 +149,12 @@ TEST(ModelsTableTest, WithoutModelsThereAreFourColumnsAndNoRows)
     EXPECT_THAT(table.mRows, IsEmpty());
 }
 
-TEST(ModelsTableTest, AModelWithoutItsClassHasNoLevelAndNoClass)
+TEST(ModelsTableTest, AModelWhoseClassIsAbsentIsNotListed)
 {
     TCircuitParams store;
     store.AddSubckt("top", 0);
     store.AddModel(gModel(0, "n1", "absent", "nmos"));
-    EXPECT_THAT(gShownRows(gMakeModelsTable(store, store.GetModelList())),
-                ElementsAre("n1|nmos|0|"));
+    EXPECT_THAT(gShownRows(gMakeModelsTable(store, store.GetModelList())), ElementsAre());
 }
 
 } // namespace

@@ -55,6 +55,15 @@ TEST(ModelClassRowTest, Order)
     EXPECT_FALSE(gIsClassRowLess(row, row));
 }
 
+TEST(ModelClassRowTest, TheNameIsTheClasssOwnAndNotTheKey)
+{
+    TCircuitParams store;
+    store.mModelClasses["key"] = ClassOf({"own", "t", 1, 1, ""}); // as a damaged file has it
+    const std::vector<TModelClassRow> rows = gMakeModelClassRows(store);
+    ASSERT_EQ(rows.size(), 1U);
+    EXPECT_EQ(rows[0].msName, "own");
+}
+
 // Of three rows with names that differ in their case alone, types must not make a circle.
 TEST(ModelClassRowTest, TheOrderIsStrictAndWeakForNamesThatDifferInCase)
 {

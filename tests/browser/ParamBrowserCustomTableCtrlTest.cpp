@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -100,6 +101,56 @@ TEST(ParamBrowserTableTest, TheVirtualOperationsStandInTheirOrder)
     EXPECT_EQ(gVirtualSlot(&TTable::OnCommitCell), nFirst + 4);
     EXPECT_EQ(gVirtualSlot(&TTable::IsCancelControl), nFirst + 5);
     EXPECT_EQ(gVirtualSlot(&TTable::AfterSelectionChanged), nFirst + 6);
+}
+
+/// Keeps the columns of a table as they are when the table first tells of them.
+class CFirstColumns : public HeadlessDesktop
+{
+public:
+    std::vector<TListColumn> mColumns;
+
+    std::unique_ptr<IWindowPeer> MakePeer(CWnd& rWnd) override
+    {
+        auto* const pTable = dynamic_cast<CListCtrl*>(&rWnd);
+        return pTable != nullptr ? std::make_unique<CPeer>(*pTable, mColumns)
+                                 : HeadlessDesktop::MakePeer(rWnd);
+    }
+
+private:
+    class CPeer : public IWindowPeer
+    {
+    public:
+        CPeer(const CListCtrl& rTable, std::vector<TListColumn>& rColumns)
+            : mrTable(rTable), mrColumns(rColumns)
+        {
+        }
+        void OnChanged(EAspect aspect) override
+        {
+            if (aspect == EAspect::Items && mrTable.GetColumns().size() > mrColumns.size()) {
+                mrColumns.push_back(mrTable.GetColumns().back());
+            }
+        }
+
+    private:
+        const CListCtrl& mrTable;
+        std::vector<TListColumn>& mrColumns;
+    };
+};
+
+TEST(ParamBrowserTableTest, ColumnsAreInsertedLeftAlignedAndAThousandWide)
+{
+    CFirstColumns desktop;
+    CTableDialog dialog(TableOf({"Name", "Value"}, {{"a", "1"}}));
+    CScript().Then([&](CDialog&) { dialog.mTable.FillTable(); }).Run(desktop, [&dialog] {
+        dialog.DoModal();
+    });
+    ASSERT_EQ(desktop.mColumns.size(), 2U);
+    for (const TListColumn& rColumn : desktop.mColumns) {
+        EXPECT_EQ(rColumn.nFormat, 0);
+        EXPECT_EQ(rColumn.nWidth, 1000);
+        EXPECT_EQ(rColumn.nSubItem, -1);
+    }
+    EXPECT_EQ(desktop.mColumns[1].sHeading, "Value");
 }
 
 TEST(ParamBrowserTableTest, ShowsItsModel)

@@ -126,7 +126,8 @@ TEST_F(HostImport, TheProgramsWordsAreTold)
 TEST_F(HostImport, TheStagesAreShown)
 {
     Program("while [ ! -e go ]; do :; done\necho 'quorvawiz: progress: classes 3/57' >&2\n"
-            "while [ ! -e seen ]; do :; done\necho 'progress: file' >&2\n" +
+            "while [ ! -e seen ]; do :; done\necho 'progress: classes 57/57' >&2\n"
+            "echo 'progress: file' >&2\nwhile [ ! -e over ]; do :; done\n" +
             kGood);
     mUser.Meet([this](QWidget& rProgress) {
         const auto& rBar = *rProgress.findChild<QProgressBar*>();
@@ -135,10 +136,14 @@ TEST_F(HostImport, TheStagesAreShown)
         EXPECT_EQ(rLabel.text(), QStringLiteral("ngspice runs on \"filter.cir\"."));
         mFolder.Write("go", "");
         EXPECT_TRUE(QTest::qWaitFor([&] { return rBar.maximum() > 0; }, kLongestWait));
-        EXPECT_EQ(rBar.maximum(), 58);
+        EXPECT_EQ(rBar.maximum(), 57);
         EXPECT_EQ(rBar.value(), 3);
         EXPECT_EQ(rLabel.text(), QStringLiteral("ngspice tells its models."));
         mFolder.Write("seen", "");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return rBar.maximum() == 0; }, kLongestWait));
+        EXPECT_TRUE(rProgress.isVisible());
+        EXPECT_EQ(rLabel.text(), QStringLiteral("The params file is made."));
+        mFolder.Write("over", "");
         CUser::AwaitEnd(rProgress);
     });
     MeetTable("Quorva Devices", kDevices);

@@ -249,4 +249,19 @@ TEST(CircuitParamsTest, ModelListLinksByNameAndLeavesOutWhatHasNoClass)
     EXPECT_THAT(Shown(store.GetModelList()), expected); // linked on the way
 }
 
+TEST(CircuitParamsTest, ModelListIsTheSameWhateverWasLookedAtBefore)
+{
+    TCircuitParams store;
+    gFillSample(store);
+    store.AddOpticalClass(gClass("LASER", "laser", 2, {}, {}, {}));
+    store.AddModel(gModel(1, "las", "LASER", "laser"));
+    // As a file may have it, though the name leads to no class that models have.
+    store.mCircuitModelDatasets.at(1).at("las").mpModelClassDef =
+        &store.mOpticalClasses.at("LASER");
+    const auto expected = ElementsAre("0 n1 nmos 1 MOS1", "1 n2 nmos 1 MOS1");
+    EXPECT_THAT(Shown(store.GetModelList()), expected);
+    EXPECT_NE(store.GetModelData(1, "las"), nullptr);
+    EXPECT_THAT(Shown(store.GetModelList()), expected);
+}
+
 } // namespace

@@ -1,8 +1,8 @@
 #include "params/DamagedForms.h"
-#include "support/PeakMemory.h"
 #include "params/TextStore.h"
 #include "params/archive/ArchiveError.h"
 #include "params/archive/MemorySource.h"
+#include "support/PeakMemory.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 
 #include "exports/Quorvawiz.h"
 #include "params/DamagedForms.h"
-#include "support/FailingMemory.h"
 #include "params/ParamsFileError.h"
+#include "support/FailingMemory.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>

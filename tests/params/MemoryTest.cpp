@@ -1,9 +1,9 @@
 // What reading takes from the heap, beyond what the store keeps.
 
-#include "support/PeakMemory.h"
 #include "params/SampleStore.h"
 #include "params/StoreText.h"
 #include "params/archive/ArchiveError.h"
+#include "support/PeakMemory.h"
 
 #include <gtest/gtest.h>
 

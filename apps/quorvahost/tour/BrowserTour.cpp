@@ -2,6 +2,7 @@
 
 #include "quorvahost/HostWindow.h"
 
+#include <QAbstractItemModel>
 #include <QApplication>
 #include <QFileInfo>
 #include <QKeySequence>
@@ -10,6 +11,7 @@
 #include <QStandardPaths>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTableView>
 #include <utility>
 
 namespace quorvawiz::host
@@ -57,6 +59,9 @@ void CBrowserTour::VisitNetlist(const QString& rsNetlist)
     Choose(Qt::Key_I);
     mrUser.Meet([this, sName](QWidget& rList) {
         mPicture(rList, QStringLiteral("imported-%1-models").arg(sName), nullptr);
+        if (!std::exchange(mbClassesVisited, true))
+            for (const char* const pClass : {"BJT", "BSIM4", "Diode"})
+                VisitClass(rList, QString::fromLatin1(pClass));
         Leave();
     });
     Choose(Qt::Key_S);
@@ -119,6 +124,22 @@ void CBrowserTour::VisitSimulatorModels(QWidget& rList)
     mrUser.Meet([this](QWidget&) { VisitSheet(QStringLiteral("class")); });
     mrUser.Press(QKeySequence(Qt::Key_Return));
     Leave();
+}
+
+/// Walks down a list to a class, and looks at its pages.
+void CBrowserTour::VisitClass(QWidget& rList, const QString& rsName)
+{
+    const auto& rTable = dynamic_cast<QTableView&>(CWizardUser::Control(rList, "table"));
+    const QAbstractItemModel& rRows = *rTable.model();
+    const auto isThere = [&] { return rTable.currentIndex().siblingAtColumn(0).data() == rsName; };
+    mrUser.Press(QKeySequence(Qt::Key_Home));
+    for (int i = 0; i < rRows.rowCount() && !isThere(); ++i)
+        mrUser.Press(QKeySequence(Qt::Key_Down));
+    if (!isThere())
+        throw CUserError("expected: the class " + rsName.toStdString());
+    mrUser.Meet(
+        [this, rsName](QWidget&) { VisitSheet(QStringLiteral("simulator-") + rsName.toLower()); });
+    mrUser.Press(QKeySequence(Qt::Key_Return));
 }
 
 /// Looks at each page of the sheet in front, and leaves it.

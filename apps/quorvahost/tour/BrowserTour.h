@@ -41,6 +41,7 @@ private:
     void VisitDevices(QWidget& rList, const QString& rsCsv);
     void VisitLibraryModels(QWidget& rList);
     void VisitSimulatorModels(QWidget& rList);
+    void VisitClass(QWidget& rList, const QString& rsName);
     void VisitSheet(const QString& rsName);
     void AnswerFileDialog(QWidget& rDialog, const QString& rsFile);
     void Leave() { mrUser.Press(QKeySequence(Qt::Key_Escape)); }
@@ -49,6 +50,7 @@ private:
     CHostWindow& mrWindow;
     CWizardUser& mrUser;
     TPicture mPicture;
+    bool mbClassesVisited = false; ///< they are the same after each import
 };
 
 } // namespace quorvawiz::host

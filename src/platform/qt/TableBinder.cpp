@@ -38,8 +38,6 @@ public:
         rView.horizontalHeader()->setHighlightSections(false);
         gNameField(rWnd, rView);
         gOnRowMoved(rView, *this, [this] { OnMoved(); });
-        connect(&rView, &QTableView::doubleClicked, this,
-                [this] { Act([this] { Model().UserDoubleClick(); }); });
         connect(rView.horizontalHeader(), &QHeaderView::sectionResized, this,
                 [this](int nColumn, int, int nWidth) { OnColumnDrawn(nColumn, nWidth); });
         rView.viewport()->installEventFilter(this);
@@ -67,7 +65,7 @@ public:
     {
         if (pObject == Widget().viewport())
             return pEvent->type() == QEvent::MouseButtonDblClick &&
-                   DoubleClickBesideRows(static_cast<QMouseEvent&>(*pEvent));
+                   TakeDoubleClick(static_cast<QMouseEvent&>(*pEvent));
         if (CQtPeer::eventFilter(pObject, pEvent))
             return true;
         return pEvent->type() == QEvent::KeyPress &&
@@ -107,12 +105,16 @@ private:
             Act([this, nColumn, nWidth] { Model().UserSizeColumn(nColumn, nWidth); });
     }
 
-    /// There is no row to click, but the selected one is meant.
-    bool DoubleClickBesideRows(const QMouseEvent& rEvent)
+    /// Beside the rows the selected one is meant.
+    bool TakeDoubleClick(const QMouseEvent& rEvent)
     {
-        if (rEvent.button() != Qt::LeftButton || Widget().indexAt(rEvent.pos()).isValid())
+        if (rEvent.button() != Qt::LeftButton)
             return false;
-        Act([this] { Model().UserDoubleClick(); });
+        const QModelIndex clicked = Widget().indexAt(rEvent.pos());
+        Act([this, nRow = clicked.isValid() ? clicked.row() : Model().GetSelectedRow()] {
+            if (Model().UserSelect(nRow) == EUserResult::Done)
+                Model().UserDoubleClick();
+        });
         return true;
     }
 

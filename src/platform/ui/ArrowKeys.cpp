@@ -34,6 +34,14 @@ EUserResult WalkEntries(TControl& rControl, int nSelected, int nCount, EArrow ar
     return nNext == nSelected ? EUserResult::Done : rControl.UserSelect(nNext);
 }
 
+EUserResult WalkRows(CListCtrl& rTable, EArrow arrow)
+{
+    // Whole rows are selected: there is no cell beside the selected one.
+    if (arrow == EArrow::Left || arrow == EArrow::Right)
+        return EUserResult::Ignored;
+    return WalkEntries(rTable, rTable.GetSelectedRow(), rTable.GetItemCount(), arrow);
+}
+
 EUserResult WalkCombo(CComboBox& rCombo, EArrow arrow)
 {
     // In a typed text the caret moves.
@@ -93,7 +101,7 @@ EUserResult gPressArrow(CWnd* pFocus, EArrow arrow)
     if (auto* const pList = dynamic_cast<CListBox*>(pFocus))
         return WalkEntries(*pList, pList->GetCurSel(), pList->GetCount(), arrow);
     if (auto* const pTable = dynamic_cast<CListCtrl*>(pFocus))
-        return WalkEntries(*pTable, pTable->GetSelectedRow(), pTable->GetItemCount(), arrow);
+        return WalkRows(*pTable, arrow);
     if (auto* const pTabs = dynamic_cast<CTabCtrl*>(pFocus))
         return WalkEntries(*pTabs, pTabs->GetCurSel(), pTabs->GetItemCount(), arrow);
     if (auto* const pTree = dynamic_cast<CTreeCtrl*>(pFocus))

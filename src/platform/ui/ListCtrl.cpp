@@ -2,12 +2,13 @@
 
 #include <algorithm>
 
-int CListCtrl::InsertColumn(int nColumn, const CString& rsHeading, int, int nWidth, int)
+int CListCtrl::InsertColumn(int nColumn, const CString& rsHeading, int nFormat, int nWidth,
+                            int nSubItem)
 {
     if (!IsCreated())
         return -1;
     const int nAt = std::clamp(nColumn, 0, GetColumnCount());
-    mColumns.insert(mColumns.begin() + nAt, {rsHeading, nWidth});
+    mColumns.insert(mColumns.begin() + nAt, {rsHeading, nWidth, nFormat, nSubItem});
     for (TRow& rRow : mRows)
         if (static_cast<std::size_t>(nAt) < rRow.cells.size())
             rRow.cells.insert(rRow.cells.begin() + nAt, CString());

@@ -10,7 +10,9 @@ inline constexpr unsigned LVS_EX_FULLROWSELECT = 0x20;
 /// One column of a table.
 struct TListColumn {
     CString sHeading;
-    int nWidth = 0; ///< in pixels
+    int nWidth = 0;    ///< in pixels
+    int nFormat = 0;   ///< 0: left aligned
+    int nSubItem = -1; ///< the platform's own number
 };
 
 /// Rows that a table shows but doesn't keep: it asks for what it needs when it needs it, so that a
