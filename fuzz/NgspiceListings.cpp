@@ -82,7 +82,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize)
     Require(packed && *packed == listings);
     TCircuitParams store;
     const TFilled filled =
-        gFillStore(CCatalogue(listings), {sShow, sShowMod, sExpand}, "fuzz", store);
+        gFillStore(CCatalogue(listings), {sShow, sShowMod, sExpand, {"x1", "xtop"}}, "fuzz", store);
     LookThrough(store, filled.nDevices);
     return 0;
 }

@@ -254,6 +254,18 @@ TEST_F(Import, TellsThatThereIsNoOperatingPoint)
                 StartsWith("quorvawiz: the simulator finds no operating point of the netlist\n"));
     EXPECT_THAT(run.sError, HasSubstr("Transient op failed"));
     EXPECT_FALSE(HasOut());
+    const TProgramRun twoSources = Run(mFolder.Write("netlist.cir", "title\nv1 a 0 1\nv2 a 0 2\n"));
+    EXPECT_THAT(twoSources.sError, HasSubstr("singular matrix"));
+    EXPECT_THAT(twoSources.sError, HasSubstr("op simulation(s) aborted"));
+    EXPECT_EQ(twoSources.sError.find("Trying gmin"), std::string::npos);
+}
+
+TEST_F(Import, TellsThatANetlistHasNoDevice)
+{
+    for (const char* const pNetlist : {"", "title\n", "title\n.param a=1\n"}) {
+        EXPECT_EQ(Run(mFolder.Write("netlist.cir", pNetlist)),
+                  (TProgramRun{"", "quorvawiz: the netlist has no device\n", 1}));
+    }
 }
 
 TEST_F(Import, TellsWhatIsMissing)
@@ -268,6 +280,44 @@ TEST_F(Import, TellsWhatIsMissing)
                            "ngspice has it\n",
                            1}));
     EXPECT_FALSE(HasOut());
+}
+
+TEST_F(Import, TellsWhereNothingCanBeWrittenBeforeItSimulates)
+{
+    const auto failure = [](const std::string& rsWords) {
+        return TProgramRun{"", "quorvawiz: can't write '" + rsWords + "\n", 1};
+    };
+    const auto runTo = [](const std::string& rsOut) {
+        return gRunProgram(QUORVAWIZ_CLI_PATH, {"import", Example("rc-filter.cir"), "-o", rsOut,
+                                                "--simulator", "never asked for"});
+    };
+    const std::string sNowhere = mFolder.Path("nowhere/out.params");
+    EXPECT_EQ(runTo(sNowhere), failure(sNowhere + "': No such file or directory"));
+    const std::string sFile = mFolder.Write("file", "") + "/out.params";
+    EXPECT_EQ(runTo(sFile), failure(sFile + "': Not a directory"));
+    EXPECT_EQ(runTo(mFolder.Path("")), failure(mFolder.Path("") + "': Is a directory"));
+    EXPECT_EQ(runTo(""), failure("': No such file or directory"));
+}
+
+TEST_F(Import, TellsWhyThereIsNoTemporaryFolder)
+{
+    const TProgramRun run =
+        gRunProgram("env", {"TMPDIR=/no/such/folder", QUORVAWIZ_CLI_PATH, "import",
+                            Example("rc-filter.cir"), "-o", mFolder.Path("out.params")});
+    EXPECT_EQ(run.nExitCode, 1);
+    EXPECT_THAT(run.sError,
+                StartsWith("quorvawiz: can't make a temporary folder in '/no/such/folder': "));
+}
+
+TEST_F(Import, TellsWhichTimeIsAllowed)
+{
+    for (const std::string sTime : {"0", "-5", "x", "1000001"}) {
+        EXPECT_EQ(Run(Example("rc-filter.cir"), {"--timeout=" + sTime}),
+                  (TProgramRun{"",
+                               "quorvawiz: --timeout takes a number from 1 to 1000000, not \"" +
+                                   sTime + "\"\n",
+                               2}));
+    }
 }
 
 TEST_F(Import, ReplacesNoNetlist)

@@ -153,6 +153,16 @@ TEST(OwnWords, AreTheLinesThatTellOfErrors)
          "\n  Error on line 2:\n  r1 a"},
         {"an error in the output", "Note: x\n", "a\nfatal: b\nc\nd\n", "\n  fatal: b\n  c"},
         {"no error", "a\r\nb\n", "c\n", "\n  a\n  b"},
+        {"steps towards an operating point",
+         "Warning: singular matrix:  check node v1#branch\n\nNote: Starting dynamic gmin stepping\n"
+         "Trying gmin =   1.0000E-03 Warning: singular matrix:  check node v1#branch\n\n"
+         "Warning: Further gmin increment\nWarning: singular matrix:  check node v1#branch\n"
+         "Trying gmin =   9.9996E-03 Warning: Last gmin step failed\n"
+         "Warning: Dynamic gmin stepping failed\nSupplies reduced to   0.0000% \n"
+         "op simulation(s) aborted\n",
+         "",
+         "\n  Warning: singular matrix:  check node v1#branch"
+         "\n  Warning: Dynamic gmin stepping failed\n  op simulation(s) aborted"},
         {"no command to a terminal", "error \033[2J\a\tb\n", "", "\n  error ?[2J??b"},
         {"no error and only an output", "", "c\n", "\n  c"},
     };
@@ -167,7 +177,13 @@ TEST(OwnWords, AreFew)
     for (int n = 0; n < 100; ++n) {
         sMany += "error " + std::to_string(n) + " " + std::string(1000, 'x') + "\n";
     }
-    EXPECT_LT(gOwnWords(sMany, "").size(), 12U * 210U);
+    const std::string sWords = gOwnWords(sMany, "");
+    EXPECT_LT(sWords.size(), 12U * 210U);
+    for (const char* const pWord : {"error 0 ", "error 5 ", "error 94 ", "error 99 "}) {
+        EXPECT_THAT(sWords, HasSubstr(pWord));
+    }
+    EXPECT_THAT(sWords, Not(HasSubstr("error 6 ")));
+    EXPECT_THAT(sWords, Not(HasSubstr("error 93 ")));
 }
 
 /// A program of a shell's script in the place of the simulator.
@@ -247,6 +263,13 @@ TEST_F(FakeSimulator, ThatShowsRubbish)
     EXPECT_EQ(ImportFrom("echo '** ngspice-39' > version.txt; echo op1 > plot.txt\n"
                          "echo 'A - a' > tables.txt; echo x > types.txt\n"),
               "the output of ngspice-39 isn't understood: it shows no device");
+}
+
+TEST_F(FakeSimulator, ThatListsANetlistWithoutADevice)
+{
+    EXPECT_EQ(ImportFrom("echo '** ngspice-39' > version.txt; echo op1 > plot.txt\n"
+                         "echo '     4 : .end' > expand.txt\n"),
+              "the netlist has no device");
 }
 
 TEST_F(FakeSimulator, ThatNeverEnds)

@@ -120,7 +120,7 @@ protected:
         const std::string sShow = gRecorded("show.txt");
         const std::string sShowMod = gRecorded("showmod.txt");
         const std::string sExpand = gRecorded("expand.txt");
-        mFilled = gFillStore(RecordedCatalogue(), {sShow, sShowMod, sExpand},
+        mFilled = gFillStore(RecordedCatalogue(), {sShow, sShowMod, sExpand, {"x1", "xtop"}},
                              "ngspice-39, netlist.cir", mStore);
     }
 
@@ -251,8 +251,9 @@ TEST(FillStoreFromOther, NothingComesOfNothing)
 TEST(FillStoreFromOther, ADeviceOfAnUnknownClassIsThere)
 {
     TCircuitParams store;
-    const TFilled filled = gFillStore(
-        CCatalogue({}), {"z1:\n    model = m\n    x = 1\n", "", "1 : z1 a b m x=1\n"}, "", store);
+    const TFilled filled =
+        gFillStore(CCatalogue({}),
+                   {"z1:\n    model = m\n    x = 1\n", "", "1 : z1 a b m x=1\n", {}}, "", store);
     EXPECT_EQ(filled.nWithoutClass, 1U);
     const TDeviceData* const pDevice = store.GetDeviceData(0, "z1");
     ASSERT_NE(pDevice, nullptr);

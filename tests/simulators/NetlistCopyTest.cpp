@@ -109,6 +109,14 @@ protected:
     CNetlistCopy mCopy{mFolder};
 };
 
+TEST_F(NetlistCopy, KnowsTheInstancesOfSubcircuits)
+{
+    mUsers.Write("part.cir", "Xpart a b sub\n");
+    Copy("xtitle\nX1 a b sub\n  xq.1 a b\n+ xmore\n.include part.cir\n* x2 a b sub\n"
+         ".control\nx3\n.endc\nr1 a b 1\nx\n.end\nx4 a b sub\n");
+    EXPECT_EQ(mCopy.GetInstances(), (TInstanceNames{"x", "x1", "xpart", "xq.1", "x4"}));
+}
+
 struct TCopyCase {
     const char* pName;
     const char* pNetlist; ///< behind the title

@@ -30,6 +30,9 @@ const TCase kCases[] = {
      {"2.2250738585072014e-308"},
      "double 22.25073859e-309"},
     {"a denormal, which is memory", EValueKind::Real, {"1.01856e-312"}, "junk"},
+    {"nearly the greatest double", EValueKind::Real, {"1.79768e+308"}, "double 179.768e306"},
+    {"the greatest double, for no value", EValueKind::Real, {"1.79769e+308"}, "junk"},
+    {"its negative", EValueKind::Real, {"-1.79769e+308"}, "junk"},
     {"too small for any double", EValueKind::Real, {"1e-400"}, "junk"},
     {"too big", EValueKind::Real, {"1e400"}, "junk"},
     {"an error", EValueKind::Real, {"<<NAN, error = 7>>"}, "junk"},
@@ -63,6 +66,10 @@ const TCase kCases[] = {
 
     {"a text", EValueKind::Text, {"4.8.0"}, "text 4.8.0"},
     {"a text in UTF-8", EValueKind::Text, {"\u00B5"}, "text \u00B5"},
+    {"the first of two lines", EValueKind::Text, {"a", "b"}, "text a"},
+    {"texts", EValueKind::Texts, {"n0", "n1"}, "text n0 n1"},
+    {"one junk among texts", EValueKind::Texts, {"n0", "-"}, "junk"},
+    {"an expression", EValueKind::Expression, {"v(a)"}, "text v(a)"},
     {"a text that is none", EValueKind::Text, {"-"}, "junk"},
     {"a text that is an error", EValueKind::Text, {"<<NAN, error = 7>>"}, "junk"},
 };
@@ -82,14 +89,18 @@ TEST(ValueOf, KindsOfTypes)
     EXPECT_EQ(gKindOfType("real"), EValueKind::Real);
     EXPECT_EQ(gKindOfType("realvec"), EValueKind::Numbers);
     EXPECT_EQ(gKindOfType("complex"), EValueKind::Numbers);
-    for (const char* const pType : {"string", "instance", "parsetree", "", "of the future"}) {
+    for (const char* const pType : {"string", "instance", "", "of the future"}) {
         EXPECT_EQ(gKindOfType(pType), EValueKind::Text) << pType;
     }
+    EXPECT_EQ(gKindOfType("stringvec"), EValueKind::Texts);
+    EXPECT_EQ(gKindOfType("parsetree"), EValueKind::Expression);
 }
 
-TEST(ValueOf, WithoutAValueOnlyATextIsEmpty)
+TEST(ValueOf, WithoutAValueOnlyTextsAreEmpty)
 {
-    EXPECT_EQ(gTellValue(gNoValue(EValueKind::Text)), "text ");
+    for (const EValueKind eKind : {EValueKind::Text, EValueKind::Texts, EValueKind::Expression}) {
+        EXPECT_EQ(gTellValue(gNoValue(eKind)), "text ");
+    }
     for (const EValueKind eKind :
          {EValueKind::Flag, EValueKind::Integer, EValueKind::Real, EValueKind::Numbers}) {
         EXPECT_EQ(gTellValue(gNoValue(eKind)), "none");

@@ -44,9 +44,7 @@ public:
 
     TCommand Read() override
     {
-        mOptions.nTimeout = gReadWhole("--timeout", msTimeout, kMostSeconds);
-        if (mOptions.nTimeout == 0)
-            throw CUsageError("--timeout takes at least 1 second");
+        mOptions.nTimeout = gReadWhole("--timeout", msTimeout, kMostSeconds, 1);
         return mOptions;
     }
 

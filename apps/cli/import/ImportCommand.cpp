@@ -9,6 +9,9 @@
 #include "simulators/ngspice/Import.h"
 #include "simulators/ngspice/ImportError.h"
 
+#include <unistd.h>
+
+#include <cerrno>
 #include <chrono>
 #include <cstddef>
 #include <filesystem>
@@ -69,6 +72,27 @@ ngspice::TImported Import(const TImportCommandOptions& rOptions, const std::stop
         onProgress = TellProgress;
     return ngspice::gImport(options, rStop, onProgress);
 }
+
+std::string CantWrite(const std::string& rsOut, const std::string& rsWhy)
+{
+    return "can't write '" + rsOut + "': " + rsWhy;
+}
+
+/// Why no file can be written there, as far as that can be seen without writing; or empty.
+std::error_code WhyNoFile(const std::filesystem::path& rOut)
+{
+    std::error_code ignored;
+    if (std::filesystem::is_directory(rOut, ignored))
+        return std::make_error_code(std::errc::is_a_directory);
+    if (rOut.empty() || std::filesystem::exists(std::filesystem::symlink_status(rOut, ignored)))
+        return rOut.empty() ? std::make_error_code(std::errc::no_such_file_or_directory)
+                            : std::error_code();
+    const auto folder = rOut.has_parent_path() ? rOut.parent_path() : std::filesystem::path(".");
+    if (std::filesystem::exists(folder, ignored) && !std::filesystem::is_directory(folder, ignored))
+        return std::make_error_code(std::errc::not_a_directory);
+    return ::access(folder.c_str(), W_OK) == 0 ? std::error_code()
+                                               : std::error_code(errno, std::generic_category());
+}
 } // namespace
 
 int gRunImport(const TImportCommandOptions& rOptions)
@@ -76,6 +100,11 @@ int gRunImport(const TImportCommandOptions& rOptions)
     std::error_code ignored;
     if (std::filesystem::equivalent(rOptions.sNetlist, rOptions.sOut, ignored))
         throw CUsageError("the params file would replace the netlist");
+    // A simulation may take long.
+    if (const std::error_code why = WhyNoFile(rOptions.sOut)) {
+        gComplain(CantWrite(rOptions.sOut, why.message()));
+        return kNothingDone;
+    }
     const CStopOnSignal stop;
     try {
         const ngspice::TImported imported = Import(rOptions, stop.GetToken());
@@ -91,7 +120,7 @@ int gRunImport(const TImportCommandOptions& rOptions)
     } catch (const ngspice::CImportError& rError) {
         gComplain(rError.what());
     } catch (const CParamsFileError& rError) {
-        gWriteError(rError.what());
+        gComplain(CantWrite(rOptions.sOut, rError.GetDetail()));
     }
     return kNothingDone;
 }

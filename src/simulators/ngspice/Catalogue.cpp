@@ -62,20 +62,38 @@ TBareGiven GivenIn(const TBareCircuit& rCircuit, const TClass& rClass)
     std::vector<TCardToken> tokens;
     std::vector<TGivenParam> given;
     while (!sRest.empty()) {
-        gReadCardTokens(gNextLine(sRest), tokens);
-        if (tokens.front().sText == ".model") {
-            gFindGivenOnModel(tokens, rClass.model, given);
+        const std::string_view sCard = gNextLine(sRest);
+        gReadCardTokens(sCard, tokens);
+        const std::string_view sName = tokens.front().sText;
+        if (sName == ".model") {
+            gFindGivenOnModel(sCard, tokens, rClass.model, given);
             AddNames(given, names.model);
-        } else if (tokens.front().sText.ends_with(kBareDevice)) {
-            gFindGivenOnDevice(tokens, kBareModel, rClass.devices, given);
-            AddNames(given, names.device);
+        } else if (sName.ends_with(kBareDevice) || sName.ends_with(kTwinDevice)) {
+            for (const std::string_view sModel : {kBareModel, kTwinModel}) {
+                gFindGivenOnDevice(sCard, tokens, sModel, rClass.devices, given);
+                AddNames(given, names.device);
+            }
         }
     }
     return names;
 }
 
+/// Tells whether a listing has a parameter with other values, or not at all.
+bool Differs(const TShownValues& rTwin, std::string_view sName,
+             const std::vector<std::string_view>& rTexts)
+{
+    std::vector<std::string_view> texts;
+    for (const TShownValue& rValue : rTwin) {
+        if (rValue.sName == sName) {
+            texts.push_back(rValue.sValue);
+        }
+    }
+    return texts != rTexts;
+}
+
 /// Puts what a bare circuit shows into the definitions.
-void SetDefaults(const TShownValues& rValues, const CParamPlans& rPlans,
+/// @param pTwin what the twin shows; null without one
+void SetDefaults(const TShownValues& rValues, const TShownValues* pTwin, const CParamPlans& rPlans,
                  const std::set<CStringU>& rGiven, TParamDefs& rDefs)
 {
     std::map<CStringU, TParamDef*> defs;
@@ -88,7 +106,7 @@ void SetDefaults(const TShownValues& rValues, const CParamPlans& rPlans,
         gTakeLines(rValues, nAt, texts);
         const TParamPlan* const pPlan = rPlans.FindShown(sName);
         if (pPlan == nullptr || pPlan->eDirection == EDirection::Out ||
-            rGiven.contains(pPlan->sName)) {
+            rGiven.contains(pPlan->sName) || (pTwin != nullptr && Differs(*pTwin, sName, texts))) {
             continue;
         }
         const auto def = defs.find(pPlan->sName);
@@ -117,17 +135,24 @@ double VersionIn(const TShownValues& rValues)
 void SetDefaults(const TBareListing& rListing, const TBareCircuit& rCircuit, TClass& rClass)
 {
     const TBareGiven given = GivenIn(rCircuit, rClass);
+    TShownDevice bare;
+    TShownDevice twin;
     CShownDevices devices(rListing.sShow);
     for (TShownDevice device; devices.Next(device);) {
         if (device.sName.ends_with(kBareDevice)) {
-            SetDefaults(device.values, rClass.devices, given.device, rClass.def.mDeviceParamDefs);
+            bare = device;
+        } else if (device.sName.ends_with(kTwinDevice)) {
+            twin = device;
         }
     }
+    SetDefaults(bare.values, twin.sName.empty() ? nullptr : &twin.values, rClass.devices,
+                given.device, rClass.def.mDeviceParamDefs);
     for (const TShownModel& rModel : gReadShownModels(rListing.sShowMod)) {
         // A simulator of another version may choose another class for the same card.
         const bool bOfClass = rModel.sType == rCircuit.sClass;
         if (bOfClass && (rModel.sName == kBareModel || rCircuit.nLevel == 0)) {
-            SetDefaults(rModel.values, rClass.model, given.model, rClass.def.mModelParamDefs);
+            SetDefaults(rModel.values, nullptr, rClass.model, given.model,
+                        rClass.def.mModelParamDefs);
             rClass.def.mHeader.mdVersion = VersionIn(rModel.values);
         }
     }

@@ -42,7 +42,8 @@ class CCatalogue
 {
 public:
     /// Makes a class of each table, with the defaults that its bare circuit shows. A parameter that
-    /// the bare circuit had to give has no default, and neither has one of a class without one.
+    /// the bare circuit had to give, or that follows from that, has no default, and neither has one
+    /// of a class without a bare circuit.
     /// @param rListings any bytes; of tables of one name the first one counts
     explicit CCatalogue(const TCatalogueListings& rListings);
 

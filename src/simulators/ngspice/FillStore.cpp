@@ -13,6 +13,7 @@
 
 #include <map>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -32,13 +33,14 @@ class CStoreFiller
 public:
     CStoreFiller(const CCatalogue& rCatalogue, const TNetlistListings& rListings,
                  TCircuitParams& rStore)
-        : mrStore(rStore), mCards(rListings.sExpand), mShown(gReadShownModels(rListings.sShowMod)),
-          mModels(rCatalogue, mCards, mShown)
+        : mrStore(rStore), mrInstances(rListings.instances), mCards(rListings.sExpand),
+          mShown(gReadShownModels(rListings.sShowMod)),
+          mModels(rCatalogue, mCards, mShown, mrInstances)
     {
         mrStore.AddSubckt(kTopLevel, 0);
         // In the order of the netlist, as the simulator shows devices in another one.
         for (const std::string_view sName : mCards.GetDeviceNames()) {
-            AddSubckt(gSplitDeviceName(sName).sSubckt);
+            AddSubckt(gSplitDeviceName(sName, mrInstances).instances);
         }
     }
 
@@ -47,7 +49,7 @@ public:
     const TFilled& GetFilled() const noexcept { return mFilled; }
 
 private:
-    int AddSubckt(const std::string& rsPath);
+    int AddSubckt(const std::vector<std::string>& rInstances);
     TModelHeader AddModel(const TKnownModel& rModel);
     void AddDeviceValues(const TShownDevice& rShown, const CParamPlans& rPlans,
                          TDeviceData& rDevice);
@@ -55,6 +57,7 @@ private:
     void AddUnshown(TParamValues& rValues) const;
 
     TCircuitParams& mrStore;
+    const TInstanceNames& mrInstances;
     CCards mCards;
     std::vector<TShownModel> mShown;
     CKnownModels mModels;
@@ -68,22 +71,21 @@ private:
 };
 
 /// Adds a subcircuit with all that it stands in.
-int CStoreFiller::AddSubckt(const std::string& rsPath)
+int CStoreFiller::AddSubckt(const std::vector<std::string>& rInstances)
 {
-    if (rsPath.empty()) {
-        return 0;
+    int nSubckt = 0;
+    std::string sPath;
+    for (const std::string& rsInstance : rInstances) {
+        sPath += sPath.empty() ? "" : ".";
+        sPath += rsInstance;
+        const auto [known, bNew] =
+            mSubckts.try_emplace(sPath, static_cast<int>(mSubckts.size()) + 1);
+        nSubckt = known->second;
+        if (bNew) {
+            mrStore.AddSubckt(TextOf(sPath), nSubckt);
+        }
     }
-    if (const auto known = mSubckts.find(rsPath); known != mSubckts.end()) {
-        return known->second;
-    }
-    const std::size_t nPoint = rsPath.rfind('.');
-    if (nPoint != std::string::npos) {
-        AddSubckt(rsPath.substr(0, nPoint));
-    }
-    const int nId = static_cast<int>(mSubckts.size()) + 1;
-    mSubckts.emplace(rsPath, nId);
-    mrStore.AddSubckt(TextOf(rsPath), nId);
-    return nId;
+    return nSubckt;
 }
 
 const TGivenParam* CStoreFiller::FindGiven(const TParamPlan* pPlan) const
@@ -110,18 +112,18 @@ TModelHeader CStoreFiller::AddModel(const TKnownModel& rModel)
 {
     TModelData model;
     model.mModelHeader = rModel.header;
-    model.mModelHeader.mnSubckt = AddSubckt(rModel.sSubckt);
+    model.mModelHeader.mnSubckt = AddSubckt(rModel.instances);
     if (rModel.pClass != nullptr) {
         const CParamPlans& rPlans = rModel.pClass->model;
         gReadCardTokens(rModel.sCard, mTokens);
-        gFindGivenOnModel(mTokens, rPlans, mGiven);
+        gFindGivenOnModel(rModel.sCard, mTokens, rPlans, mGiven);
         const TShownValues none;
         const TShownValues& rShown = rModel.pShown != nullptr ? rModel.pShown->values : none;
         for (std::size_t nAt = 0; nAt < rShown.size();) {
             const TParamPlan* const pPlan = rPlans.FindShown(rShown[nAt].sName);
             gTakeLines(rShown, nAt, mTexts);
-            const auto value = FindGiven(pPlan) != nullptr ? gValueOf(pPlan->eKind, mTexts)
-                                                           : std::optional<TParamValue>();
+            const TGivenParam* const pGiven = FindGiven(pPlan);
+            const auto value = pGiven != nullptr ? gValueOfGiven(*pGiven, mTexts) : std::nullopt;
             if (value) {
                 model.mModelParamValues.insert_or_assign(pPlan->sName, *value);
             }
@@ -141,8 +143,9 @@ TModelHeader CStoreFiller::AddModel(const TKnownModel& rModel)
 void CStoreFiller::AddDeviceValues(const TShownDevice& rShown, const CParamPlans& rPlans,
                                    TDeviceData& rDevice)
 {
-    gReadCardTokens(mCards.FindDevice(rShown.sName), mTokens);
-    gFindGivenOnDevice(mTokens, rShown.sModel, rPlans, mGiven);
+    const std::string_view sCard = mCards.FindDevice(rShown.sName);
+    gReadCardTokens(sCard, mTokens);
+    gFindGivenOnDevice(sCard, mTokens, rShown.sModel, rPlans, mGiven);
     for (std::size_t nAt = 0; nAt < rShown.values.size();) {
         const TParamPlan* const pPlan = rPlans.FindShown(rShown.values[nAt].sName);
         gTakeLines(rShown.values, nAt, mTexts);
@@ -150,10 +153,11 @@ void CStoreFiller::AddDeviceValues(const TShownDevice& rShown, const CParamPlans
             continue;
         }
         const bool bState = pPlan->eDirection == EDirection::Out;
-        if (!bState && FindGiven(pPlan) == nullptr) {
+        const TGivenParam* const pGiven = bState ? nullptr : FindGiven(pPlan);
+        if (!bState && pGiven == nullptr) {
             continue;
         }
-        if (auto value = gValueOf(pPlan->eKind, mTexts)) {
+        if (auto value = bState ? gValueOf(pPlan->eKind, mTexts) : gValueOfGiven(*pGiven, mTexts)) {
             (bState ? rDevice.mStateParamValues : rDevice.mDeviceParamValues)
                 .insert_or_assign(pPlan->sName, std::move(*value));
         }
@@ -170,8 +174,8 @@ void CStoreFiller::AddDevice(const TShownDevice& rShown)
         mHeaders[rShown.sModel] = bHasCard ? AddModel(rModel) : rModel.header;
     }
     TDeviceData device;
-    const TFlatName name = gSplitDeviceName(rShown.sName);
-    device.mDeviceHeader = {AddSubckt(name.sSubckt), TextOf(name.sName)};
+    const TFlatName name = gSplitDeviceName(rShown.sName, mrInstances);
+    device.mDeviceHeader = {AddSubckt(name.instances), TextOf(name.sName)};
     device.mModelHeader = mHeaders[rShown.sModel];
     if (rModel.pClass != nullptr) {
         AddDeviceValues(rShown, rModel.pClass->devices, device);

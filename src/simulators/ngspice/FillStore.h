@@ -1,6 +1,7 @@
 #pragma once
 
 #include "simulators/ngspice/Catalogue.h"
+#include "simulators/ngspice/FlatName.h"
 
 #include <cstddef>
 #include <string>
@@ -16,6 +17,7 @@ struct TNetlistListings {
     std::string_view sShow;    ///< listing of `show all : all`, see ShownDevices.h
     std::string_view sShowMod; ///< listing of `showmod all : all`, see ShownModels.h
     std::string_view sExpand;  ///< listing of `listing expand`, see Listing.h
+    TInstanceNames instances;  ///< the subcircuits' instances of the netlist itself
 };
 
 /// The name of the top level in the store's table of subcircuits.

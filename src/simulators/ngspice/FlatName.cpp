@@ -1,75 +1,58 @@
 #include "simulators/ngspice/FlatName.h"
 
-#include "platform/base/Ascii.h"
-
-#include <optional>
+#include <cstddef>
 
 namespace quorvawiz::ngspice
 {
 namespace
 {
 
-bool IsInstance(std::string_view sPart) noexcept
+/// The longest instance whose name a text begins with, a point and more behind it; or empty.
+std::string_view InstanceAt(std::string_view sRest, const TInstanceNames& rInstances)
 {
-    return sPart.size() > 1 && gToLowerAscii(sPart.front()) == 'x';
+    std::string_view sLongest;
+    std::size_t nPoint = sRest.find('.');
+    while (nPoint != std::string_view::npos && nPoint + 1 < sRest.size()) {
+        if (rInstances.contains(sRest.substr(0, nPoint))) {
+            sLongest = sRest.substr(0, nPoint);
+        }
+        nPoint = sRest.find('.', nPoint + 1);
+    }
+    return sLongest;
 }
 
-void AppendPart(std::string& rsPath, std::string_view sPart)
-{
-    rsPath += rsPath.empty() ? "" : ".";
-    rsPath += sPart;
-}
+} // namespace
 
-/// The name behind the prefixes of all levels.
-std::optional<TFlatName> SplitPrefixed(std::string_view sFlat)
+TFlatName gSplitDeviceName(std::string_view sFlat, const TInstanceNames& rInstances)
 {
     TFlatName name;
     const std::string_view sLetter = sFlat.substr(0, 2); // with its point
     std::string_view sRest = sFlat;
-    if (sFlat.size() < 2 || sFlat[1] != '.') {
-        return std::nullopt;
-    }
-    while (true) {
-        if (sRest.starts_with(sLetter)) {
-            sRest.remove_prefix(sLetter.size());
-        }
-        const std::size_t nPoint = sRest.find('.');
-        const std::string_view sPart = sRest.substr(0, nPoint);
-        if (nPoint == std::string_view::npos || !IsInstance(sPart)) {
+    while (sLetter.ends_with('.')) {
+        // Only some levels may repeat the letter; the device's own name may begin like that, too.
+        const bool bLetter = sRest.starts_with(sLetter);
+        const std::string_view sBehind = sRest.substr(bLetter ? sLetter.size() : 0);
+        const std::string_view sInstance = InstanceAt(sBehind, rInstances);
+        if (sInstance.empty()) {
             break;
         }
-        AppendPart(name.sSubckt, sPart);
-        sRest.remove_prefix(nPoint + 1);
-    }
-    // Names may have points of their own.
-    if (name.sSubckt.empty() || sRest.empty()) {
-        return std::nullopt;
+        name.instances.emplace_back(sInstance);
+        sRest = sBehind.substr(sInstance.size() + 1);
     }
     name.sName = sRest;
     return name;
 }
 
-} // namespace
-
-TFlatName gSplitDeviceName(std::string_view sFlat)
-{
-    return SplitPrefixed(sFlat).value_or(TFlatName{{}, std::string(sFlat)});
-}
-
-TFlatName gSplitModelName(std::string_view sFlat)
+TFlatName gSplitModelName(std::string_view sFlat, const TInstanceNames& rInstances)
 {
     TFlatName name;
     std::string_view sRest = sFlat;
-    for (std::size_t nColon = 0; (nColon = sRest.find(':')) != std::string_view::npos;) {
-        const std::string_view sPart = sRest.substr(0, nColon);
-        if (!IsInstance(sPart)) {
-            break;
-        }
-        AppendPart(name.sSubckt, sPart);
+    std::size_t nColon = sRest.find(':');
+    while (nColon != std::string_view::npos && nColon + 1 < sRest.size() &&
+           rInstances.contains(sRest.substr(0, nColon))) {
+        name.instances.emplace_back(sRest.substr(0, nColon));
         sRest.remove_prefix(nColon + 1);
-    }
-    if (sRest.empty()) {
-        return {{}, std::string(sFlat)};
+        nColon = sRest.find(':');
     }
     name.sName = sRest;
     return name;

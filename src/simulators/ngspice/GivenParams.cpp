@@ -2,11 +2,15 @@
 
 #include "foundation/NumberFormat.h"
 #include "platform/base/Ascii.h"
+#include "simulators/ngspice/CardExpression.h"
+#include "simulators/ngspice/Lines.h"
+#include "simulators/ngspice/PlacedParams.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -110,36 +114,99 @@ void AddAc(std::span<const TCardToken> behind, const CParamPlans& rPlans,
     }
 }
 
-/// Reads the words from a place on.
-void AddNamed(std::span<const TCardToken> tokens, std::size_t nFirst, bool bSource,
-              const CParamPlans& rPlans, std::vector<TGivenParam>& rGiven)
+/// The card's text behind a word of it.
+std::string_view Behind(std::string_view sCard, std::string_view sWord) noexcept
 {
-    for (std::size_t n = nFirst; n < tokens.size(); ++n) {
-        const TCardToken& rToken = tokens[n];
-        if (rToken.bValue) {
+    const auto nEnd = static_cast<std::size_t>(sWord.data() + sWord.size() - sCard.data());
+    return sCard.substr(std::min(nEnd, sCard.size()));
+}
+
+/// A card, and what is looked for on it.
+struct TLook {
+    std::string_view sCard;
+    std::span<const TCardToken> tokens;
+    const CParamPlans& rPlans;
+    char cLetter = '\0'; // of the device; 0 for a model
+
+    bool IsSource() const noexcept { return cLetter == 'v' || cLetter == 'i'; }
+};
+
+/// Reads the words from a place on.
+void AddNamed(const TLook& rLook, std::size_t nFirst, std::vector<TGivenParam>& rGiven)
+{
+    const char* pExpressionEnd = rLook.sCard.data();
+    for (std::size_t n = nFirst; n < rLook.tokens.size(); ++n) {
+        const TCardToken& rToken = rLook.tokens[n];
+        if (rToken.bValue || rToken.sText.data() < pExpressionEnd) {
             continue;
         }
-        const TParamPlan* const pPlan = rPlans.FindSet(rToken.sText);
-        if (pPlan == nullptr || !(rToken.bAssigned || IsGivenBare(*pPlan, bSource))) {
+        const TParamPlan* const pPlan =
+            rLook.rPlans.FindSet(gTableName(rLook.cLetter, rToken.sText));
+        if (pPlan == nullptr || !(rToken.bAssigned || IsGivenBare(*pPlan, rLook.IsSource()))) {
             continue;
         }
-        Add(pPlan, ValueBehind(tokens, n), rGiven);
-        if (bSource && rToken.sText == "ac") {
-            AddAc(tokens.subspan(n + 1), rPlans, rGiven);
+        if (pPlan->eKind == EValueKind::Expression) {
+            const std::string_view sExpression =
+                gReadCardExpression(Behind(rLook.sCard, rToken.sText), rLook.rPlans);
+            Add(pPlan, sExpression, rGiven);
+            pExpressionEnd = sExpression.data() + sExpression.size();
+            continue;
+        }
+        Add(pPlan, ValueBehind(rLook.tokens, n), rGiven);
+        if (rLook.IsSource() && rToken.sText == "ac") {
+            AddAc(rLook.tokens.subspan(n + 1), rLook.rPlans, rGiven);
         }
     }
 }
 
+/// Reads what stands in places of its own, see PlacedParams.h.
+void AddPlaced(const TLook& rLook, std::vector<TGivenParam>& rGiven)
+{
+    for (const TPlacedParam& rPlaced : gPlacedParams()) {
+        if (rPlaced.cLetter != rLook.cLetter || rPlaced.nPlace >= rLook.tokens.size()) {
+            continue;
+        }
+        const TCardToken& rToken = rLook.tokens[rPlaced.nPlace];
+        if (IsBare(rToken) && (!rPlaced.bNumber || IsNumber(rToken.sText))) {
+            Add(rLook.rPlans.FindSet(rPlaced.sName), rToken.sText, rGiven);
+        }
+    }
+}
+
+std::string WithSingleBlanks(std::string_view sText)
+{
+    std::string sWords;
+    while (!(sText = gTrimmed(sText)).empty()) {
+        sWords += sWords.empty() ? "" : " ";
+        sWords += gNextWord(sText);
+    }
+    return sWords;
+}
+
+/// The whole number that a card has for an integer, if it has one.
+std::optional<int> WholeOnCard(const TGivenParam& rGiven)
+{
+    double dNumber = 0;
+    const std::string sText(rGiven.sText);
+    const bool bWhole = IsNumber(sText) &&
+                        gParseEngineering(sText.c_str(), dNumber, nullptr, false).empty() &&
+                        std::abs(dNumber) <= kMostInteger && std::trunc(dNumber) == dNumber;
+    return bWhole ? std::optional(static_cast<int>(dNumber)) : std::nullopt;
+}
+
 } // namespace
 
-void gFindGivenOnDevice(std::span<const TCardToken> tokens, std::string_view sModel,
-                        const CParamPlans& rPlans, std::vector<TGivenParam>& rGiven)
+void gFindGivenOnDevice(std::string_view sCard, std::span<const TCardToken> tokens,
+                        std::string_view sModel, const CParamPlans& rPlans,
+                        std::vector<TGivenParam>& rGiven)
 {
     rGiven.clear();
     if (tokens.empty()) {
         return;
     }
     const char cLetter = gToLowerAscii(tokens.front().sText.front());
+    const TLook look{sCard, tokens, rPlans, cLetter};
+    AddPlaced(look, rGiven);
     std::size_t nPlace = std::min(PlaceBehindNodes(cLetter), tokens.size());
     const auto model = std::ranges::find_if(tokens.subspan(nPlace), [&](const TCardToken& rToken) {
         return IsBare(rToken) && !sModel.empty() && rToken.sText == sModel;
@@ -158,14 +225,14 @@ void gFindGivenOnDevice(std::span<const TCardToken> tokens, std::string_view sMo
             tokens[nPlace].sText, rGiven);
         ++nPlace;
     }
-    AddNamed(tokens, nPlace, cLetter == 'v' || cLetter == 'i', rPlans, rGiven);
+    AddNamed(look, nPlace, rGiven);
 }
 
-void gFindGivenOnModel(std::span<const TCardToken> tokens, const CParamPlans& rPlans,
-                       std::vector<TGivenParam>& rGiven)
+void gFindGivenOnModel(std::string_view sCard, std::span<const TCardToken> tokens,
+                       const CParamPlans& rPlans, std::vector<TGivenParam>& rGiven)
 {
     rGiven.clear();
-    AddNamed(tokens, 2, false, rPlans, rGiven);
+    AddNamed({sCard, tokens, rPlans}, 2, rGiven);
 }
 
 TParamValue gValueOnCard(const TGivenParam& rGiven)
@@ -174,7 +241,10 @@ TParamValue gValueOnCard(const TGivenParam& rGiven)
     if (eKind == EValueKind::Flag) {
         return TParamValue(rGiven.sText != "0");
     }
-    if (eKind == EValueKind::Text) {
+    if (eKind == EValueKind::Expression) {
+        return TParamValue(CStringU(WithSingleBlanks(rGiven.sText), TTextKind::Utf8IfNeeded));
+    }
+    if (gIsTextKind(eKind)) {
         return TParamValue(CStringU(WithoutQuotes(rGiven.sText), TTextKind::Utf8IfNeeded));
     }
     std::string sNumbers;
@@ -201,6 +271,14 @@ TParamValue gValueOnCard(const TGivenParam& rGiven)
         return TParamValue(static_cast<int>(dFirst));
     }
     return eKind == EValueKind::Real ? dFirst : kUninitializedParamValue;
+}
+
+std::optional<TParamValue> gValueOfGiven(const TGivenParam& rGiven,
+                                         std::span<const std::string_view> shown)
+{
+    const EValueKind eKind = rGiven.pPlan->eKind;
+    const auto whole = eKind == EValueKind::Integer ? WholeOnCard(rGiven) : std::nullopt;
+    return whole ? std::optional(TParamValue(*whole)) : gValueOf(eKind, shown);
 }
 
 } // namespace quorvawiz::ngspice

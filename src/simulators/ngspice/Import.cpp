@@ -2,10 +2,12 @@
 
 #include "params/CircuitParams.h"
 #include "simulators/ngspice/AskCatalogue.h"
+#include "simulators/ngspice/Cards.h"
 #include "simulators/ngspice/CatalogueCache.h"
 #include "simulators/ngspice/Commands.h"
 #include "simulators/ngspice/FillStore.h"
 #include "simulators/ngspice/ImportError.h"
+#include "simulators/ngspice/Listing.h"
 #include "simulators/ngspice/NetlistCopy.h"
 #include "simulators/ngspice/PrivateFolder.h"
 #include "simulators/ngspice/Simulator.h"
@@ -30,7 +32,15 @@ struct TSimulated {
     std::string sShow;
     std::string sShowMod;
     std::string sExpand;
+    TInstanceNames instances;
 };
+
+/// Tells whether the simulator lists a netlist, and no device in it.
+bool HasNoDevice(const TSimulated& rSimulated)
+{
+    return !gReadListing(rSimulated.sExpand).empty() &&
+           CCards(rSimulated.sExpand).GetDeviceNames().empty();
+}
 
 /// One import, stage by stage.
 class CImport
@@ -91,7 +101,8 @@ TSimulated CImport::Simulate(std::vector<std::string>& rNotes) const
     const auto inputFolder = std::filesystem::absolute(mrOptions.netlist, ignored).parent_path();
     const std::string sFailure = mSimulator.Run(folder, kFile, inputFolder);
     TSimulated simulated{gReadVersion(folder.Read(files::kVersion)), folder.Read(files::kShow),
-                         folder.Read(files::kShowMod), folder.Read(files::kExpand)};
+                         folder.Read(files::kShowMod), folder.Read(files::kExpand),
+                         copy.GetInstances()};
     const TVersion& rVersion = simulated.version;
     if (rVersion.nMajor > 0 && rVersion.nMajor < kLeastVersion) {
         throw CImportError("the simulator is " + rVersion.sName + "; ngspice-" +
@@ -108,6 +119,9 @@ TSimulated CImport::Simulate(std::vector<std::string>& rNotes) const
     if (!folder.Read(files::kPlot).starts_with("op") || CSimulator::WasAborted(folder)) {
         throw CImportError("the simulator finds no operating point of the netlist" +
                            CSimulator::ReadWords(folder));
+    }
+    if (HasNoDevice(simulated)) {
+        throw CImportError("the netlist has no device");
     }
     return simulated;
 }
@@ -127,7 +141,8 @@ TFilled CImport::Fill(const TCatalogueListings& rListings, const TSimulated& rSi
 {
     Tell(EImportStage::Filling);
     return gFillStore(
-        CCatalogue(rListings), {rSimulated.sShow, rSimulated.sShowMod, rSimulated.sExpand},
+        CCatalogue(rListings),
+        {rSimulated.sShow, rSimulated.sShowMod, rSimulated.sExpand, rSimulated.instances},
         rSimulated.version.sName + ", " + mrOptions.netlist.filename().string(), rStore);
 }
 

@@ -1,7 +1,6 @@
 #include "simulators/ngspice/KnownModels.h"
 
 #include "simulators/ngspice/CardTokens.h"
-#include "simulators/ngspice/FlatName.h"
 
 #include <algorithm>
 
@@ -52,9 +51,9 @@ TKnownModel CKnownModels::Make(std::string_view sName)
             model.header.msType = model.pClass->def.mHeader.msType;
         }
     } else {
-        TFlatName name = gSplitModelName(sName);
+        TFlatName name = gSplitModelName(sName, mrInstances);
         model.header.msName = TextOf(name.sName);
-        model.sSubckt = std::move(name.sSubckt);
+        model.instances = std::move(name.instances);
         model.sCard = mrCards.FindModel(sName);
         const std::string sType = TypeOnCard(model.sCard);
         model.header.msType = TextOf(sType);

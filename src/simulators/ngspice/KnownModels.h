@@ -3,6 +3,7 @@
 #include "params/ModelData.h"
 #include "simulators/ngspice/Cards.h"
 #include "simulators/ngspice/Catalogue.h"
+#include "simulators/ngspice/FlatName.h"
 #include "simulators/ngspice/ShownModels.h"
 
 #include <cstddef>
@@ -20,17 +21,17 @@ struct TKnownModel {
     const TShownModel* pShown = nullptr; ///< what `showmod` tells; null where it doesn't
     std::string_view sCard;              ///< empty without a card
     TModelHeader header;                 ///< its subcircuit's id is still 0
-    std::string sSubckt;                 ///< the path of the subcircuit that declares it
+    std::vector<std::string> instances;  ///< of subcircuits, down to where it is declared
 };
 
 /// The models of a netlist, found by their flat names.
 class CKnownModels
 {
 public:
-    /// @param rCatalogue, rCards, rShown stay where they are
+    /// @param rCatalogue, rCards, rShown, rInstances stay where they are
     CKnownModels(const CCatalogue& rCatalogue, const CCards& rCards,
-                 const std::vector<TShownModel>& rShown)
-        : mrCatalogue(rCatalogue), mrCards(rCards), mrShown(rShown)
+                 const std::vector<TShownModel>& rShown, const TInstanceNames& rInstances)
+        : mrCatalogue(rCatalogue), mrCards(rCards), mrShown(rShown), mrInstances(rInstances)
     {
     }
 
@@ -48,6 +49,7 @@ private:
     const CCatalogue& mrCatalogue;
     const CCards& mrCards;
     const std::vector<TShownModel>& mrShown;
+    const TInstanceNames& mrInstances;
     std::size_t mnNext = 0; // of mrShown: the first one that isn't taken
     std::unordered_map<std::string_view, TKnownModel> mModels;
 };

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <system_error>
+#include <utility>
 
 namespace quorvawiz::ngspice
 {
@@ -85,6 +86,16 @@ std::string CNetlistCopy::ReadText(const std::filesystem::path& rFile)
     return std::move(*text);
 }
 
+void CNetlistCopy::TakeInstance(std::string_view sLine)
+{
+    if (sLine.empty() || gToLowerAscii(sLine.front()) != 'x') {
+        return;
+    }
+    std::string sName(gNextWord(sLine));
+    std::ranges::transform(sName, sName.begin(), gToLowerAscii);
+    mInstances.insert(std::move(sName));
+}
+
 std::string CNetlistCopy::CopyText(const std::filesystem::path& rFile, bool bNetlist)
 {
     const std::string sText = ReadText(rFile);
@@ -131,6 +142,8 @@ std::string CNetlistCopy::CopyText(const std::filesystem::path& rFile, bool bNet
                                "doesn't do:\n" +
                                std::string(sLine));
         case ELine::Other:
+            TakeInstance(sLine);
+            [[fallthrough]];
         case ELine::EndOfFile:
             sCopy += sLine;
             break;

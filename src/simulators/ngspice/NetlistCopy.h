@@ -1,5 +1,7 @@
 #pragma once
 
+#include "simulators/ngspice/FlatName.h"
+
 #include <cstddef>
 #include <filesystem>
 #include <map>
@@ -35,7 +37,11 @@ public:
     /// How many blocks and lines of commands were left out.
     [[nodiscard]] std::size_t GetStripped() const noexcept { return mnStripped; }
 
+    /// The first words of all lines that may be instances of subcircuits, in lower case.
+    [[nodiscard]] const TInstanceNames& GetInstances() const noexcept { return mInstances; }
+
 private:
+    void TakeInstance(std::string_view sLine);
     std::string ReadText(const std::filesystem::path& rFile);
     std::string CopyText(const std::filesystem::path& rFile, bool bNetlist);
     std::string CopyReference(std::string_view sLine, const std::filesystem::path& rFile);
@@ -45,6 +51,7 @@ private:
     std::filesystem::path mNetlist;
     std::map<std::filesystem::path, std::string> mCopies; // names of copies by canonical path
     std::vector<std::filesystem::path> mIncluding;        // files whose .include lines are followed
+    TInstanceNames mInstances;
     std::size_t mnBytes = 0;
     std::size_t mnStripped = 0;
 };

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <unordered_set>
 #include <vector>
 
 namespace quorvawiz::ngspice
@@ -34,12 +35,23 @@ bool TellsOfError(std::string_view sLine)
                                [sLine](std::string_view sWord) { return Holds(sLine, sWord); });
 }
 
+/// The steps in which the simulator looks for an operating point say nothing about its failure.
+bool TellsOfStep(std::string_view sLine)
+{
+    constexpr auto beginnings = std::to_array<std::string_view>(
+        {"Note:", "Trying gmin", "Warning: Further gmin increment", "Supplies reduced to"});
+    return std::ranges::any_of(
+        beginnings, [sLine](std::string_view sBeginning) { return sLine.starts_with(sBeginning); });
+}
+
+/// Lines but those of steps, each of them once.
 std::vector<std::string_view> LinesOf(std::string_view sText)
 {
     std::vector<std::string_view> lines;
+    std::unordered_set<std::string_view> known;
     while (!sText.empty()) {
         const std::string_view sLine = gTrimmed(gNextLine(sText));
-        if (!sLine.empty() && !sLine.starts_with("Note:")) {
+        if (!sLine.empty() && !TellsOfStep(sLine) && known.insert(sLine).second) {
             lines.push_back(sLine);
         }
     }
@@ -53,12 +65,21 @@ std::vector<std::string_view> ErrorsIn(const std::vector<std::string_view>& rLin
     bool bBehind = false;
     for (const std::string_view sLine : rLines) {
         const bool bError = TellsOfError(sLine);
-        if ((bError || bBehind) && chosen.size() < kMostLines) {
+        if (bError || bBehind) {
             chosen.push_back(sLine);
         }
         bBehind = bError;
     }
     return chosen;
+}
+
+/// The first lines have the cause, and the last ones what came of it.
+void LeaveOutTheMiddle(std::vector<std::string_view>& rLines)
+{
+    constexpr auto half = static_cast<std::ptrdiff_t>(kMostLines / 2);
+    if (rLines.size() > kMostLines) {
+        rLines.erase(rLines.begin() + half, rLines.end() - half);
+    }
 }
 
 } // namespace
@@ -77,6 +98,7 @@ std::string gOwnWords(std::string_view sError, std::string_view sOut)
         const std::size_t nLast = std::min<std::size_t>(lines.size(), kMostLines);
         chosen.assign(lines.end() - static_cast<std::ptrdiff_t>(nLast), lines.end());
     }
+    LeaveOutTheMiddle(chosen);
     std::string sWords;
     for (const std::string_view sLine : chosen) {
         sWords.append("\n  ").append(sLine.substr(0, kMostBytes));

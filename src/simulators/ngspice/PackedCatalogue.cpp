@@ -13,7 +13,7 @@ namespace
 {
 
 // The number goes up whenever the bytes, or the bare circuits, become others.
-constexpr std::string_view kHead = "quorvawiz classes of a simulator, 1";
+constexpr std::string_view kHead = "quorvawiz classes of a simulator, 2";
 
 /// FNV-1a, which finds what goes wrong by accident.
 std::uint64_t CheckSum(std::string_view sBytes) noexcept

@@ -1,10 +1,12 @@
 #include "simulators/ngspice/PrivateFolder.h"
 
+#include "platform/base/Environment.h"
 #include "simulators/ngspice/ImportError.h"
 #include "simulators/ngspice/ReadWhole.h"
 
 #include <stdlib.h>
 
+#include <cerrno>
 #include <cstdint>
 #include <fstream>
 #include <ios>
@@ -17,11 +19,19 @@ namespace quorvawiz::ngspice
 CPrivateFolder::CPrivateFolder()
 {
     std::error_code error;
-    const auto parent = std::filesystem::temp_directory_path(error);
+    auto parent = std::filesystem::temp_directory_path(error);
+    if (error) {
+        // It is what the user says, and isn't there: then the path is left empty.
+        parent = gGetEnvironment("TMPDIR").value_or("/tmp");
+    }
     // Six of these letters are what the system fills in.
     std::string sTemplate = (parent / "quorvawiz-import-").string() + std::string(6, 'X');
-    if (error || ::mkdtemp(sTemplate.data()) == nullptr) {
-        throw CImportError("can't make a temporary folder in '" + parent.string() + "'");
+    if (!error && ::mkdtemp(sTemplate.data()) == nullptr) {
+        error = {errno, std::generic_category()};
+    }
+    if (error) {
+        throw CImportError("can't make a temporary folder in '" + parent.string() +
+                           "': " + error.message());
     }
     mPath = sTemplate;
 }

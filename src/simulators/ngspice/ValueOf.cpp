@@ -10,6 +10,9 @@ namespace quorvawiz::ngspice
 namespace
 {
 
+/// The greatest double, 1.7976931e308, in the six digits of a listing.
+constexpr double kGreatestShown = 1.79769e308;
+
 std::optional<TParamValue> FlagOf(std::string_view sText)
 {
     if (sText != "0" && sText != "1") {
@@ -49,13 +52,18 @@ std::optional<TParamValue> NumbersOf(std::span<const std::string_view> values)
     return TParamValue(CStringU(sAll));
 }
 
-std::optional<TParamValue> TextOf(std::string_view sText)
+std::optional<TParamValue> TextOf(std::span<const std::string_view> values)
 {
-    if (sText.empty() || sText == "-" || sText.starts_with("---------") ||
-        sText.starts_with("?????????") || sText.starts_with("<<NAN")) {
-        return std::nullopt;
+    std::string sAll;
+    for (const std::string_view sText : values) {
+        if (sText.empty() || sText == "-" || sText.starts_with("---------") ||
+            sText.starts_with("?????????") || sText.starts_with("<<NAN")) {
+            return std::nullopt;
+        }
+        sAll += sAll.empty() ? "" : " ";
+        sAll += sText;
     }
-    return TParamValue(CStringU(sText, TTextKind::Utf8IfNeeded));
+    return TParamValue(CStringU(sAll, TTextKind::Utf8IfNeeded));
 }
 
 } // namespace
@@ -74,7 +82,10 @@ EValueKind gKindOfType(std::string_view sType) noexcept
     if (sType == "complex" || sType == "realvec" || sType == "intvec" || sType == "vector") {
         return EValueKind::Numbers;
     }
-    return EValueKind::Text;
+    if (sType == "stringvec") {
+        return EValueKind::Texts;
+    }
+    return sType == "parsetree" ? EValueKind::Expression : EValueKind::Text;
 }
 
 std::optional<double> gNumberOf(std::string_view sText) noexcept
@@ -84,7 +95,8 @@ std::optional<double> gNumberOf(std::string_view sText) noexcept
     const auto read = std::from_chars(sText.data(), pEnd, dNumber);
     // A number out of range leaves result_out_of_range: it is too small, or too big, to be one.
     const bool bIsNumber = read.ec == std::errc() && read.ptr == pEnd;
-    if (!bIsNumber || !(dNumber == 0 || std::isnormal(dNumber))) {
+    if (!bIsNumber || !(dNumber == 0 || std::isnormal(dNumber)) ||
+        std::abs(dNumber) >= kGreatestShown) {
         return std::nullopt;
     }
     return dNumber;
@@ -104,16 +116,18 @@ std::optional<TParamValue> gValueOf(EValueKind eKind, std::span<const std::strin
         return RealOf(values.front());
     case EValueKind::Numbers:
         return NumbersOf(values);
+    case EValueKind::Texts:
+        return TextOf(values);
     case EValueKind::Text:
+    case EValueKind::Expression:
         break;
     }
-    return TextOf(values.front());
+    return TextOf(values.first(1));
 }
 
 TParamValue gNoValue(EValueKind eKind)
 {
-    return eKind == EValueKind::Text ? TParamValue(CStringU())
-                                     : TParamValue(kUninitializedParamValue);
+    return gIsTextKind(eKind) ? TParamValue(CStringU()) : TParamValue(kUninitializedParamValue);
 }
 
 } // namespace quorvawiz::ngspice

@@ -16,7 +16,16 @@ enum class EValueKind {
     Real,    ///< a double
     Numbers, ///< several numbers: a vector, or real and imaginary part; a text of them, by blanks
     Text,    ///< a text
+    Texts,   ///< several texts, such as names of nodes; a text of them, by blanks
+    Expression, ///< a text that only the card has: an expression
 };
+
+/// Tells whether values of a kind are texts that aren't made of numbers.
+[[nodiscard]] constexpr bool gIsTextKind(EValueKind eKind) noexcept
+{
+    return eKind == EValueKind::Text || eKind == EValueKind::Texts ||
+           eKind == EValueKind::Expression;
+}
 
 /// The kind that belongs to the name of a type in the simulator's tables: "real", "flag",
 /// "realvec". An unknown type is a text.
@@ -31,8 +40,9 @@ inline constexpr int kMostInteger = 10'000'000;
 /// A number as the simulator prints it, if it is one to believe.
 /// @param sText "1.5e-06", without white space at its ends
 /// @return nullopt for what isn't a finite number in full ("-", "---------", "<<NAN, error = 7>>",
-///         "nan", "inf"), and for numbers too small for normal doubles: they are memory that nobody
-///         initialised, read as a double
+///         "nan", "inf"); for numbers too small for normal doubles: they are memory that nobody
+///         initialised, read as a double; and for the greatest double, as far as the simulator's
+///         six digits tell it: with that it marks what has no value
 [[nodiscard]] std::optional<double> gNumberOf(std::string_view sText) noexcept;
 
 /// The value that a listing shows for a parameter, where it is one to believe.
