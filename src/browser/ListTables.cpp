@@ -52,8 +52,8 @@ TParamTableData gMakeDevicesTable(const TCircuitParams& rStore,
     table.mRows.reserve(rDevices.size());
     CNames names(rStore, rsFilter);
     for (const TDeviceListEntry& rEntry : rDevices) {
-        table.mRows.push_back(gMakeTableRow(names.Compose(rEntry.mnSubckt, rEntry.msName),
-                                            rEntry.msModelName, rEntry.msType));
+        gAddTableRow(table, gMakeTableRow(names.Compose(rEntry.mnSubckt, rEntry.msName),
+                                          rEntry.msModelName, rEntry.msType));
     }
     return table;
 }
@@ -67,9 +67,9 @@ TParamTableData gMakeModelsTable(const TCircuitParams& rStore,
     table.mRows.reserve(rModels.size());
     CNames names(rStore, {});
     for (const TModelListEntry& rEntry : rModels) {
-        table.mRows.push_back(gMakeTableRow(names.Compose(rEntry.mnSubckt, rEntry.msName),
-                                            rEntry.msType, std::to_string(rEntry.mnLevel),
-                                            rEntry.msClass));
+        gAddTableRow(table,
+                     gMakeTableRow(names.Compose(rEntry.mnSubckt, rEntry.msName), rEntry.msType,
+                                   std::to_string(rEntry.mnLevel), rEntry.msClass));
     }
     return table;
 }

@@ -8,20 +8,14 @@
 namespace
 {
 
-constexpr int kLeastWidth = 15; // in characters, as kMostWidth
-constexpr int kMostWidth = 45;
+constexpr int kLeastWidth = 15; // in characters
 constexpr COLORREF kBlue = 0xFF0000;
 
-/// The bytes of a text as the list has it.
-int NarrowLength(const CStringU& rsText)
+void RaiseTo(const CStringU& rsText, int& rnWidth)
 {
-    return rsText.IsUtf8() ? rsText.ToAnsi().GetLength() : rsText.GetByteLength();
-}
-
-int WidthFor(const CStringU& rsText, int nWidth)
-{
-    return nWidth == kMostWidth ? nWidth
-                                : std::max(nWidth, std::min(NarrowLength(rsText), kMostWidth));
+    if (rnWidth < kMostCellWidth) {
+        rnWidth = std::max(rnWidth, gCellWidth(rsText));
+    }
 }
 
 } // namespace
@@ -39,15 +33,27 @@ void TParamBrowserCustomTableCtrl::FillTable()
     for (std::size_t nColumn = 0; nColumn < mColumnWidths.size(); ++nColumn) {
         AddColumn(static_cast<int>(nColumn));
     }
-    for (const TParamTableRow& rRow : mTableData.mRows) {
-        for (std::size_t nColumn = 0; nColumn < mColumnWidths.size(); ++nColumn) {
-            mColumnWidths[nColumn] = WidthFor(rRow[nColumn].msText, mColumnWidths[nColumn]);
-        }
-    }
+    RaiseWidths();
     ShowRows(this);
     ResizeColumns();
     if (!mTableData.mRows.empty()) {
         SelectCell(0, 0);
+    }
+}
+
+void TParamBrowserCustomTableCtrl::RaiseWidths()
+{
+    const std::vector<int>& rKept = mTableData.mRowWidths;
+    if (rKept.size() == mColumnWidths.size()) {
+        for (std::size_t nColumn = 0; nColumn < rKept.size(); ++nColumn) {
+            mColumnWidths[nColumn] = std::max(mColumnWidths[nColumn], rKept[nColumn]);
+        }
+        return;
+    }
+    for (const TParamTableRow& rRow : mTableData.mRows) {
+        for (std::size_t nColumn = 0; nColumn < mColumnWidths.size(); ++nColumn) {
+            RaiseTo(rRow[nColumn].msText, mColumnWidths[nColumn]);
+        }
     }
 }
 
@@ -59,7 +65,7 @@ void TParamBrowserCustomTableCtrl::AddColumn(int nColumn)
     const auto nAt = static_cast<std::size_t>(nColumn);
     const CStringU& rsTitle = mTableData.mColumnTitles[nAt];
     InsertColumn(nColumn, rsTitle.ToAnsi(), leftAligned, anyWidth, noSubItem);
-    mColumnWidths[nAt] = WidthFor(rsTitle, mColumnWidths[nAt]);
+    RaiseTo(rsTitle, mColumnWidths[nAt]);
 }
 
 void TParamBrowserCustomTableCtrl::ResizeColumns()

@@ -38,6 +38,7 @@ public:
 
 private:
     void AddColumn(int nColumn);
+    void RaiseWidths();
 
     [[nodiscard]] int GetRowCount() const override;
     [[nodiscard]] CString GetText(int nRow, int nColumn) const override;

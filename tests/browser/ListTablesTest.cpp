@@ -46,6 +46,20 @@ TEST(DevicesTableTest, NoCellIsHighlighted)
     }
 }
 
+TEST(DevicesTableTest, TheWidthsOfItsRowsAreKept)
+{
+    TCircuitParams store;
+    gFillSample(store);
+    store.AddDevice(gDevice(1, "abc9", {}));
+    store.AddDevice(gDevice(1, CStringU(u"\u00B5\u00B5\u00B5\u00B5\u00B5\u00B5"), {}));
+    const auto widths = [&store] {
+        return gMakeDevicesTable(store, store.GetDeviceList(-1), "").mRowWidths;
+    };
+    EXPECT_THAT(widths(), ElementsAre(3 + 12, 2, 4)); // the code page is UTF-8
+    store.AddDevice(gDevice(1, std::string(100, 'x'), {}));
+    EXPECT_THAT(widths(), ElementsAre(45, 2, 4));
+}
+
 TEST(DevicesTableTest, AnEmptyStoreHasThreeColumnsAndNoRows)
 {
     const TCircuitParams store;

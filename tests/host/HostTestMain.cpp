@@ -14,6 +14,7 @@ int main(int nCount, char** pArguments)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir home;
     qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
+    qputenv("XDG_CACHE_HOME", home.path().toLocal8Bit());
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, home.path());
     QCoreApplication::setOrganizationName(QStringLiteral("quorvawiz"));

@@ -232,6 +232,19 @@ TEST_F(BrowserWindow, ADoubleClickBesideTheRowsActsOnTheSelectedOne)
     PlayModels(player);
 }
 
+TEST_F(BrowserWindow, ADoubleClickOfAnotherButtonDoesNothing)
+{
+    CPlayer player;
+    for (const auto button : {Qt::RightButton, Qt::MiddleButton})
+        player.Then("double-click", [button] {
+            QTableView& rView = gFrontTableView();
+            gClickAt(*rView.viewport(), rView.visualRect(rView.model()->index(2, 0)).center(), true,
+                     button);
+        });
+    ExpectTitle(player, "Quorva Devices");
+    PlayDevices(player.Do({"press Escape"}));
+}
+
 TEST_F(BrowserWindow, TabsShowTheirTables)
 {
     CPlayer player;

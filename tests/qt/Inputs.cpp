@@ -158,16 +158,16 @@ void gInput(std::string_view sInput)
     }
 }
 
-void gClickAt(QWidget& rWidget, const QPoint& rPosition, bool bDouble)
+void gClickAt(QWidget& rWidget, const QPoint& rPosition, bool bDouble, Qt::MouseButton button)
 {
     const QPoint position = rWidget.mapTo(rWidget.window(), rPosition);
     // A menu goes with the first click.
     const QPointer<QWindow> pWindow = rWidget.window()->windowHandle();
     // Two clicks at one place would be a double one; as a user does it, time goes by between them.
     constexpr int nApart = 1000; // in milliseconds, of the events' own clock
-    QTest::mouseClick(pWindow, Qt::LeftButton, Qt::NoModifier, position);
+    QTest::mouseClick(pWindow, button, Qt::NoModifier, position);
     if (bDouble && pWindow)
-        QTest::mouseDClick(pWindow, Qt::LeftButton, Qt::NoModifier, position);
+        QTest::mouseDClick(pWindow, button, Qt::NoModifier, position);
     QTest::lastMouseTimestamp += nApart;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <Qt>
 #include <string>
 #include <string_view>
 
@@ -28,5 +29,6 @@ QWidget* gFrontWidget(std::string_view sKey);
 /// The dialog in front. There is one.
 CDialog& gFrontDialog();
 
-/// A click of the left button; the position is the widget's own.
-void gClickAt(QWidget& rWidget, const QPoint& rPosition, bool bDouble = false);
+/// A click; the position is the widget's own.
+void gClickAt(QWidget& rWidget, const QPoint& rPosition, bool bDouble = false,
+              Qt::MouseButton button = Qt::LeftButton);

@@ -15,7 +15,8 @@ class CSessionArguments final : public CCommandArguments
 {
 public:
     explicit CSessionArguments(CLI::App& rProgram)
-        : CCommandArguments(rProgram, "session", "Drive the wizard and the browser by lines of JSON")
+        : CCommandArguments(rProgram, "session",
+                            "Drive the wizard and the browser by lines of JSON")
     {
         AddFooter(kFooter);
     }

@@ -15,8 +15,8 @@ namespace quorvawiz::ngspice
 namespace
 {
 
-/// Where the nodes of a device, and what else has no name, end: the place of the first parameter.
-/// The first of at least so many nodes; a device with more of them has a model behind them.
+/// The place of the first word that can be a parameter, where a device has as few nodes as its
+/// letter allows. One with more of them has a model behind them.
 std::size_t PlaceBehindNodes(char cLetter) noexcept
 {
     switch (cLetter) {

@@ -19,6 +19,8 @@
 #include <QRegularExpression>
 #include <QTextStream>
 #include <QWidget>
+#include <algorithm>
+#include <array>
 #include <string>
 
 // Takes a picture of every window, to be looked at: `qt-pictures FOLDER` makes one folder per
@@ -71,10 +73,15 @@ void SaveSmall(QWidget& rWindow, const QString& rsFile)
     picture.convertToFormat(QImage::Format_Indexed8, ColoursOf(picture)).save(rsFile, "PNG", 0);
 }
 
-/// A picture for the user's documents: a window of the browser.
+/// A picture for the user's documents: a window of the browser, as it opens.
 void TakeBrowserPicture(const std::string& rsName, QWidget& rWindow)
 {
-    if (!QString::fromStdString(rsName).endsWith(QLatin1String("-wide")))
+    const QString sName = QString::fromStdString(rsName);
+    const bool bOpens =
+        std::ranges::none_of(std::array{"-wide", "-device", "-state"}, [&](const char* pOther) {
+            return sName.endsWith(QLatin1String(pOther));
+        });
+    if (bOpens)
         SaveSmall(rWindow, QDir(sFolder).filePath(FileName(rsName) + QLatin1String(".png")));
 }
 
