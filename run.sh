@@ -8,8 +8,8 @@ usage: ./run.sh [EXAMPLE | PATH] [--tour] [--dark]
 
 Installs the packages that are missing, builds, and opens the netlist editor on a copy of an example of
 examples/ (by name; without one: rc-filter), or of the netlist at a path, which has a slash in it. A copy that
-was changed is kept, and its path printed. In the editor: Tools > SPICE Command Wizard, or Ctrl+I, and
-Parameters > Import from ngspice.
+was changed is kept, and its path printed. Where ngspice is installed, the netlist is imported at once and
+the browser shows its devices. In the editor: Tools > SPICE Command Wizard, or Ctrl+I, and Parameters.
 
 Without a display (neither DISPLAY nor WAYLAND_DISPLAY is set, or QT_QPA_PLATFORM names a platform without
 a screen) it takes the same windows on a tour that needs no screen: real key and mouse events browse a params
@@ -80,7 +80,11 @@ echo
 if ! $tour; then
     echo "./run.sh: opening $copy, a copy of $netlist"
     status=0
-    build/dev/bin/quorvahost "$copy" || status=$?
+    import=()
+    if command -v ngspice > /dev/null; then
+        import=(--import)
+    fi
+    build/dev/bin/quorvahost "$copy" ${import[@]+"${import[@]}"} || status=$?
     if cmp --silent "$netlist" "$copy"; then
         rm -r "$folder"
     else

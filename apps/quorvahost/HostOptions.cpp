@@ -58,6 +58,8 @@ private:
             SetSink(ECommandSink::Clipboard);
         else if ((sName == QStringLiteral("--help") || sName == QStringLiteral("-h")) && !bHasValue)
             mOptions.task = EHostTask::Help;
+        else if (sName == QStringLiteral("--import") && !bHasValue)
+            mOptions.bImport = true;
         else if (sName == QStringLiteral("--version") && !bHasValue)
             mbVersion = true;
         else
@@ -67,7 +69,8 @@ private:
     static bool IsFlag(const QString& rsName)
     {
         return QStringList{QStringLiteral("--wizard"), QStringLiteral("--clipboard"),
-                           QStringLiteral("--help"), QStringLiteral("--version")}
+                           QStringLiteral("--import"), QStringLiteral("--help"),
+                           QStringLiteral("--version")}
             .contains(rsName);
     }
 
@@ -132,6 +135,8 @@ private:
             mOptions.task = EHostTask::Version;
             return;
         }
+        if (mOptions.bImport && (mbWizard || !msBrowse.isEmpty() || mOptions.sFile.isEmpty()))
+            return Refuse(QStringLiteral("--import goes with a netlist to open"));
         if (mbListGiven && msBrowse.isEmpty())
             return Refuse(QStringLiteral("--list goes with --browse"));
         if (!msBrowse.isEmpty()) {
@@ -172,13 +177,14 @@ std::variant<THostOptions, TUsageFault> gReadHostOptions(const QStringList& rArg
 
 QString gHostHelp()
 {
-    return QStringLiteral(R"(usage: quorvahost [FILE]
+    return QStringLiteral(R"(usage: quorvahost [FILE [--import]]
        quorvahost --wizard [--append FILE | --clipboard]
        quorvahost --browse FILE [--list LIST]
 
 Opens an editor for SPICE netlists; Tools > SPICE Command Wizard inserts commands at the cursor, and
 Parameters shows what a params file knows of the circuit.
 
+  --import       import the netlist from ngspice at once and show its devices
   --wizard       open the wizard alone and print each inserted command at once
   --append FILE  with --wizard: add each command to the end of FILE instead
   --clipboard    with --wizard: put each command on the clipboard instead

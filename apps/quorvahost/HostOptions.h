@@ -31,6 +31,7 @@ struct THostOptions {
     ECommandSink sink = ECommandSink::Output;
     QString sFile;                             ///< to edit, append to or browse; empty: none
     EBrowserList list = EBrowserList::Devices; ///< of the browser
+    bool bImport = false;                      ///< imports the netlist that it opens
 
     bool operator==(const THostOptions&) const = default;
 };

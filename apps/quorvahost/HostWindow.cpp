@@ -192,9 +192,12 @@ bool CHostWindow::OpenFile(const QString& rsPath)
     return true;
 }
 
-void CHostWindow::OpenFileOnceShown(const QString& rsPath)
+void CHostWindow::OpenFileOnceShown(const QString& rsPath, bool bImport)
 {
-    new CFirstPaint(*mpEdit->viewport(), [this, rsPath] { OpenFile(rsPath); });
+    new CFirstPaint(*mpEdit->viewport(), [this, rsPath, bImport] {
+        if (OpenFile(rsPath) && bImport)
+            mpParameters->ImportNetlist();
+    });
 }
 
 void CHostWindow::NewFile()

@@ -46,7 +46,7 @@ public:
 
     /// `OpenFile` as soon as the window has been painted for the first time: a large file takes a
     /// while, and a message stands in front of a window that is there.
-    void OpenFileOnceShown(const QString& rsPath);
+    void OpenFileOnceShown(const QString& rsPath, bool bImport = false);
 
     /// The netlist's editor.
     CNetlistEdit& Edit() { return *mpEdit; }

@@ -41,11 +41,11 @@ QStringList ArgumentsOf(int nCount, char** pArguments)
     return arguments;
 }
 
-int RunEditor(QtDesktop& rDesktop, const QString& rsFile)
+int RunEditor(QtDesktop& rDesktop, const THostOptions& rOptions)
 {
     CHostWindow window(rDesktop);
-    if (!rsFile.isEmpty())
-        window.OpenFileOnceShown(rsFile);
+    if (!rOptions.sFile.isEmpty())
+        window.OpenFileOnceShown(rOptions.sFile, rOptions.bImport);
     window.show();
     return QApplication::exec();
 }
@@ -67,7 +67,7 @@ int RunOnDesktop(int& rnCount, char** pArguments, const THostOptions& rOptions)
     case EHostTask::Version:
         break;
     }
-    return RunEditor(desktop, rOptions.sFile);
+    return RunEditor(desktop, rOptions);
 }
 } // namespace
 

@@ -2,22 +2,6 @@
 
 #include "foundation/Paths.h"
 
-#include <exception>
-
-namespace
-{
-
-TFileChoice ChooseOrCancel(const TFileDialog& rDialog)
-{
-    try {
-        return gChooseFile(rDialog);
-    } catch (const std::exception&) {
-        return {};
-    }
-}
-
-} // namespace
-
 TCustomFileDialog::TCustomFileDialog(EType eType, const CString& rsDefaultExtension,
                                      const TPath& rsInitialName, UINT nFlags,
                                      const CString& rsFilter, const CWnd* pParent)
@@ -34,10 +18,10 @@ TCustomFileDialog::TCustomFileDialog(EType eType, const CString& rsDefaultExtens
 int TCustomFileDialog::DoModal()
 {
     msPath.Empty();
-    TFileChoice choice = ChooseOrCancel(mDialog);
+    TFileChoice choice = gChooseFileOrCancel(mDialog);
     if (choice.end == TFileChoice::EEnd::InvalidName) {
         mDialog.sFileName.Empty();
-        choice = ChooseOrCancel(mDialog);
+        choice = gChooseFileOrCancel(mDialog);
     }
     if (choice.end != TFileChoice::EEnd::Chosen) {
         return IDCANCEL;

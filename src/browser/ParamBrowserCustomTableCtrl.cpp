@@ -34,7 +34,9 @@ void TParamBrowserCustomTableCtrl::FillTable()
         AddColumn(static_cast<int>(nColumn));
     }
     RaiseWidths();
-    ShowRows(this);
+    ShowRows({static_cast<int>(mTableData.mRows.size()),
+              [this](int nRow, int nColumn) { return CellAt(nRow, nColumn).msText.ToAnsi(); },
+              [](int nRow) { return static_cast<std::intptr_t>(nRow); }});
     ResizeColumns();
     if (!mTableData.mRows.empty()) {
         SelectCell(0, 0);
@@ -83,9 +85,7 @@ COLORREF TParamBrowserCustomTableCtrl::GetCellColor(int nRow, int nColumn, bool 
                                                     bool bFocused) const
 {
     const bool bBlue =
-        !bSelected && IsRow(nRow) && IsColumn(nColumn) &&
-        mTableData.mRows[static_cast<std::size_t>(nRow)][static_cast<std::size_t>(nColumn)]
-            .mbHighlight;
+        !bSelected && IsRow(nRow) && IsColumn(nColumn) && CellAt(nRow, nColumn).mbHighlight;
     return bBlue ? kBlue : CTableCtrl::GetCellColor(nRow, nColumn, bSelected, bFocused);
 }
 
@@ -99,18 +99,7 @@ bool TParamBrowserCustomTableCtrl::IsCellSelectable(int /*nRow*/, int nColumn) c
     return nColumn == 0;
 }
 
-int TParamBrowserCustomTableCtrl::GetRowCount() const
+const TParamTableCell& TParamBrowserCustomTableCtrl::CellAt(int nRow, int nColumn) const
 {
-    return static_cast<int>(mTableData.mRows.size());
-}
-
-CString TParamBrowserCustomTableCtrl::GetText(int nRow, int nColumn) const
-{
-    return mTableData.mRows[static_cast<std::size_t>(nRow)][static_cast<std::size_t>(nColumn)]
-        .msText.ToAnsi();
-}
-
-std::intptr_t TParamBrowserCustomTableCtrl::GetData(int nRow) const
-{
-    return nRow;
+    return mTableData.mRows[static_cast<std::size_t>(nRow)][static_cast<std::size_t>(nColumn)];
 }

@@ -9,7 +9,7 @@
 /// The grid of all windows of the browser: read-only texts, of which the highlighted ones are blue.
 /// A selection is that of a whole row. It shows the rows of its table model and keeps no copies of
 /// them; a row's own number is its index in the model.
-class TParamBrowserCustomTableCtrl : public CTableCtrl, private IListRows
+class TParamBrowserCustomTableCtrl : public CTableCtrl
 {
 public:
     /// @param table what to show; a window that composes its table later gives an empty one
@@ -40,7 +40,5 @@ private:
     void AddColumn(int nColumn);
     void RaiseWidths();
 
-    [[nodiscard]] int GetRowCount() const override;
-    [[nodiscard]] CString GetText(int nRow, int nColumn) const override;
-    [[nodiscard]] std::intptr_t GetData(int nRow) const override;
+    [[nodiscard]] const TParamTableCell& CellAt(int nRow, int nColumn) const;
 };

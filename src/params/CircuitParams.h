@@ -91,8 +91,8 @@ public:
     [[nodiscard]] const TDeviceData* GetDeviceDataNoCase(const CStringU& rsSubckt,
                                                          const CStringU& rsName) const;
 
-    /// All models, by subcircuit id and then in the order of the map. Each is linked to its class by
-    /// name, and left out where the store has no such class.
+    /// All models, by subcircuit id and then in the order of the map. Each is linked to its class
+    /// by name, and left out where the store has no such class.
     [[nodiscard]] std::vector<TModelListEntry> GetModelList() const;
 
     /// The devices of a subcircuit in the order of the map.

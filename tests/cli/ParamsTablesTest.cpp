@@ -270,16 +270,45 @@ TEST(ParamsTables, NamesThatNeedCareInALineAndInJson)
     store.AddDevice(gDevice(0, CStringU("\xFFzz", TTextKind::Plain), {}));
     store.WriteThis(folder.Path("a"), "");
     EXPECT_EQ(gRunQuorvawiz({"params", folder.Path("a"), "devices"}),
-              (TProgramRun{"Name     Model  Type\n\\xFFzz\na\"\\x0A\\\n", "", 0}));
+              (TProgramRun{"Name     Model  Type\n?zz\na\"\\x0A\\\n", "", 0}));
     const TProgramRun run = gRunQuorvawiz({"params", folder.Path("a"), "devices", "--json"});
     const json rows = json::parse(run.sOut)["tables"][0]["rows"];
-    EXPECT_EQ(rows[0]["cells"][0], (json{{"hex", "ff7a7a"}}));
+    EXPECT_EQ(rows[0]["cells"][0], "?zz"); // as the window shows it
     EXPECT_EQ(rows[1]["cells"][0], "a\"\n\\");
     EXPECT_EQ(gRunQuorvawiz({"params", folder.Path("a"), "device", "top", "a\"\n\\"}).sOut,
               "Device Parameters: top.a\"\\x0A\\\n"
               "\n"
               "Device\n"
               "  Name  Value  Units  Description\n");
+}
+
+TEST(ParamsTables, CharactersThatTheWindowCutsAreCutInEveryForm)
+{
+    const CTempFolder folder;
+    TCircuitParams store;
+    store.AddSubckt("top", 0);
+    store.AddDevice(gDevice(0, CStringU("\xF0\x9F\x98\x80", TTextKind::Utf8IfNeeded), {}));
+    store.WriteThis(folder.Path("a"), "");
+    // Texts are 16 bits a character: U+1F600 is U+F600 here.
+    const std::string sShown = "\xEF\x98\x80";
+    EXPECT_EQ(gRunQuorvawiz({"params", folder.Path("a"), "devices"}).sOut,
+              "Name  Model  Type\n" + sShown + '\n');
+    EXPECT_EQ(gRunQuorvawiz({"params", folder.Path("a"), "devices", "--csv", "-"}).sOut,
+              sShown + ", , \r\n");
+    const TProgramRun run = gRunQuorvawiz({"params", folder.Path("a"), "devices", "--json"});
+    EXPECT_EQ(json::parse(run.sOut)["tables"][0]["rows"][0]["cells"][0], sShown);
+}
+
+TEST(ParamsTables, ANameThatLeadsNowhereIsntSuggested)
+{
+    const CTempFolder folder;
+    TCircuitParams store;
+    store.AddSubckt("top", 0);
+    store.mSubcktTable.mIndex["N"] = -1; // as a damaged file has it
+    store.WriteThis(folder.Path("a"), "");
+    EXPECT_EQ(
+        gRunQuorvawiz({"params", folder.Path("a"), "devices", "--subckt", "N"}),
+        (TProgramRun{"", "quorvawiz: there is no subcircuit \"N\"; did you mean \"top\"?\n", 2}));
 }
 
 TEST(ParamsTables, WrongArguments)

@@ -322,5 +322,14 @@ TEST_F(SessionBrowser, TheMembersOfAReplyAndTheirOrder)
     EXPECT_THAT(sReplies, testing::EndsWith(R"("fields":{},"result":false})"
                                             "\n"));
 }
+
+TEST_F(SessionBrowser, ADialogThatAnotherRequestClosesHasNoResult)
+{
+    for (const char* const pRequest : {kClasses, R"({"op":"reopen"})"}) {
+        const std::string sReplies =
+            gServe(gTestWizard(), Load() + '\n' + kDevices + '\n' + pRequest + '\n');
+        EXPECT_THAT(sReplies, testing::Not(testing::HasSubstr("\"result\""))) << pRequest;
+    }
+}
 } // namespace
 } // namespace quorvawiz::cli

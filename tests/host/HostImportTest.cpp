@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QStatusBar>
 #include <QTest>
@@ -71,6 +72,17 @@ TEST_F(HostImport, ShowsTheDevicesOfTheNetlist)
                                       " -o /.*/filter\\.params --progress\n"));
     EXPECT_EQ(CFileFolder::Read(mFolder.Path("folders")), mFolder.Path().toUtf8() + '\n');
     EXPECT_FALSE(Exists("filter.params")) << "nothing is left beside the netlist";
+}
+
+TEST_F(HostImport, ANetlistIsImportedAsItOpens)
+{
+    Program(kGood);
+    MeetProgress();
+    MeetTable("Quorva Devices", kDevices);
+    mpWindow->OpenFileOnceShown(mFolder.Write("other.cir", "title\nR2 a 0 1k\n.end\n"), true);
+    mpWindow->findChild<QPlainTextEdit*>()->viewport()->update();
+    CUser::Settle();
+    EXPECT_EQ(ShownParams(), QStringLiteral("Parameters: other.params"));
 }
 
 TEST_F(HostImport, UnsavedWorkIsSavedFirst)

@@ -81,6 +81,13 @@ TEST_F(RunScript, OpensTheExampleAndLeavesNothing)
     EXPECT_EQ(Leftovers(), QStringList());
 }
 
+TEST_F(RunScript, ImportsTheExampleWhereTheSimulatorIs)
+{
+    Program("tree/build/dev/bin/quorvahost", "shift; echo \"editor $*.\"\n");
+    Program("bin/ngspice", "");
+    EXPECT_THAT(Run(kDisplay, {}), HasSubstr("editor --import.\n"));
+}
+
 TEST_F(RunScript, KeepsACopyThatWasChanged)
 {
     Program("tree/build/dev/bin/quorvahost", "echo .op >>\"$1\"; exit 3\n");

@@ -43,10 +43,11 @@ template <class... TMaps> std::vector<std::string> KeysOf(const TMaps&... rMaps)
 /// @param sWhat what it would be the name of, as in "device"
 /// @param sWhere behind the name, as in " in "top""
 [[noreturn]] void ThrowUnknown(const std::string& sWhat, const std::string& sName,
-                               const std::string& sWhere, const std::vector<std::string>& rKnown)
+                               const std::string& sWhere, std::vector<std::string> known)
 {
+    std::erase(known, sName); // a damaged file may know a name that leads nowhere
     throw CUsageError("there is no " + sWhat + ' ' + gQuoted(sName) + sWhere +
-                      gDidYouMean(sName, rKnown));
+                      gDidYouMean(sName, known));
 }
 
 int FindSubckt(const TCircuitParams& rStore, const std::string& rsName)

@@ -3,7 +3,7 @@
 #include "cli/FieldJson.h"
 #include "cli/Output.h"
 #include "cli/Quote.h"
-#include "cli/call/CallValue.h"
+#include "platform/base/Utf8Text.h"
 
 #include <nlohmann/json.hpp>
 
@@ -19,6 +19,12 @@ bool IsSet(const TParamTableRow& rRow)
     return std::ranges::any_of(rRow, &TParamTableCell::mbHighlight);
 }
 
+/// A text as the window shows it: in the system's code page.
+std::string Shown(const CStringU& rsText)
+{
+    return gToUtf8(rsText.ToAnsi());
+}
+
 std::string TableToText(const TParamTableData& rTable, bool bParams)
 {
     std::vector<std::vector<std::string>> rows;
@@ -32,11 +38,11 @@ std::string TableToText(const TParamTableData& rTable, bool bParams)
     };
     auto& rTitles = startRow(false);
     for (const CStringU& rsTitle : rTable.mColumnTitles)
-        rTitles.push_back(gPrintable(rsTitle.Text()));
+        rTitles.push_back(gPrintable(Shown(rsTitle)));
     for (const TParamTableRow& rRow : rTable.mRows) {
         auto& rCells = startRow(IsSet(rRow));
         for (const TParamTableCell& rCell : rRow)
-            rCells.push_back(gPrintable(rCell.msText.Text()));
+            rCells.push_back(gPrintable(Shown(rCell.msText)));
     }
     return gAlignColumns(rows);
 }
@@ -113,7 +119,7 @@ private:
         if (IsSimple(rsText.Text()))
             msText.append(1, '"').append(rsText.Text()).append(1, '"');
         else
-            msText += gToLine(gToResult(rsText));
+            msText += gToLine(Shown(rsText));
     }
 
     const std::function<void(std::string_view)>& mrWrite;
@@ -125,12 +131,12 @@ std::string gTellAsText(const TBrowserWindow& rWindow)
 {
     std::string sText;
     if (rWindow.mbParams)
-        sText = gPrintable(rWindow.msTitle.Text()) + '\n';
+        sText = gPrintable(Shown(rWindow.msTitle)) + '\n';
     for (const TBrowserTable& rTable : rWindow.mTables) {
         if (rWindow.mbParams)
             sText += '\n';
         if (!rTable.msLabel.IsEmpty())
-            sText += gPrintable(rTable.msLabel.Text()) + '\n';
+            sText += gPrintable(Shown(rTable.msLabel)) + '\n';
         sText += TableToText(rTable.mTable, rWindow.mbParams);
     }
     return sText;

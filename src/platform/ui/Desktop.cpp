@@ -2,6 +2,7 @@
 
 #include "platform/ui/FileDialog.h"
 
+#include <exception>
 #include <stdexcept>
 
 namespace
@@ -80,4 +81,13 @@ TFileChoice gChooseFile(const TFileDialog& rDialog)
     IDesktop& rDesktop = gDesktop();
     const COpenBox openBox(rDesktop.Thread());
     return rDesktop.ChooseFile(rDialog);
+}
+
+TFileChoice gChooseFileOrCancel(const TFileDialog& rDialog)
+{
+    try {
+        return gChooseFile(rDialog);
+    } catch (const std::exception&) {
+        return {};
+    }
 }

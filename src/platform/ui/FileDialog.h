@@ -35,3 +35,7 @@ struct TFileChoice {
 
 /// Shows a file dialog through the current desktop; user actions on windows are refused meanwhile.
 TFileChoice gChooseFile(const TFileDialog& rDialog);
+
+/// The same for who doesn't tell a failure from a cancelled dialog: one that fails ends like that,
+/// whatever came up while it was open.
+TFileChoice gChooseFileOrCancel(const TFileDialog& rDialog);

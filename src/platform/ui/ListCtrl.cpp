@@ -1,6 +1,7 @@
 #include "platform/ui/ListCtrl.h"
 
 #include <algorithm>
+#include <utility>
 
 int CListCtrl::InsertColumn(int nColumn, const CString& rsHeading, int nFormat, int nWidth,
                             int nSubItem)
@@ -26,7 +27,7 @@ void CListCtrl::SetColumnWidth(int nColumn, int nWidth)
 
 int CListCtrl::InsertItem(int nRow, const CString& rsText)
 {
-    if (!IsCreated() || mpShownRows)
+    if (!IsCreated() || mBorrowedRows)
         return -1;
     const int nAt = std::clamp(nRow, 0, GetItemCount());
     mRows.insert(mRows.begin() + nAt, TRow{{rsText}, 0});
@@ -38,21 +39,21 @@ int CListCtrl::InsertItem(int nRow, const CString& rsText)
 
 int CListCtrl::GetItemCount() const
 {
-    return mpShownRows ? mpShownRows->GetRowCount() : static_cast<int>(mRows.size());
+    return mBorrowedRows ? mBorrowedRows->nCount : static_cast<int>(mRows.size());
 }
 
-void CListCtrl::ShowRows(const IListRows* pRows)
+void CListCtrl::ShowRows(TListRows rows)
 {
     if (!IsCreated())
         return;
     DeleteAllItems();
-    mpShownRows = pRows;
+    mBorrowedRows = std::move(rows);
     Announce(EAspect::Items);
 }
 
 void CListCtrl::DeleteAllItems()
 {
-    mpShownRows = nullptr;
+    mBorrowedRows.reset();
     mRows.clear();
     mnSelected = -1;
     Announce(EAspect::Items);
@@ -62,8 +63,8 @@ CString CListCtrl::GetItemText(int nRow, int nColumn) const
 {
     if (!IsRow(nRow) || nColumn < 0)
         return {};
-    if (mpShownRows)
-        return IsColumn(nColumn) ? mpShownRows->GetText(nRow, nColumn) : CString();
+    if (mBorrowedRows)
+        return IsColumn(nColumn) ? mBorrowedRows->text(nRow, nColumn) : CString();
     const auto& rCells = mRows[static_cast<std::size_t>(nRow)].cells;
     const auto nCell = static_cast<std::size_t>(nColumn);
     return nCell < rCells.size() ? rCells[nCell] : CString();
@@ -71,7 +72,7 @@ CString CListCtrl::GetItemText(int nRow, int nColumn) const
 
 bool CListCtrl::SetItemText(int nRow, int nColumn, const CString& rsText)
 {
-    if (mpShownRows || !IsRow(nRow) || !IsColumn(nColumn))
+    if (mBorrowedRows || !IsRow(nRow) || !IsColumn(nColumn))
         return false;
     auto& rCells = mRows[static_cast<std::size_t>(nRow)].cells;
     const auto nCell = static_cast<std::size_t>(nColumn);
@@ -86,12 +87,12 @@ std::intptr_t CListCtrl::GetItemData(int nRow) const
 {
     if (!IsRow(nRow))
         return 0;
-    return mpShownRows ? mpShownRows->GetData(nRow) : mRows[static_cast<std::size_t>(nRow)].nData;
+    return mBorrowedRows ? mBorrowedRows->data(nRow) : mRows[static_cast<std::size_t>(nRow)].nData;
 }
 
 bool CListCtrl::SetItemData(int nRow, std::intptr_t nData)
 {
-    if (mpShownRows || !IsRow(nRow))
+    if (mBorrowedRows || !IsRow(nRow))
         return false;
     mRows[static_cast<std::size_t>(nRow)].nData = nData;
     return true;
@@ -161,7 +162,7 @@ void CListCtrl::OnDestroyed()
 {
     mColumns.clear();
     mRows.clear();
-    mpShownRows = nullptr;
+    mBorrowedRows.reset();
     mnExtendedStyle = 0;
     mnSelected = -1;
 }

@@ -3,6 +3,8 @@
 #include "platform/ui/Wnd.h"
 
 #include <cstdint>
+#include <functional>
+#include <optional>
 
 inline constexpr unsigned LVS_EX_GRIDLINES = 0x01;
 inline constexpr unsigned LVS_EX_FULLROWSELECT = 0x20;
@@ -16,17 +18,11 @@ struct TListColumn {
 };
 
 /// Rows that a table shows but doesn't keep: it asks for what it needs when it needs it, so that a
-/// million rows cost it nothing.
-class IListRows
-{
-public:
-    virtual ~IListRows() = default;
-
-    virtual int GetRowCount() const = 0;
-    /// The text of a cell; `nRow` and `nColumn` are those of the table.
-    virtual CString GetText(int nRow, int nColumn) const = 0;
-    /// The row's own number.
-    virtual std::intptr_t GetData(int nRow) const = 0;
+/// million rows cost it nothing. Rows and columns are those of the table.
+struct TListRows {
+    int nCount = 0;
+    std::function<CString(int nRow, int nColumn)> text; ///< of a cell
+    std::function<std::intptr_t(int nRow)> data;        ///< the row's own number
 };
 
 /// A table of text cells. One row, or none, is selected.
@@ -47,9 +43,9 @@ public:
     void DeleteAllItems();
     int GetItemCount() const;
 
-    /// Shows borrowed rows instead of rows of its own, which end; null: none. They live and stay as
-    /// they are until the window ends or others are shown; meanwhile no row is inserted or written.
-    void ShowRows(const IListRows* pRows);
+    /// Shows borrowed rows instead of rows of its own, which end. They stay as they are until the
+    /// window ends, all are deleted or others are shown; meanwhile none is inserted or written.
+    void ShowRows(TListRows rows);
 
     /// The text of a cell; empty when there is no such cell.
     CString GetItemText(int nRow, int nColumn) const;
@@ -92,7 +88,7 @@ private:
     };
     std::vector<TListColumn> mColumns;
     std::vector<TRow> mRows;
-    const IListRows* mpShownRows = nullptr; ///< instead of mRows
+    std::optional<TListRows> mBorrowedRows; ///< instead of mRows
     unsigned mnExtendedStyle = 0;
     int mnSelected = -1;
 };

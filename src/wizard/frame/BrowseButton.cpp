@@ -6,8 +6,6 @@
 #include "platform/ui/Edit.h"
 #include "platform/ui/FileDialog.h"
 
-#include <exception>
-
 namespace
 {
 // Where the folder of the last browse stands in the application's profile.
@@ -33,16 +31,6 @@ CString FolderOf(const CString& rsPath)
 CString ToUnixForm(const CString& rsPath)
 {
     return gToUnixPath(gToDosPath(rsPath)).ToAnsi();
-}
-
-/// A file dialog that fails ends like one that is cancelled, whatever came up while it was open.
-TFileChoice ChooseOrCancel(const TFileDialog& rDialog)
-{
-    try {
-        return gChooseFile(rDialog);
-    } catch (const std::exception&) {
-        return {};
-    }
 }
 } // namespace
 
@@ -75,10 +63,10 @@ void CBrowseButton::Browse()
     dialog.sFilter = msFilter;
     dialog.nFlags = OFN_HIDEREADONLY | OFN_ENABLESIZING | (mnOpen ? OFN_PATHMUSTEXIST : 0U);
 
-    TFileChoice choice = ChooseOrCancel(dialog);
+    TFileChoice choice = gChooseFileOrCancel(dialog);
     while (choice.end == TFileChoice::EEnd::InvalidName) {
         dialog.sFileName.Empty(); // a text that is no file name mustn't stand in the dialog's way
-        choice = ChooseOrCancel(dialog);
+        choice = gChooseFileOrCancel(dialog);
     }
     if (choice.end != TFileChoice::EEnd::Chosen)
         return;

@@ -7,6 +7,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
 // Tables that show borrowed rows, and the grid's operations.
 
 namespace
@@ -17,16 +22,15 @@ constexpr auto kRows =
              Row(IDCANCEL, "cancel", EControl::PushButton, "Cancel", {5, 60, 50, 14}));
 constexpr DialogTemplate kTemplate{"Grid", {100, 80}, kRows};
 
-/// Rows 0, 1, 2... whose cells say where they are.
-struct TPlaces : IListRows {
-    int mnCount = 3;
-    int GetRowCount() const override { return mnCount; }
-    CString GetText(int nRow, int nColumn) const override
-    {
-        return CString(std::to_string(nRow) + '/' + std::to_string(nColumn));
-    }
-    std::intptr_t GetData(int nRow) const override { return 100 + nRow; }
-};
+/// Three rows whose cells say where they are.
+TListRows Places()
+{
+    return {3,
+            [](int nRow, int nColumn) {
+                return CString(std::to_string(nRow) + '/' + std::to_string(nColumn));
+            },
+            [](int nRow) { return std::intptr_t{100} + nRow; }};
+}
 
 class CGrid : public CTableCtrl
 {
@@ -57,18 +61,17 @@ protected:
     {
         gLookInto(mDialog, [&] { rLook(mDialog.mGrid); });
     }
-    TPlaces mPlaces;
     CGridDialog mDialog;
 };
 
 TEST_F(TableCtrlTest, ShowsRowsThatItDoesntKeep)
 {
-    mDialog.mGrid.ShowRows(&mPlaces);
+    mDialog.mGrid.ShowRows(Places());
     EXPECT_EQ(mDialog.mGrid.GetItemCount(), 0) << "no window yet";
-    In([this](CGrid& rGrid) {
+    In([](CGrid& rGrid) {
         rGrid.InsertItem(0, "own");
         rGrid.SelectRow(0);
-        rGrid.ShowRows(&mPlaces);
+        rGrid.ShowRows(Places());
         EXPECT_EQ(rGrid.GetItemCount(), 3) << "its own rows are gone";
         EXPECT_EQ(rGrid.GetSelectedRow(), -1);
         EXPECT_EQ(rGrid.GetItemText(2, 1), "2/1");
@@ -84,14 +87,14 @@ TEST_F(TableCtrlTest, ShowsRowsThatItDoesntKeep)
 
 TEST_F(TableCtrlTest, BorrowedRowsAreNotWritten)
 {
-    In([this](CGrid& rGrid) {
-        rGrid.ShowRows(&mPlaces);
+    In([](CGrid& rGrid) {
+        rGrid.ShowRows(Places());
         EXPECT_EQ(rGrid.InsertItem(0, "more"), -1);
         EXPECT_FALSE(rGrid.SetItemText(0, 0, "other"));
         EXPECT_FALSE(rGrid.SetItemData(0, 7));
         EXPECT_FALSE(rGrid.OnCommitCell(0, 0, "other"));
         EXPECT_EQ(rGrid.GetItemText(0, 0), "0/0");
-        rGrid.ShowRows(nullptr);
+        rGrid.DeleteAllItems();
         EXPECT_EQ(rGrid.GetItemCount(), 0);
         EXPECT_EQ(rGrid.InsertItem(0, "own"), 0);
         EXPECT_EQ(rGrid.GetItemText(0, 0), "own");
@@ -101,7 +104,7 @@ TEST_F(TableCtrlTest, BorrowedRowsAreNotWritten)
 TEST_F(TableCtrlTest, TheUserSelectsAmongThem)
 {
     In([this](CGrid& rGrid) {
-        rGrid.ShowRows(&mPlaces);
+        rGrid.ShowRows(Places());
         EXPECT_EQ(gAct(mDialog, "select grid=2"), "");
         EXPECT_EQ(rGrid.GetSelectedRow(), 2);
         EXPECT_EQ(gAct(mDialog, "select grid=3"), "unknown entry");
