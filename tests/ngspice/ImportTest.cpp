@@ -12,7 +12,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <filesystem>
+#include <iterator>
 #include <set>
 #include <stop_token>
 #include <string>
@@ -229,9 +231,11 @@ TEST_F(Import, TellsWhatTheSimulatorSaysOfANetlistThatFails)
     constexpr TFailure failures[] = {
         {"no model", "title\nm1 a b c d nomodel\n", "can't find model 'nomodel'"},
         {"no section", "title\n.lib nowhere.lib TT\nr1 a 0 1\n", "nowhere.lib"},
+        {"no such section", "title\n.lib part.lib nosuch\nr1 a 0 1\n", "/part.lib"},
         {"no parameter", "title\nr1 a 0 {nothing}\n", "Undefined parameter [nothing]"},
     };
     mFolder.Write("out.params", "what was there");
+    mFolder.Write("part.lib", ".lib TT\n.endl TT\n");
     for (const TFailure& rFailure : failures) {
         const TProgramRun run = Run(mFolder.Write("netlist.cir", rFailure.pNetlist));
         EXPECT_EQ(run.nExitCode, 1) << rFailure.pName;
@@ -334,14 +338,29 @@ TEST_F(Import, TellsItsStages)
               "progress: netlist\nprogress: simulation\nprogress: store\nprogress: file\n");
 }
 
-TEST_F(Import, EndsBySignal)
+/// The folders of imports among the temporary files.
+std::size_t CountFolders(const std::string& rsTemporary)
 {
-    const std::string sSimulator =
-        mFolder.Write("simulator", "#!/bin/sh\nkill -TERM $PPID\nwhile :; do :; done\n");
-    std::filesystem::permissions(sSimulator, std::filesystem::perms::owner_all);
-    EXPECT_EQ(Run(Example("rc-filter.cir"), {"--simulator", sSimulator}),
-              (TProgramRun{"", "quorvawiz: the import was cancelled\n", 1}));
-    EXPECT_FALSE(HasOut());
+    const std::filesystem::directory_iterator all(rsTemporary);
+    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
+}
+
+TEST_F(Import, EndsBySignalAndLeavesNothing)
+{
+    const std::string sTemporary = mFolder.Path("temporary");
+    std::filesystem::create_directory(sTemporary);
+    for (const char* const pSignal : {"TERM", "INT", "HUP"}) {
+        const std::string sSimulator =
+            mFolder.Write("simulator", std::string("#!/bin/sh\nkill -") + pSignal +
+                                           " $PPID\nwhile :; do :; done\n");
+        std::filesystem::permissions(sSimulator, std::filesystem::perms::owner_all);
+        const TProgramRun run = gRunProgram(
+            "env", {"TMPDIR=" + sTemporary, QUORVAWIZ_CLI_PATH, "import", Example("rc-filter.cir"),
+                    "-o", mFolder.Path("out.params"), "--simulator", sSimulator});
+        EXPECT_EQ(run, (TProgramRun{"", "quorvawiz: the import was cancelled\n", 1})) << pSignal;
+        EXPECT_EQ(CountFolders(sTemporary), 0U) << pSignal;
+        EXPECT_FALSE(HasOut());
+    }
 }
 
 TEST_F(Import, ANewSimulatorIsAskedOnce)

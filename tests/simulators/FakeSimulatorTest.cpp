@@ -9,6 +9,9 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <csignal>
@@ -86,6 +89,27 @@ TEST_F(ChildProcess, MayNotWriteTooMuch)
     EXPECT_EQ(result.eEnd, EChildEnd::Killed);
     EXPECT_EQ(result.nCode, SIGXFSZ);
     EXPECT_EQ(mFolder.Read("out").size(), 1U << 20U);
+}
+
+TEST_F(ChildProcess, MayWriteNoMoreThanItsUser)
+{
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    // The limit that can't be raised any more belongs to a process of its own.
+    const pid_t child = ::fork();
+    if (child == 0) {
+        constexpr rlim_t least = 1U << 16U;
+        const rlimit few{least, least};
+        ::signal(SIGXFSZ, SIG_IGN);
+        const bool bLess = ::setrlimit(RLIMIT_FSIZE, &few) == 0;
+        const TChildResult result = Run("ulimit -H -f");
+        ::_exit(bLess && result.eEnd == EChildEnd::Exited && result.nCode == 0 ? 0 : 1);
+    }
+    int nStatus = 0;
+    ASSERT_EQ(::waitpid(child, &nStatus, 0), child);
+    EXPECT_TRUE(WIFEXITED(nStatus) && WEXITSTATUS(nStatus) == 0);
+    // In blocks of 512 bytes.
+    EXPECT_EQ(mFolder.Read("out"), "128\n");
 }
 
 TEST_F(ChildProcess, IsKilledAtTheDeadline)

@@ -72,6 +72,14 @@ TEST(NetlistLine, NamesOfFiles)
         {".include \"a b", "a b", ""},
         {".include", "", ""},
         {".include \"\"", "", ""},
+        {".include a.cir; why", "a.cir", ""},
+        {".include a.cir;why", "a.cir", ""},
+        {".include a.cir//why", "a.cir", ""},
+        {".include a/b.cir/why", "a/b.cir/why", ""},
+        {".include 'a;b.cir';why", "a;b.cir", ""},
+        {".lib a.lib;TT", "a.lib", ""},
+        {".lib a.lib TT;why", "a.lib", "TT"},
+        {".lib a.lib // why", "a.lib", ""},
         {".lib a.lib TT", "a.lib", "TT"},
         {".lib 'a.lib' TT $ why", "a.lib", "TT"},
         {".lib TT", "TT", ""},
@@ -196,6 +204,14 @@ TEST_F(NetlistCopy, CopiesLibrariesWithReferencesToThemselves)
     EXPECT_EQ(Copy("title\n.lib a.lib TT\n"), "* imported\n.lib \"part1.cir\" TT\n");
     EXPECT_EQ(mFolder.Read("part1.cir"),
               ".lib TT\n.lib \"part1.cir\" common\n.endl\n.lib common\n.endl\n");
+}
+
+TEST_F(NetlistCopy, NamesTheUsersFiles)
+{
+    mUsers.Write("a.lib", ".lib TT\n.endl\n");
+    Copy("title\n.lib a.lib TT\n");
+    EXPECT_EQ(mCopy.TellUsersFiles("part1.cir and part1.cir, not part2.cir"),
+              mUsers.Path("a.lib") + " and " + mUsers.Path("a.lib") + ", not part2.cir");
 }
 
 TEST_F(NetlistCopy, LooksBesideTheNetlistToo)

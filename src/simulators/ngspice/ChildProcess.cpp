@@ -216,7 +216,10 @@ TChildResult gRunChild(const TChildRequest& rRequest, const std::stop_token& sto
     plan.nOut = out.Get();
     plan.nError = error.Get();
     plan.nReport = pReport->Get();
-    plan.fileSize = {rRequest.nMostBytes, rRequest.nMostBytes};
+    // Nobody but the administrator may allow more than is allowed already.
+    ::getrlimit(RLIMIT_FSIZE, &plan.fileSize);
+    const rlim_t nMost = std::min<rlim_t>(rRequest.nMostBytes, plan.fileSize.rlim_max);
+    plan.fileSize = {nMost, nMost};
     plan.parent = ::getpid();
 
     const pid_t started = ::fork();

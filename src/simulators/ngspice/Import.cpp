@@ -99,7 +99,7 @@ TSimulated CImport::Simulate(std::vector<std::string>& rNotes) const
     Tell(EImportStage::Simulating);
     std::error_code ignored;
     const auto inputFolder = std::filesystem::absolute(mrOptions.netlist, ignored).parent_path();
-    const std::string sFailure = mSimulator.Run(folder, kFile, inputFolder);
+    const std::string sFailure = copy.TellUsersFiles(mSimulator.Run(folder, kFile, inputFolder));
     TSimulated simulated{gReadVersion(folder.Read(files::kVersion)), folder.Read(files::kShow),
                          folder.Read(files::kShowMod), folder.Read(files::kExpand),
                          copy.GetInstances()};
@@ -118,7 +118,7 @@ TSimulated CImport::Simulate(std::vector<std::string>& rNotes) const
     // A plot of it is there even if it wasn't found, and then an error says so.
     if (!folder.Read(files::kPlot).starts_with("op") || CSimulator::WasAborted(folder)) {
         throw CImportError("the simulator finds no operating point of the netlist" +
-                           CSimulator::ReadWords(folder));
+                           copy.TellUsersFiles(CSimulator::ReadWords(folder)));
     }
     if (HasNoDevice(simulated)) {
         throw CImportError("the netlist has no device");

@@ -86,6 +86,19 @@ std::string CNetlistCopy::ReadText(const std::filesystem::path& rFile)
     return std::move(*text);
 }
 
+std::string CNetlistCopy::TellUsersFiles(std::string sWords) const
+{
+    for (const auto& [rPath, rsCopy] : mCopies) {
+        const std::string sPath = rPath.string();
+        std::size_t nAt = 0;
+        while ((nAt = sWords.find(rsCopy, nAt)) != std::string::npos) {
+            sWords.replace(nAt, rsCopy.size(), sPath);
+            nAt += sPath.size();
+        }
+    }
+    return sWords;
+}
+
 void CNetlistCopy::TakeInstance(std::string_view sLine)
 {
     if (sLine.empty() || gToLowerAscii(sLine.front()) != 'x') {

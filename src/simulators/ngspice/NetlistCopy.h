@@ -40,6 +40,9 @@ public:
     /// The first words of all lines that may be instances of subcircuits, in lower case.
     [[nodiscard]] const TInstanceNames& GetInstances() const noexcept { return mInstances; }
 
+    /// What the simulator says, with the paths of the user's files for the names of their copies.
+    [[nodiscard]] std::string TellUsersFiles(std::string sWords) const;
+
 private:
     void TakeInstance(std::string_view sLine);
     std::string ReadText(const std::filesystem::path& rFile);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace quorvawiz::ngspice
 {
@@ -33,6 +34,19 @@ bool HasForeignCode(std::string_view sLine)
     });
 }
 
+/// Cuts the first word off a text. The simulator takes comments behind ";" and "//" away before it
+/// looks for words, so that they may stand right behind one; nothing is left of the text then.
+std::string_view CutWord(std::string_view& rsRest)
+{
+    const std::string_view sWord = gNextWord(rsRest);
+    const std::size_t nComment = std::min(sWord.find(';'), sWord.find("//"));
+    if (nComment == std::string_view::npos) {
+        return sWord;
+    }
+    rsRest = {};
+    return sWord.substr(0, nComment);
+}
+
 /// The name at the beginning of a text, in quotes or up to white space.
 std::string_view CutName(std::string_view& rsRest)
 {
@@ -42,7 +56,7 @@ std::string_view CutName(std::string_view& rsRest)
     }
     const char cQuote = rsRest.front();
     if (cQuote != '"' && cQuote != '\'') {
-        return gNextWord(rsRest);
+        return CutWord(rsRest);
     }
     const std::size_t nEnd = rsRest.find(cQuote, 1);
     const std::string_view sName = rsRest.substr(1, nEnd - 1);
@@ -87,9 +101,9 @@ TFileReference gReadFileReference(std::string_view sLine)
     const bool bLibrary = Begins(sLine, ".lib");
     gNextWord(sLine);
     reference.sFile = CutName(sLine);
-    const std::string_view sNext = gNextWord(sLine);
-    // Behind a semicolon, or a dollar and a blank, stands a comment.
-    if (bLibrary && !sNext.starts_with(';') && sNext != "$") {
+    const std::string_view sNext = CutWord(sLine);
+    // Behind a dollar and a blank stands a comment, too.
+    if (bLibrary && sNext != "$") {
         reference.sSection = sNext;
     }
     return reference;
