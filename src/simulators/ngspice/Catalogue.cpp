@@ -93,7 +93,7 @@ bool Differs(const TShownValues& rTwin, std::string_view sName,
 
 /// Puts what a bare circuit shows into the definitions.
 /// @param pTwin what the twin shows; null without one
-void SetDefaults(const TShownValues& rValues, const TShownValues* pTwin, const CParamPlans& rPlans,
+void SetDefaults(const TShownValues& rValues, const TShownValues* pTwin, CParamPlans& rPlans,
                  const std::set<CStringU>& rGiven, TParamDefs& rDefs)
 {
     std::map<CStringU, TParamDef*> defs;
@@ -113,6 +113,7 @@ void SetDefaults(const TShownValues& rValues, const TShownValues* pTwin, const C
         const auto value = gValueOf(pPlan->eKind, texts);
         if (def != defs.end() && value) {
             def->second->mValue = *value;
+            rPlans.SetShownDefault(pPlan->sName, texts);
         }
     }
 }

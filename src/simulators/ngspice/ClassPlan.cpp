@@ -29,7 +29,8 @@ CParamPlans::CParamPlans(const std::vector<TParamRow>& rRows)
         const std::size_t nPlan = place->second;
         const bool bRedundant = Has(rRow, 'R');
         if (bNew) {
-            mPlans.push_back({TextOf(rRow.sName), gKindOfType(rRow.sType), rRow.eDirection, false});
+            mPlans.push_back(
+                {TextOf(rRow.sName), gKindOfType(rRow.sType), rRow.eDirection, false, {}});
             mDescriptions.push_back(rRow.sDescription);
             mAliases.emplace_back();
             named.push_back(!bRedundant);
@@ -77,6 +78,13 @@ const TParamPlan* CParamPlans::FindPrincipal() const noexcept
 {
     const auto found = std::ranges::find(mPlans, true, &TParamPlan::bPrincipal);
     return found != mPlans.end() ? &*found : nullptr;
+}
+
+void CParamPlans::SetShownDefault(const CStringU& rsName,
+                                  const std::vector<std::string_view>& rTexts)
+{
+    std::ranges::find(mPlans, rsName, &TParamPlan::sName)
+        ->shownDefault.assign(rTexts.begin(), rTexts.end());
 }
 
 TParamDefs CParamPlans::MakeDefs(std::initializer_list<EDirection> directions) const

@@ -23,6 +23,7 @@ struct TParamPlan {
     EValueKind eKind = EValueKind::Real;     ///< what its values are
     EDirection eDirection = EDirection::Out; ///< Out: it is worked out by the simulator
     bool bPrincipal = false;                 ///< a value without a name is its value
+    std::vector<std::string> shownDefault;   ///< the lines that show its default; empty without one
 };
 
 /// The parameters of a model card, or of a device, with the way from every name to them.
@@ -45,6 +46,10 @@ public:
 
     /// The parameter of a value without a name; null if there is none.
     [[nodiscard]] const TParamPlan* FindPrincipal() const noexcept;
+
+    /// Keeps the lines of a listing that show the default of a parameter.
+    /// @param rsName its first name; there is such a parameter
+    void SetShownDefault(const CStringU& rsName, const std::vector<std::string_view>& rTexts);
 
     /// The definitions of the parameters of some directions, without values.
     [[nodiscard]] TParamDefs MakeDefs(std::initializer_list<EDirection> directions) const;

@@ -11,8 +11,10 @@
 
 #include <boost/variant/get.hpp>
 
+#include <algorithm>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,6 +27,23 @@ namespace
 CStringU TextOf(const std::string& rsText)
 {
     return {rsText, TTextKind::Utf8IfNeeded};
+}
+
+/// The parameters of a class whose default is another one than what is shown where no card gives
+/// them.
+struct TContradicted {
+    std::set<const TParamPlan*> model;
+    std::set<const TParamPlan*> devices;
+};
+
+void LeaveOutDefaults(const std::set<const TParamPlan*>& rPlans, TParamDefs& rDefs)
+{
+    for (const TParamPlan* const pPlan : rPlans) {
+        const auto def = std::ranges::find(rDefs, pPlan->sName, &TParamDef::msName);
+        if (def != rDefs.end()) {
+            def->mValue = gNoValue(pPlan->eKind);
+        }
+    }
 }
 
 /// Fills a store, device by device.
@@ -46,14 +65,16 @@ public:
 
     void AddDevice(const TShownDevice& rShown);
 
+    void LeaveOutContradicted();
+
     const TFilled& GetFilled() const noexcept { return mFilled; }
 
 private:
     int AddSubckt(const std::vector<std::string>& rInstances);
     TModelHeader AddModel(const TKnownModel& rModel);
-    void AddDeviceValues(const TShownDevice& rShown, const CParamPlans& rPlans,
-                         TDeviceData& rDevice);
+    void AddDeviceValues(const TShownDevice& rShown, const TClass& rClass, TDeviceData& rDevice);
     const TGivenParam* FindGiven(const TParamPlan* pPlan) const;
+    void CompareDefault(const TParamPlan& rPlan, std::set<const TParamPlan*>& rContradicted) const;
     void AddUnshown(TParamValues& rValues) const;
 
     TCircuitParams& mrStore;
@@ -64,6 +85,7 @@ private:
     TFilled mFilled;
     std::map<std::string, int> mSubckts;               // by path; the top level isn't among them
     std::map<std::string_view, TModelHeader> mHeaders; // of models in the store, by flat name
+    std::map<const TClass*, TContradicted> mContradicted;
     // Used again for each device.
     std::vector<TCardToken> mTokens;
     std::vector<TGivenParam> mGiven;
@@ -98,6 +120,27 @@ const TGivenParam* CStoreFiller::FindGiven(const TParamPlan* pPlan) const
     return nullptr;
 }
 
+/// Compares what is shown of a parameter that isn't given, in mTexts, with its default.
+void CStoreFiller::CompareDefault(const TParamPlan& rPlan,
+                                  std::set<const TParamPlan*>& rContradicted) const
+{
+    const bool bOther = !rPlan.shownDefault.empty() &&
+                        !std::ranges::equal(rPlan.shownDefault, mTexts) &&
+                        gValueOf(rPlan.eKind, mTexts);
+    if (bOther) {
+        rContradicted.insert(&rPlan);
+    }
+}
+
+void CStoreFiller::LeaveOutContradicted()
+{
+    for (const auto& [pClass, rContradicted] : mContradicted) {
+        TModelClassDef& rDef = mrStore.mModelClasses.at(pClass->def.mHeader.msName);
+        LeaveOutDefaults(rContradicted.model, rDef.mModelParamDefs);
+        LeaveOutDefaults(rContradicted.devices, rDef.mDeviceParamDefs);
+    }
+}
+
 /// What a card gives and no listing shows has the card's own value.
 void CStoreFiller::AddUnshown(TParamValues& rValues) const
 {
@@ -123,8 +166,13 @@ TModelHeader CStoreFiller::AddModel(const TKnownModel& rModel)
             const TParamPlan* const pPlan = rPlans.FindShown(rShown[nAt].sName);
             gTakeLines(rShown, nAt, mTexts);
             const TGivenParam* const pGiven = FindGiven(pPlan);
-            const auto value = pGiven != nullptr ? gValueOfGiven(*pGiven, mTexts) : std::nullopt;
-            if (value) {
+            if (pGiven == nullptr) {
+                if (pPlan != nullptr) {
+                    CompareDefault(*pPlan, mContradicted[rModel.pClass].model);
+                }
+                continue;
+            }
+            if (const auto value = gValueOfGiven(*pGiven, mTexts)) {
                 model.mModelParamValues.insert_or_assign(pPlan->sName, *value);
             }
         }
@@ -140,9 +188,11 @@ TModelHeader CStoreFiller::AddModel(const TKnownModel& rModel)
     return model.mModelHeader;
 }
 
-void CStoreFiller::AddDeviceValues(const TShownDevice& rShown, const CParamPlans& rPlans,
+void CStoreFiller::AddDeviceValues(const TShownDevice& rShown, const TClass& rClass,
                                    TDeviceData& rDevice)
 {
+    const CParamPlans& rPlans = rClass.devices;
+    TContradicted& rContradicted = mContradicted[&rClass];
     const std::string_view sCard = mCards.FindDevice(rShown.sName);
     gReadCardTokens(sCard, mTokens);
     gFindGivenOnDevice(sCard, mTokens, rShown.sModel, rPlans, mGiven);
@@ -155,6 +205,7 @@ void CStoreFiller::AddDeviceValues(const TShownDevice& rShown, const CParamPlans
         const bool bState = pPlan->eDirection == EDirection::Out;
         const TGivenParam* const pGiven = bState ? nullptr : FindGiven(pPlan);
         if (!bState && pGiven == nullptr) {
+            CompareDefault(*pPlan, rContradicted.devices);
             continue;
         }
         if (auto value = bState ? gValueOf(pPlan->eKind, mTexts) : gValueOfGiven(*pGiven, mTexts)) {
@@ -178,7 +229,7 @@ void CStoreFiller::AddDevice(const TShownDevice& rShown)
     device.mDeviceHeader = {AddSubckt(name.instances), TextOf(name.sName)};
     device.mModelHeader = mHeaders[rShown.sModel];
     if (rModel.pClass != nullptr) {
-        AddDeviceValues(rShown, rModel.pClass->devices, device);
+        AddDeviceValues(rShown, *rModel.pClass, device);
     } else {
         ++mFilled.nWithoutClass;
     }
@@ -201,6 +252,7 @@ TFilled gFillStore(const CCatalogue& rCatalogue, const TNetlistListings& rListin
     for (TShownDevice device; devices.Next(device);) {
         filler.AddDevice(device);
     }
+    filler.LeaveOutContradicted();
     return filler.GetFilled();
 }
 

@@ -33,7 +33,8 @@ struct TFilled {
 /// Fills a store with a simulator's classes and with what a netlist has: subcircuits by the paths
 /// of their instances, "xtop.x1"; models with a card; all devices. Values are what the simulator
 /// shows. Of a model and a device there are those that a card gives, and of a device's state all
-/// that are to be believed.
+/// that are to be believed. A default that a model or a device contradicts, whose card doesn't give
+/// the parameter, is left out: it would be shown as the value that it isn't.
 /// @param rCatalogue the classes of the simulator
 /// @param rListings any bytes
 /// @param rsOrigin what stands behind the description of each class: "ngspice-39, amplifier.cir"
