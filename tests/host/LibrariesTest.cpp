@@ -135,7 +135,7 @@ TEST(Libraries, TheProgramAnswersWithoutAScreen)
     EXPECT_EQ(version.sOutput, "quorvahost " QUORVAWIZ_VERSION "\n");
     EXPECT_EQ(version.nExitCode, 0);
     const TOutcome help = Execute(sHost, {QStringLiteral("--help")});
-    EXPECT_TRUE(help.sOutput.startsWith(QStringLiteral("usage: quorvahost [FILE]\n")));
+    EXPECT_TRUE(help.sOutput.startsWith(QStringLiteral("usage: quorvahost [FILE [--import]]\n")));
     EXPECT_EQ(help.nExitCode, 0);
     const TOutcome bad = Execute(sHost, {QStringLiteral("--wizzard")});
     EXPECT_EQ(bad.sOutput, "");
