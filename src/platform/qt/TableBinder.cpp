@@ -40,7 +40,8 @@ public:
         gOnRowMoved(rView, *this, [this] { OnMoved(); });
         connect(rView.horizontalHeader(), &QHeaderView::sectionResized, this,
                 [this](int nColumn, int, int nWidth) { OnColumnDrawn(nColumn, nWidth); });
-        rView.viewport()->installEventFilter(this);
+        mpViewport = rView.viewport();
+        mpViewport->installEventFilter(this);
     }
 
     ~CTablePeer() override
@@ -52,6 +53,8 @@ public:
     /// Inside the frame, below the headings, and beside the scroll bar if the rows need one.
     std::optional<TSize> GetClientPixels() const override
     {
+        if (!GetWidget())
+            return std::nullopt;
         const QTableView& rView = Widget();
         const int nFrame = 2 * rView.frameWidth();
         const int nHeight = rView.height() - nFrame - rView.horizontalHeader()->sizeHint().height();
@@ -63,7 +66,7 @@ public:
 
     bool eventFilter(QObject* pObject, QEvent* pEvent) override
     {
-        if (pObject == Widget().viewport())
+        if (pObject == mpViewport)
             return pEvent->type() == QEvent::MouseButtonDblClick &&
                    TakeDoubleClick(static_cast<QMouseEvent&>(*pEvent));
         if (CQtPeer::eventFilter(pObject, pEvent))
@@ -156,6 +159,7 @@ private:
     }
 
     QPointer<CTableModel> mpRows;
+    QWidget* mpViewport = nullptr; ///< known apart: it sends events while its view is being deleted
 };
 } // namespace
 
