@@ -2,7 +2,7 @@
 // operating point and writes the same listings. Both are processor time of processes, so that other
 // work on the machine counts little.
 
-#include "simulators/ngspice/Commands.h"
+#include "simulators/ngspice/process/Commands.h"
 
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>

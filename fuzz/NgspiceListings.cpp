@@ -1,12 +1,12 @@
 // Any bytes as what a simulator lists: each listing by its reader, and all of them as a store.
 
 #include "params/CircuitParams.h"
-#include "simulators/ngspice/Catalogue.h"
-#include "simulators/ngspice/DeviceTypes.h"
 #include "simulators/ngspice/FillStore.h"
-#include "simulators/ngspice/OwnWords.h"
-#include "simulators/ngspice/PackedCatalogue.h"
-#include "simulators/ngspice/Version.h"
+#include "simulators/ngspice/catalogue/Catalogue.h"
+#include "simulators/ngspice/catalogue/PackedCatalogue.h"
+#include "simulators/ngspice/listings/DeviceTypes.h"
+#include "simulators/ngspice/listings/OwnWords.h"
+#include "simulators/ngspice/listings/Version.h"
 
 #include <array>
 #include <cstddef>

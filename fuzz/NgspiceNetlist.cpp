@@ -1,9 +1,9 @@
 // Any bytes as a netlist: no command of it is in the copy.
 
-#include "simulators/ngspice/ImportError.h"
-#include "simulators/ngspice/Lines.h"
-#include "simulators/ngspice/NetlistCopy.h"
-#include "simulators/ngspice/PrivateFolder.h"
+#include "simulators/ngspice/listings/Lines.h"
+#include "simulators/ngspice/netlist/NetlistCopy.h"
+#include "simulators/ngspice/process/ImportError.h"
+#include "simulators/ngspice/process/PrivateFolder.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -5,7 +5,7 @@
 #include "params/CircuitParams.h"
 #include "params/ReadParamsFile.h"
 #include "simulators/TellValue.h"
-#include "simulators/ngspice/ImportError.h"
+#include "simulators/ngspice/process/ImportError.h"
 #include "support/RunProgram.h"
 #include "support/TempFolder.h"
 

@@ -1,11 +1,11 @@
 // What the cards of the bare circuits give is no default of a class.
 
-#include "simulators/ngspice/BareCircuits.h"
+#include "simulators/ngspice/catalogue/BareCircuits.h"
 
 #include "simulators/TellValue.h"
-#include "simulators/ngspice/CardTokens.h"
-#include "simulators/ngspice/Catalogue.h"
-#include "simulators/ngspice/Lines.h"
+#include "simulators/ngspice/cards/CardTokens.h"
+#include "simulators/ngspice/catalogue/Catalogue.h"
+#include "simulators/ngspice/listings/Lines.h"
 
 #include <gtest/gtest.h>
 

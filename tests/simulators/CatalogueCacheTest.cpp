@@ -1,8 +1,8 @@
-#include "simulators/ngspice/CatalogueCache.h"
+#include "simulators/ngspice/catalogue/CatalogueCache.h"
 
 #include "platform/base/Environment.h"
 #include "platform/base/MapEnvironment.h"
-#include "simulators/ngspice/PackedCatalogue.h"
+#include "simulators/ngspice/catalogue/PackedCatalogue.h"
 #include "support/TempFolder.h"
 
 #include <gtest/gtest.h>

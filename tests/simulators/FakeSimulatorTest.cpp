@@ -1,10 +1,10 @@
 // The runner, and imports from programs that only look like a simulator.
 
-#include "simulators/ngspice/ChildProcess.h"
 #include "simulators/ngspice/Import.h"
-#include "simulators/ngspice/ImportError.h"
-#include "simulators/ngspice/OwnWords.h"
-#include "simulators/ngspice/PrivateFolder.h"
+#include "simulators/ngspice/listings/OwnWords.h"
+#include "simulators/ngspice/process/ChildProcess.h"
+#include "simulators/ngspice/process/ImportError.h"
+#include "simulators/ngspice/process/PrivateFolder.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>

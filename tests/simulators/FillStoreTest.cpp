@@ -5,8 +5,8 @@
 #include "params/CircuitParams.h"
 #include "simulators/Recorded.h"
 #include "simulators/TellValue.h"
-#include "simulators/ngspice/BareCircuits.h"
-#include "simulators/ngspice/Catalogue.h"
+#include "simulators/ngspice/catalogue/BareCircuits.h"
+#include "simulators/ngspice/catalogue/Catalogue.h"
 #include "support/PrintStringU.h"
 
 #include <gmock/gmock.h>

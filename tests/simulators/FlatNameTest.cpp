@@ -1,4 +1,4 @@
-#include "simulators/ngspice/FlatName.h"
+#include "simulators/ngspice/cards/FlatName.h"
 
 #include <gtest/gtest.h>
 

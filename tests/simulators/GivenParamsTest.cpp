@@ -1,10 +1,10 @@
 // What cards give, read against small tables of the simulator's.
 
-#include "simulators/ngspice/GivenParams.h"
+#include "simulators/ngspice/cards/GivenParams.h"
 
 #include "simulators/TellValue.h"
-#include "simulators/ngspice/CardExpression.h"
-#include "simulators/ngspice/ParamTables.h"
+#include "simulators/ngspice/cards/CardExpression.h"
+#include "simulators/ngspice/listings/ParamTables.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // What of a netlist reaches the simulator.
 
-#include "simulators/ngspice/NetlistCopy.h"
+#include "simulators/ngspice/netlist/NetlistCopy.h"
 
-#include "simulators/ngspice/ImportError.h"
-#include "simulators/ngspice/NetlistLine.h"
-#include "simulators/ngspice/PrivateFolder.h"
+#include "simulators/ngspice/netlist/NetlistLine.h"
+#include "simulators/ngspice/process/ImportError.h"
+#include "simulators/ngspice/process/PrivateFolder.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>

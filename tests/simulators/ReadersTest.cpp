@@ -1,13 +1,13 @@
 // The readers of the simulator's listings, on recorded ones and on lines of other forms.
 
 #include "simulators/Recorded.h"
-#include "simulators/ngspice/CardTokens.h"
-#include "simulators/ngspice/DeviceTypes.h"
-#include "simulators/ngspice/Listing.h"
-#include "simulators/ngspice/ParamTables.h"
-#include "simulators/ngspice/ShownDevices.h"
-#include "simulators/ngspice/ShownModels.h"
-#include "simulators/ngspice/Version.h"
+#include "simulators/ngspice/cards/CardTokens.h"
+#include "simulators/ngspice/listings/DeviceTypes.h"
+#include "simulators/ngspice/listings/Listing.h"
+#include "simulators/ngspice/listings/ParamTables.h"
+#include "simulators/ngspice/listings/ShownDevices.h"
+#include "simulators/ngspice/listings/ShownModels.h"
+#include "simulators/ngspice/listings/Version.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

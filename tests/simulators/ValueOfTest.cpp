@@ -1,4 +1,4 @@
-#include "simulators/ngspice/ValueOf.h"
+#include "simulators/ngspice/listings/ValueOf.h"
 
 #include "simulators/TellValue.h"
 

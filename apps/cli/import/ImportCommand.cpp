@@ -5,9 +5,9 @@
 #include "cli/import/StopOnSignal.h"
 #include "params/CircuitParams.h"
 #include "params/ParamsFileError.h"
-#include "simulators/ngspice/CatalogueCache.h"
 #include "simulators/ngspice/Import.h"
-#include "simulators/ngspice/ImportError.h"
+#include "simulators/ngspice/catalogue/CatalogueCache.h"
+#include "simulators/ngspice/process/ImportError.h"
 
 #include <unistd.h>
 

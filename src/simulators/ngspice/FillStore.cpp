@@ -1,13 +1,13 @@
 #include "simulators/ngspice/FillStore.h"
 
 #include "params/CircuitParams.h"
-#include "simulators/ngspice/CardTokens.h"
-#include "simulators/ngspice/Cards.h"
-#include "simulators/ngspice/FlatName.h"
-#include "simulators/ngspice/GivenParams.h"
-#include "simulators/ngspice/KnownModels.h"
-#include "simulators/ngspice/ShownDevices.h"
-#include "simulators/ngspice/ShownModels.h"
+#include "simulators/ngspice/cards/CardTokens.h"
+#include "simulators/ngspice/cards/Cards.h"
+#include "simulators/ngspice/cards/FlatName.h"
+#include "simulators/ngspice/cards/GivenParams.h"
+#include "simulators/ngspice/catalogue/KnownModels.h"
+#include "simulators/ngspice/listings/ShownDevices.h"
+#include "simulators/ngspice/listings/ShownModels.h"
 
 #include <boost/variant/get.hpp>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "simulators/ngspice/Catalogue.h"
-#include "simulators/ngspice/FlatName.h"
+#include "simulators/ngspice/cards/FlatName.h"
+#include "simulators/ngspice/catalogue/Catalogue.h"
 
 #include <cstddef>
 #include <string>

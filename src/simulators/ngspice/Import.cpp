@@ -1,17 +1,17 @@
 #include "simulators/ngspice/Import.h"
 
 #include "params/CircuitParams.h"
-#include "simulators/ngspice/AskCatalogue.h"
-#include "simulators/ngspice/Cards.h"
-#include "simulators/ngspice/CatalogueCache.h"
-#include "simulators/ngspice/Commands.h"
 #include "simulators/ngspice/FillStore.h"
-#include "simulators/ngspice/ImportError.h"
-#include "simulators/ngspice/Listing.h"
-#include "simulators/ngspice/NetlistCopy.h"
-#include "simulators/ngspice/PrivateFolder.h"
-#include "simulators/ngspice/Simulator.h"
-#include "simulators/ngspice/Version.h"
+#include "simulators/ngspice/cards/Cards.h"
+#include "simulators/ngspice/catalogue/AskCatalogue.h"
+#include "simulators/ngspice/catalogue/CatalogueCache.h"
+#include "simulators/ngspice/listings/Listing.h"
+#include "simulators/ngspice/listings/Version.h"
+#include "simulators/ngspice/netlist/NetlistCopy.h"
+#include "simulators/ngspice/process/Commands.h"
+#include "simulators/ngspice/process/ImportError.h"
+#include "simulators/ngspice/process/PrivateFolder.h"
+#include "simulators/ngspice/process/Simulator.h"
 
 #include <boost/smart_ptr/make_shared.hpp>
 
