@@ -191,18 +191,3 @@ BENCHMARK(BM_FirstPainting)
     ->Iterations(3)
     ->Unit(benchmark::kMillisecond);
 } // namespace
-
-int main(int nCount, char** pArguments)
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    const QApplication application(nCount, pArguments);
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setQuitOnLastWindowClosed(false);
-    benchmark::Initialize(&nCount, pArguments);
-    if (benchmark::ReportUnrecognizedArguments(nCount, pArguments))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -225,18 +225,3 @@ void BM_Insert(benchmark::State& rState)
 }
 BENCHMARK(BM_Insert)->Unit(benchmark::kMicrosecond);
 } // namespace
-
-int main(int nCount, char** pArguments)
-{
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    const QApplication application(nCount, pArguments);
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setQuitOnLastWindowClosed(false);
-    benchmark::Initialize(&nCount, pArguments);
-    if (benchmark::ReportUnrecognizedArguments(nCount, pArguments))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
