@@ -10,7 +10,6 @@ struct TAnchor {
 };
 
 inline constexpr TAnchor kAnchorTopLeft{0, 0};
-inline constexpr TAnchor kAnchorTopRight{1, 0};
 inline constexpr TAnchor kAnchorBottomLeft{0, 1};
 inline constexpr TAnchor kAnchorBottomRight{1, 1};
 
